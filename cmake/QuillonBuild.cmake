@@ -1,0 +1,18 @@
+# How every target of the project is compiled: one interface target that carries warnings and sanitizers.
+add_library(quillon_build INTERFACE)
+if(MSVC)
+  target_compile_options(quillon_build INTERFACE /W4 /utf-8)
+else()
+  target_compile_options(quillon_build INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+endif()
+
+if(QUILLON_SANITIZE)
+  target_compile_options(quillon_build INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                                 -fno-omit-frame-pointer)
+  target_link_options(quillon_build INTERFACE -fsanitize=address,undefined)
+endif()
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
