@@ -1,0 +1,7 @@
+#include "app/ports.h"
+
+namespace quillon {
+
+Ports ports;
+
+} // namespace quillon

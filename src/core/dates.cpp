@@ -1,0 +1,35 @@
+#include "core/dates.h"
+
+#include "core/failure.h"
+
+#include <algorithm>
+#include <charconv>
+#include <chrono>
+
+namespace quillon {
+
+int dayNumber(TextView yyyymmdd) {
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    const bool eightDigits = yyyymmdd.size() == 8 && std::all_of(yyyymmdd.begin(), yyyymmdd.end(), isDigit);
+    if (!eightDigits) fail("\"" + Text{leftOf(yyyymmdd, 20)} + "\" is no date");
+
+    const auto part = [&](std::size_t at, std::size_t length) {
+        unsigned value = 0;
+        std::from_chars(yyyymmdd.data() + at, yyyymmdd.data() + at + length, value);
+        return value;
+    };
+    const std::chrono::year_month_day date{std::chrono::year{static_cast<int>(part(0, 4))},
+                                           std::chrono::month{part(4, 2)}, std::chrono::day{part(6, 2)}};
+    if (!date.ok()) fail("there is no day " + Text{yyyymmdd});
+    return static_cast<int>(std::chrono::sys_days{date}.time_since_epoch().count());
+}
+
+Text dashedDate(TextView yyyymmdd) {
+    Text dashed{midOf(yyyymmdd, 5, 2)};
+    dashed += '-';
+    dashed += rightOf(yyyymmdd, 2);
+    dashed += '-';
+    return dashed += leftOf(yyyymmdd, 4);
+}
+
+} // namespace quillon

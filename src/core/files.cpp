@@ -1,0 +1,300 @@
+#include "core/files.h"
+
+#include "core/code_page.h"
+#include "core/failure.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <fstream>
+#include <utility>
+
+#ifdef _WIN32
+#define WIN32_LEAN_AND_MEAN
+#define NOMINMAX
+#include <io.h>
+#include <windows.h>
+#else
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+namespace quillon {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr TextView programFolder = "A Quillon PRO";
+
+struct FolderName {
+    Folder folder;
+    TextView name;
+};
+
+constexpr std::array folderNames{
+    FolderName{Folder::sourceTables, "TrackMaster ExE Files"},
+    FolderName{Folder::raceCards, "Race Cards"},
+    FolderName{Folder::archives, "Archives"},
+    FolderName{Folder::results, "Results"},
+    FolderName{Folder::selections, "Selections"},
+    FolderName{Folder::selections2, "Selections2"},
+    FolderName{Folder::programs, "Programs"},
+    FolderName{Folder::entries, "Entries"},
+    FolderName{Folder::drivers, "Drivers"},
+};
+
+TextView nameOf(Folder folder) {
+    for (const FolderName& row : folderNames)
+        if (row.folder == folder) return row.name;
+    return "";
+}
+
+// Names are Windows-1252 bytes inside; on disk every system here takes Unicode.
+fs::path pathOf(TextView name) {
+    const std::string utf8 = toUtf8(name);
+    return fs::path{std::u8string{utf8.begin(), utf8.end()}};
+}
+
+Text nameOn(const fs::path& path) {
+    const std::u8string name = path.filename().u8string();
+    return fromUtf8({reinterpret_cast<const char*>(name.data()), name.size()});
+}
+
+void checkFileName(TextView name) {
+    const bool control = std::any_of(name.begin(), name.end(), [](char c) { return c >= 0 && c < ' '; });
+    const bool leadsElsewhere = name.find_first_of("/\\:") != TextView::npos || name == "." || name == "..";
+    constexpr std::size_t longestName = 200;
+    if (name.empty() || control || leadsElsewhere || name.size() > longestName)
+        fail("\"" + Text{name.substr(0, 60)} + "\" is no file name");
+}
+
+// The entry of a folder that has this name in any case.
+std::optional<fs::path> foundIgnoringCase(const fs::path& folder, TextView name) {
+    std::error_code error;
+    for (fs::directory_iterator at{folder, error}, end; !error && at != end; at.increment(error)) {
+        if (sameIgnoringCase(nameOn(at->path()), name)) return at->path();
+    }
+    return std::nullopt;
+}
+
+fs::path childIgnoringCase(const fs::path& folder, TextView name) {
+    std::error_code error;
+    const fs::path plain = folder.empty() ? pathOf(name) : folder / pathOf(name);
+    if (fs::exists(plain, error)) return plain;
+    return foundIgnoringCase(folder.empty() ? fs::path{"."} : folder, name).value_or(plain);
+}
+
+// A file handle of the system, so that what was written can be flushed to the disk.
+class DiskFile {
+public:
+    enum class Mode { rewrite, append };
+
+    DiskFile(const fs::path& path, Mode mode);
+    ~DiskFile();
+    DiskFile(const DiskFile&) = delete;
+    DiskFile& operator=(const DiskFile&) = delete;
+
+    bool isOpen() const;
+    bool write(TextView content);
+    bool flush();
+    bool close();
+
+private:
+#ifdef _WIN32
+    HANDLE handle_ = INVALID_HANDLE_VALUE;
+#else
+    int handle_ = -1;
+#endif
+};
+
+#ifdef _WIN32
+
+DiskFile::DiskFile(const fs::path& path, Mode mode)
+    : handle_(CreateFileW(path.c_str(), mode == Mode::append ? FILE_APPEND_DATA : GENERIC_WRITE,
+                          FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
+                          mode == Mode::append ? OPEN_ALWAYS : CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
+                          nullptr)) {}
+DiskFile::~DiskFile() {
+    close();
+}
+bool DiskFile::isOpen() const {
+    return handle_ != INVALID_HANDLE_VALUE;
+}
+bool DiskFile::write(TextView content) {
+    while (!content.empty()) {
+        constexpr std::size_t most = 1U << 30;
+        DWORD written = 0;
+        const auto part = static_cast<DWORD>(std::min(content.size(), most));
+        if (!WriteFile(handle_, content.data(), part, &written, nullptr) || written == 0) return false;
+        content.remove_prefix(written);
+    }
+    return true;
+}
+bool DiskFile::flush() {
+    return FlushFileBuffers(handle_) != 0;
+}
+bool DiskFile::close() {
+    if (!isOpen()) return true;
+    return CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE)) != 0;
+}
+
+#else
+
+DiskFile::DiskFile(const fs::path& path, Mode mode)
+    : handle_(::open(path.c_str(),
+                     O_WRONLY | O_CREAT | O_CLOEXEC | (mode == Mode::append ? O_APPEND : O_TRUNC), 0666)) {}
+DiskFile::~DiskFile() {
+    close();
+}
+bool DiskFile::isOpen() const {
+    return handle_ >= 0;
+}
+bool DiskFile::write(TextView content) {
+    while (!content.empty()) {
+        const auto written = ::write(handle_, content.data(), content.size());
+        if (written < 0 && errno == EINTR) continue;
+        if (written <= 0) return false;
+        content.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+bool DiskFile::flush() {
+    return ::fsync(handle_) == 0;
+}
+bool DiskFile::close() {
+    if (!isOpen()) return true;
+    return ::close(std::exchange(handle_, -1)) == 0;
+}
+
+#endif
+
+bool endsWithoutLineEnd(const fs::path& path) {
+    std::ifstream file{path, std::ios::binary | std::ios::ate};
+    if (!file || file.tellg() <= 0) return false;
+    file.seekg(-1, std::ios::end);
+    return file.get() != '\n';
+}
+
+} // namespace
+
+Text shownPath(const FilePlace& place) {
+    if (place.folder == Folder::working) return place.name;
+    Text path = "C:\\";
+    path += programFolder;
+    path += '\\';
+    if (place.folder != Folder::program) {
+        path += nameOf(place.folder);
+        path += '\\';
+    }
+    return path += place.name;
+}
+
+fs::path folderOnDisk(Folder folder) {
+    if (folder == Folder::working) return {};
+#ifdef _WIN32
+    const fs::path root = childIgnoringCase("C:\\", programFolder);
+#else
+    const fs::path root = childIgnoringCase({}, programFolder);
+#endif
+    return folder == Folder::program ? root : childIgnoringCase(root, nameOf(folder));
+}
+
+fs::path pathOnDisk(const FilePlace& place) {
+    checkFileName(place.name);
+    return childIgnoringCase(folderOnDisk(place.folder), place.name);
+}
+
+std::vector<Text> filesIn(Folder folder, TextView extension) {
+    const fs::path path = folderOnDisk(folder);
+    std::vector<Text> names;
+    std::error_code error;
+    for (fs::directory_iterator at{path.empty() ? fs::path{"."} : path, error}, end; !error && at != end;
+         at.increment(error)) {
+        Text name = nameOn(at->path());
+        const bool wanted = name.size() > extension.size() &&
+                            sameIgnoringCase(rightOf(name, static_cast<int>(extension.size())), extension);
+        if (wanted && at->is_regular_file(error)) names.push_back(std::move(name));
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+std::optional<Text> fileContent(const FilePlace& place) {
+    const fs::path path = pathOnDisk(place);
+    std::error_code error;
+    if (!fs::is_regular_file(path, error)) return std::nullopt;
+    std::ifstream file{path, std::ios::binary | std::ios::ate};
+    if (!file) return std::nullopt;
+    const auto size = file.tellg();
+    if (size < 0) return std::nullopt;
+    Text content(static_cast<std::size_t>(size), '\0');
+    file.seekg(0);
+    file.read(content.data(), size);
+    content.resize(static_cast<std::size_t>(file.gcount()));
+    return content;
+}
+
+Text readFile(const FilePlace& place) {
+    if (auto content = fileContent(place)) return std::move(*content);
+    fail(shownPath(place) + " can't be read");
+}
+
+void makeFolder(Folder folder) {
+    const fs::path path = folderOnDisk(folder);
+    if (path.empty()) return;
+    std::error_code error;
+    fs::create_directories(path, error);
+    if (!fs::is_directory(path, error)) fail("the folder " + shownPath({folder, ""}) + " can't be made");
+}
+
+PreparedFile::PreparedFile(const FilePlace& place, TextView content)
+    : target_(pathOnDisk(place)), temporary_(target_) {
+    temporary_ += ".quillon-new";
+    DiskFile file{temporary_, DiskFile::Mode::rewrite};
+    const bool written = file.isOpen() && file.write(content) && file.flush() && file.close();
+    if (written) return;
+    file.close();
+    std::error_code error;
+    fs::remove(temporary_, error);
+    fail(shownPath(place) + " can't be written");
+}
+
+PreparedFile::~PreparedFile() {
+    if (temporary_.empty()) return;
+    std::error_code error;
+    fs::remove(temporary_, error);
+}
+
+void PreparedFile::putInPlace() {
+    std::error_code error;
+    fs::rename(temporary_, target_, error);
+    if (error) fail(nameOn(target_) + " can't be replaced");
+    temporary_.clear();
+}
+
+void writeFile(const FilePlace& place, TextView content) {
+    makeFolder(place.folder);
+    PreparedFile{place, content}.putInPlace();
+}
+
+void appendToFile(const FilePlace& place, TextView content) {
+    makeFolder(place.folder);
+    const fs::path path = pathOnDisk(place);
+    Text record;
+    if (endsWithoutLineEnd(path)) record += crLf;
+    record += content;
+    DiskFile file{path, DiskFile::Mode::append};
+    if (!(file.isOpen() && file.write(record) && file.flush() && file.close()))
+        fail(shownPath(place) + " can't be written");
+}
+
+std::optional<TextView> LineReader::next() {
+    if (rest_.empty()) return std::nullopt;
+    const auto end = rest_.find('\n');
+    TextView line = rest_.substr(0, end);
+    rest_ = end == TextView::npos ? TextView{} : rest_.substr(end + 1);
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    return line;
+}
+
+} // namespace quillon

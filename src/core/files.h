@@ -1,0 +1,105 @@
+// Files and folders. All bytes that come in or go out pass through here.
+//
+// A file is named by its folder and its bare name, looked up ignoring case. Fixed folders lie under
+// "C:\A Quillon PRO\" on Windows and under "A Quillon PRO/" in the working folder elsewhere; the working
+// folder is the current folder. Names come from tables and from the user: a name that is empty, that leads
+// out of its folder, or that holds control characters is no file name and fails.
+#pragma once
+
+#include "core/text.h"
+
+#include <filesystem>
+#include <optional>
+#include <vector>
+
+namespace quillon {
+
+enum class Folder {
+    working,
+    program, ///< "C:\A Quillon PRO\" itself
+    sourceTables,
+    raceCards,
+    archives,
+    results,
+    selections,
+    selections2,
+    programs,
+    entries,
+    drivers,
+};
+
+struct FilePlace {
+    Folder folder = Folder::working;
+    Text name;
+};
+
+/// The path as users read it on every system: "C:\A Quillon PRO\Selections\M1_20260314.pms", or the bare name
+/// of a file in the working folder.
+Text shownPath(const FilePlace& place);
+
+/// A folder on this system's disk.
+std::filesystem::path folderOnDisk(Folder folder);
+
+/// The file on this system's disk: the one there is under this name in any case, or else the name as given.
+/// Fails on a name that is no file name.
+std::filesystem::path pathOnDisk(const FilePlace& place);
+
+/// The names of the folder's files that end in `extension` (".pmd"), in any case, sorted; none for a missing
+/// folder.
+std::vector<Text> filesIn(Folder folder, TextView extension);
+
+/// The whole file, or nothing when it can't be opened or read.
+std::optional<Text> fileContent(const FilePlace& place);
+
+/// The whole file; fails when it can't be opened or read.
+Text readFile(const FilePlace& place);
+
+/// Creates the folder where it is missing. Fails when it can't be.
+void makeFolder(Folder folder);
+
+/// Replaces the file, or makes it: written whole to a temporary file beside it, flushed to disk, and renamed
+/// over the old one, so that a crash or a full disk leaves the old file or the new one. A missing folder is
+/// created. Fails with the old file untouched.
+void writeFile(const FilePlace& place, TextView content);
+
+/// A file written beside its place and flushed, but not yet put there: for files that must be replaced
+/// together.
+class PreparedFile {
+public:
+    /// Writes the content beside the place. The folder must be there. Fails when it can't be written.
+    PreparedFile(const FilePlace& place, TextView content);
+    ~PreparedFile(); ///< takes the temporary file away if it was not put in place
+    PreparedFile(const PreparedFile&) = delete;
+    PreparedFile& operator=(const PreparedFile&) = delete;
+
+    /// Renames it over the old file. Fails when it can't be.
+    void putInPlace();
+
+private:
+    std::filesystem::path target_;
+    std::filesystem::path temporary_;
+};
+
+/// Adds to the end of the file in one write and flushes it; the file and its folder are created where
+/// missing. A last line without a line end gets one first, so that nothing merges with it. Fails when it
+/// can't be written.
+void appendToFile(const FilePlace& place, TextView content);
+
+/// Lines of a text, whether they end in LF or CR LF. A last line without an end counts; an end of the text
+/// behind a line end does not start another line.
+class LineReader {
+public:
+    explicit LineReader(TextView content) : rest_(content) {}
+
+    /// The next line without its end, or nothing at the end of the text.
+    std::optional<TextView> next();
+
+private:
+    TextView rest_;
+};
+
+inline constexpr TextView crLf = "\r\n";
+/// Some reports hold lines with one extra carriage return.
+inline constexpr TextView crCrLf = "\r\r\n";
+
+} // namespace quillon

@@ -1,0 +1,95 @@
+#include "support/card_test.h"
+
+#include <algorithm>
+#include <fstream>
+#include <sstream>
+
+namespace quillon {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path freshFolder() {
+    std::string pattern = (fs::temp_directory_path() / "quillon-test-XXXXXX").string();
+    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
+    return pattern;
+}
+
+std::string titled(const std::string& kind, const Text& title) {
+    return title.empty() ? kind + ": " : kind + " [" + title + "]: ";
+}
+
+} // namespace
+
+CardTest::CardTest() : folder_(freshFolder()), before_(fs::current_path()) {
+    fs::current_path(folder_);
+    card.clear();
+    cursor = {};
+    screen.clear();
+    journal.clear();
+
+    const auto record = [this](std::string text) { shown.push_back(std::move(text)); };
+    const auto nextAnswer = [this]() -> std::optional<Text> {
+        if (answers.empty()) return std::nullopt;
+        Text answer = answers.front();
+        answers.pop_front();
+        return answer;
+    };
+    ports = {};
+    ports.message = [=](const Text& text, const Text& title) { record(titled("message", title) + text); };
+    ports.question = [=](const Text& text, const Text& title) {
+        const bool yes = nextAnswer() == "Yes";
+        record(titled("question", title) + text + (yes ? " -> Yes" : " -> No"));
+        return yes;
+    };
+    ports.input = [=](const Text& text, const Text& title) {
+        const auto answer = nextAnswer();
+        record(titled("input", title) + text + " -> " + answer.value_or("(cancel)"));
+        return answer;
+    };
+    ports.beep = [=] { record("beep"); };
+    ports.view = [=](const FilePlace& file) { record("view: " + shownPath(file)); };
+    ports.browse = [=](const Text& address) { record("browse: " + address); };
+    ports.run = [=](const Text& program) { record("run: " + program); };
+    ports.hide = [=](const FilePlace& file) { record("hide: " + shownPath(file)); };
+    ports.error = [=](const Text& text) { record("error: " + text); };
+    ports.printLine = [=](const Text& line, PrintStyle style) {
+        record((style == PrintStyle::emphasised ? "print emphasised: " : "print: ") + line);
+    };
+    ports.printPage = [=] { record("print new page"); };
+    ports.printEnd = [=] { record("print end"); };
+    ports.end = [=] { record("end"); };
+}
+
+CardTest::~CardTest() {
+    ports = {};
+    fs::current_path(before_);
+    std::error_code error;
+    fs::remove_all(folder_, error);
+}
+
+std::string CardTest::contentOf(const fs::path& path) {
+    std::ifstream file{path, std::ios::binary};
+    EXPECT_TRUE(file) << path << " is missing";
+    std::ostringstream content;
+    content << file.rdbuf();
+    return content.str();
+}
+
+void CardTest::put(const fs::path& path, std::string_view content) {
+    if (path.has_parent_path()) fs::create_directories(path.parent_path());
+    std::ofstream{path, std::ios::binary} << content;
+}
+
+bool CardTest::exists(const fs::path& path) {
+    return fs::exists(path);
+}
+
+bool CardTest::journalTells(std::string_view text) {
+    const auto& faults = journal.kept();
+    return std::any_of(faults.begin(), faults.end(), [&](const Fault& fault) {
+        return fault.what.find(text) != Text::npos || fault.step.find(text) != Text::npos;
+    });
+}
+
+} // namespace quillon
