@@ -115,6 +115,10 @@ Integer toInteger(double number) {
     return static_cast<Integer>(rounded);
 }
 
+void countUp(Integer& count) {
+    count = toInteger(count + 1.0);
+}
+
 double quotient(double dividend, double divisor) {
     if (divisor == 0) fail("a division by zero");
     return dividend / divisor;
