@@ -114,12 +114,8 @@ void setHeads(Grid& view, std::span<const ViewColumn> columns) {
 
 } // namespace
 
-std::span<const ViewColumn> lineViewColumns() {
-    return lineColumns;
-}
-std::span<const ViewColumn> entryViewColumns() {
-    return entryColumns;
-}
+std::span<const ViewColumn> lineViewColumns() { return lineColumns; }
+std::span<const ViewColumn> entryViewColumns() { return entryColumns; }
 
 void FlexGrid1() {
     const Step step{"FlexGrid1"};

@@ -21,9 +21,7 @@ PastLine& PastLineTable::write(int race, int entry, int line) {
     return *kept;
 }
 
-void PastLineTable::clear() {
-    lines_.clear();
-}
+void PastLineTable::clear() { lines_.clear(); }
 
 void RaceCard::clear() {
     forEachField(cardScalars, *this, [](TextView, auto& value) { value = std::decay_t<decltype(value)>{}; });

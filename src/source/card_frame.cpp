@@ -22,9 +22,7 @@ constexpr int noPost = 99;
 // Race index of each race row, in table order.
 std::vector<int> raceIndexOfRow;
 
-double numberOf(TextView text) {
-    return lenientNumber(text);
-}
+double numberOf(TextView text) { return lenientNumber(text); }
 
 // Numbers the rows from 1 on. A row whose number does not rise above the one before it begins a new run of
 // numbers (races 1A to 5A, then 1 to 9), which goes on where the run before it ended.
@@ -151,9 +149,7 @@ void WriteDriverLists() {
     attempt([&] { writeFile({Folder::working, "DriverList.txt"}, list); });
 }
 
-Text entryUdr(const Driver& driver) {
-    return formatted("#.#00", "@@@@@", driver.udr);
-}
+Text entryUdr(const Driver& driver) { return formatted("#.#00", "@@@@@", driver.udr); }
 
 void ReadEntry() {
     const Step step{"ReadEntry"};
@@ -172,21 +168,15 @@ void ReadEntry() {
 
 } // namespace
 
-Text raceField(TextView name) {
-    return Text{trimmedRight(sourceTables.raceRows.field(name))};
-}
-Text horseField(TextView name) {
-    return Text{trimmedRight(sourceTables.horseRows.field(name))};
-}
+Text raceField(TextView name) { return Text{trimmedRight(sourceTables.raceRows.field(name))}; }
+Text horseField(TextView name) { return Text{trimmedRight(sourceTables.horseRows.field(name))}; }
 
 Integer entryIndex(TextView post) {
     const double number = numberOf(post);
     return number == noPost ? Integer{0} : toInteger(number);
 }
 
-Integer raceIndex(TextView race) {
-    return toInteger(numberOf(race) - card.raceOffset);
-}
+Integer raceIndex(TextView race) { return toInteger(numberOf(race) - card.raceOffset); }
 
 Integer currentRaceIndex() {
     if (sourceTables.raceRows.Eof()) fail("behind the last race of the card");

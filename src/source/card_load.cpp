@@ -42,9 +42,7 @@ struct LineLoop {
 };
 LineLoop loop;
 
-void TakeHorse() {
-    loop.horse = trimmed(horseField("HN"));
-}
+void TakeHorse() { loop.horse = trimmed(horseField("HN")); }
 
 void IndexHorses() {
     loop.lastRowOfHorse.clear();
@@ -136,9 +134,7 @@ void ShadeRow() {
         shade(olderCyan);
 }
 
-Text lastFour(TextView text) {
-    return Text{rightOf(text, 4)};
-}
+Text lastFour(TextView text) { return Text{rightOf(text, 4)}; }
 
 // The leader's third time, with what stands in for a missing one.
 Text leaderThirdTime() {

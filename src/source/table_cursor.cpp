@@ -60,25 +60,17 @@ void TableCursor::findRows() {
     }
 }
 
-void TableCursor::tell(TextView damage) const {
-    reportFault(fileName_ + ": " + Text{damage});
-}
+void TableCursor::tell(TextView damage) const { reportFault(fileName_ + ": " + Text{damage}); }
 
-void TableCursor::MoveFirst() {
-    row_ = 1;
-}
+void TableCursor::MoveFirst() { row_ = 1; }
 
 void TableCursor::MoveNext() {
     if (!Eof()) ++row_;
 }
 
-void TableCursor::MoveLast() {
-    row_ = std::max(rowCount(), 1);
-}
+void TableCursor::MoveLast() { row_ = std::max(rowCount(), 1); }
 
-bool TableCursor::Eof() const {
-    return row_ > rowCount();
-}
+bool TableCursor::Eof() const { return row_ > rowCount(); }
 
 int TableCursor::fieldNumber(TextView name) const {
     if (const auto found = numbers_.find(name); found != numbers_.end()) return found->second;
@@ -90,21 +82,13 @@ int TableCursor::fieldNumber(TextView name) const {
     return 0;
 }
 
-Text TableCursor::field(int number) const {
-    return field(row_, number);
-}
+Text TableCursor::field(int number) const { return field(row_, number); }
 
-void TableCursor::fieldTo(Text& text, int number) const {
-    readCell(text, row_, number);
-}
+void TableCursor::fieldTo(Text& text, int number) const { readCell(text, row_, number); }
 
-int TableCursor::rowCount() const {
-    return static_cast<int>(rows_.size());
-}
+int TableCursor::rowCount() const { return static_cast<int>(rows_.size()); }
 
-int TableCursor::fieldCount() const {
-    return static_cast<int>(format_.fields.size());
-}
+int TableCursor::fieldCount() const { return static_cast<int>(format_.fields.size()); }
 
 TextView TableCursor::fieldName(int number) const {
     if (number < 1 || number > fieldCount()) return {};
@@ -127,8 +111,6 @@ void TableCursor::readCell(Text& text, int row, int number) const {
     readStored(field.form, TextView{content_.data() + start, field.width}, text);
 }
 
-int TableCursor::row() const {
-    return row_;
-}
+int TableCursor::row() const { return row_; }
 
 } // namespace quillon

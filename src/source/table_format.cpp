@@ -249,9 +249,7 @@ TableFormat tableFormat(TextView content) {
 
 namespace {
 
-constexpr bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
+constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 // The parts of a number, as they stand in its text.
 struct NumberParts {
@@ -285,9 +283,7 @@ NumberParts numberParts(TextView text) {
 }
 
 // Blanks, 00, and the stars that stand for a number too long for its field.
-constexpr bool isPadding(char c) {
-    return c == ' ' || c == '\0' || c == '*';
-}
+constexpr bool isPadding(char c) { return c == ' ' || c == '\0' || c == '*'; }
 
 TextView withoutPadding(TextView text) {
     while (!text.empty() && isPadding(text.front())) text.remove_prefix(1);
@@ -358,9 +354,7 @@ std::int32_t orderedInteger(TextView stored) {
 }
 
 // 00 behind a text is padding of a row that was never filled in.
-TextView withoutZeros(TextView text) {
-    return text.substr(0, text.find_last_not_of('\0') + 1);
-}
+TextView withoutZeros(TextView text) { return text.substr(0, text.find_last_not_of('\0') + 1); }
 
 } // namespace
 
