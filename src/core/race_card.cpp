@@ -25,6 +25,7 @@ void PastLineTable::clear() { lines_.clear(); }
 
 void RaceCard::clear() {
     forEachField(cardScalars, *this, [](TextView, auto& value) { value = std::decay_t<decltype(value)>{}; });
+    starPercentage.clear();
     raceInfo.clear();
     entry.clear();
     pastLine.clear();

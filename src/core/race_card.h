@@ -149,6 +149,7 @@ struct RaceCard {
     Integer s3Wins = 0;
     Integer s4Wins = 0;
     Integer superfectaRaces = 0;
+    Text starPercentage{}; ///< of the star sheet, as printed: empty until the first race of a sheet has ended
 
     Table<RaceInfo, raceExtent> raceInfo;
     Table<RaceEntry, raceExtent, entryExtent> entry;
