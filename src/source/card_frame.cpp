@@ -1,6 +1,7 @@
 #include "source/card_frame.h"
 
 #include "app/screen.h"
+#include "core/card_files.h"
 #include "core/failure.h"
 #include "core/files.h"
 #include "core/formats.h"
@@ -140,12 +141,11 @@ void WriteDriverLists() {
     Text list;
     for (int n = 1; n <= listedDrivers; ++n)
         attempt([&] { list += listedDriver(card.driverTable(n)) + Text{crLf}; });
-    const Text baseName = card.cardFileName.substr(0, card.cardFileName.find('.') + 1);
     const Text head = "DRIVERS RATINGS\r\n"
                       "\r\n"
                       "DRIVER                  UDR\r\n"
                       "---------------------------\r\n";
-    attempt([&] { writeFile({Folder::drivers, baseName + "pmd2"}, head + list); });
+    attempt([&] { writeFile(cardFile(Folder::drivers, "pmd2"), head + list); });
     attempt([&] { writeFile({Folder::working, "DriverList.txt"}, list); });
 }
 

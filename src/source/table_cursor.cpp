@@ -7,9 +7,6 @@
 namespace quillon {
 namespace {
 
-constexpr char deletedFlag = '*';
-constexpr char endOfTable = '\x1A';
-
 constexpr unsigned char lower(char c) {
     return static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
 }

@@ -1,30 +1,18 @@
-// How a table of the dBASE family lies in its bytes: the header, and a field's bytes as text.
+// How a table of the dBASE family lies in its bytes.
 //
-// A header is believed only as far as the file bears it out. Nothing here reads outside the bytes it is
-// given.
+// A header is believed only as far as the file bears it out.
 #pragma once
 
 #include "core/text.h"
+#include "source/stored_field.h"
 
 #include <cstddef>
 #include <vector>
 
 namespace quillon {
 
-/// How a field's bytes are read.
-enum class FieldForm {
-    characters, ///< as stored
-    digits,     ///< a decimal number in characters
-    date,       ///< yyyymmdd in characters
-    logical,    ///< one character
-    integer32,
-    currency, ///< 64 bits, ten-thousandths
-    real64,
-    dayAndTime,       ///< a day number and milliseconds, 32 bits each
-    orderedInteger32, ///< highest byte first, sign bit turned, so that bytes sort as numbers do
-    orderedReal64,    ///< the same; of a negative number all bits are turned
-    unread,           ///< always the empty text: what lies in another file, or outside the row
-};
+constexpr char deletedFlag = '*';
+constexpr char endOfTable = '\x1A'; ///< where a deletion flag would stand
 
 struct TableField {
     Text name;
@@ -43,8 +31,5 @@ struct TableFormat {
 
 /// The format of a table from all its bytes. What is no table has no fields and no rows.
 TableFormat tableFormat(TextView content);
-
-/// A field's bytes as text, put in `text`.
-void readStored(FieldForm form, TextView stored, Text& text);
 
 } // namespace quillon

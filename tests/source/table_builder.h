@@ -10,7 +10,7 @@
 namespace quillon {
 
 /// A whole number in `bytes` bytes, lowest first.
-inline Text lowFirst(std::uint64_t number, int bytes) {
+inline Text bytesOf(std::uint64_t number, int bytes) {
     Text text;
     for (int i = 0; i < bytes; ++i) text += static_cast<char>(number >> (8 * i) & 0xFF);
     return text;
@@ -38,9 +38,9 @@ struct BuiltTable {
     Text fieldsEnd = "\x0D";
     Text behindFieldsEnd{};
     Text end = "\x1A";
-    std::optional<std::uint32_t> rowCount{};
-    std::optional<std::uint16_t> headerLength{};
-    std::optional<std::uint16_t> rowLength{};
+    std::optional<std::size_t> rowCount{};
+    std::optional<std::size_t> headerLength{};
+    std::optional<std::size_t> rowLength{};
     int nameLength = 11; ///< 32 in the longer descriptors of dBASE 7
 
     Text descriptor(const BuiltField& field) const {
@@ -48,9 +48,9 @@ struct BuiltTable {
         Text bytes = field.name;
         bytes.resize(static_cast<std::size_t>(nameLength), '\0');
         bytes += field.type;
-        if (!level7) bytes += lowFirst(0, 4);
+        if (!level7) bytes += bytesOf(0, 4);
         bytes += static_cast<char>(field.width);
-        bytes += static_cast<char>(field.decimals);
+        bytes += static_cast<char>(field.decimals + (field.width >> 8)); // of a long text the high byte
         bytes.resize(level7 ? 48 : 32, '\0');
         return bytes;
     }
@@ -67,9 +67,9 @@ struct BuiltTable {
             headLength + descriptors.size() + fieldsEnd.size() + behindFieldsEnd.size();
         Text head{static_cast<char>(mark)};
         head += "\x7E\x03\x0E"; // written on March 14th, 2026
-        head += lowFirst(rowCount.value_or(static_cast<std::uint32_t>(rows.size())), 4);
-        head += lowFirst(headerLength.value_or(static_cast<std::uint16_t>(length)), 2);
-        head += lowFirst(rowLength.value_or(static_cast<std::uint16_t>(width)), 2);
+        head += bytesOf(rowCount.value_or(rows.size()), 4);
+        head += bytesOf(headerLength.value_or(length), 2);
+        head += bytesOf(rowLength.value_or(width), 2);
         head.resize(headLength, '\0');
         Text all = head + descriptors + fieldsEnd + behindFieldsEnd;
         for (const Text& row : rows) all += row;

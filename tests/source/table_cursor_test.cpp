@@ -61,5 +61,43 @@ TEST_F(TableCursorTest, BehindTheLastRowAllFieldsAreEmpty) {
     EXPECT_EQ("Ada       ", rows.field(2));
 }
 
+TEST_F(TableCursorTest, TheWholeTableIsThereByRowAndField) {
+    const TableCursor rows = opened(entries());
+    EXPECT_EQ(3, rows.rowCount());
+    EXPECT_EQ(3, rows.fieldCount());
+    EXPECT_EQ("HORSE_NAME", rows.fieldName(2));
+    EXPECT_EQ("29", rows.field(2, 3));
+    EXPECT_EQ("0.3", rows.field(3, 3));
+    for (const int row : {-1, 0, 4}) EXPECT_EQ("", rows.field(row, 1));
+    for (const int number : {-1, 0, 4}) EXPECT_EQ("", rows.field(1, number));
+    for (const int number : {-1, 0, 4}) EXPECT_EQ("", rows.fieldName(number));
+}
+
+TEST_F(TableCursorTest, FieldNamesIgnoreCaseAndTheFirstOfTwoWins) {
+    const TableCursor rows =
+        opened({.fields = {{"Race", 'N', 2}, {"RACE", 'N', 2}, {"race", 'N', 2}}, .rows = {"  1 2 3"}});
+    for (const TextView name : {"RACE", "race", "Race", "rACE"}) EXPECT_EQ("1", rows.field(name));
+    EXPECT_EQ(1, rows.fieldNumber("race"));
+    EXPECT_EQ("2", rows.field(2)); // the others are there by their number
+    EXPECT_EQ(0, rows.fieldNumber("RACE2"));
+}
+
+TEST_F(TableCursorTest, AFieldIsPutInATextThatIsThere) {
+    const TableCursor rows = opened(entries());
+    Text text = "something longer than a name";
+    rows.fieldTo(text, 2);
+    EXPECT_EQ("Ada       ", text);
+    rows.fieldTo(text, 0);
+    EXPECT_EQ("", text);
+}
+
+TEST_F(TableCursorTest, ASerialTellsOneTableFromAnother) {
+    const TableCursor first = opened(entries());
+    const TableCursor second = opened(entries());
+    EXPECT_EQ(0U, TableCursor{}.serial());
+    EXPECT_NE(0U, first.serial());
+    EXPECT_NE(first.serial(), second.serial());
+}
+
 } // namespace
 } // namespace quillon
