@@ -269,7 +269,7 @@ void appendToFile(const FilePlace& place, TextView content) {
     makeFolder(place.folder);
     const fs::path path = pathOnDisk(place);
     Text record;
-    if (endsWithoutLineEnd(path)) record += crLf;
+    if (!content.empty() && endsWithoutLineEnd(path)) record += crLf;
     record += content;
     DiskFile file{path, DiskFile::Mode::append};
     if (!(file.isOpen() && file.write(record) && file.flush() && file.close()))

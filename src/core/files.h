@@ -81,8 +81,8 @@ private:
 };
 
 /// Adds to the end of the file in one write and flushes it; the file and its folder are created where
-/// missing. A last line without a line end gets one first, so that nothing merges with it. Fails when it
-/// can't be written.
+/// missing. A last line without a line end gets one first, so that nothing merges with it; adding nothing to
+/// a file that is there leaves it as it is. Fails when it can't be written.
 void appendToFile(const FilePlace& place, TextView content);
 
 /// Lines of a text, whether they end in LF or CR LF. A last line without an end counts; an end of the text

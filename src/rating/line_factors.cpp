@@ -15,18 +15,22 @@
 namespace quillon {
 namespace {
 
-// Park marks: one character for a call raced outside, two for a call raced two wide.
-constexpr TextView parked = "\xBA";
-constexpr TextView parkedInOtherHand = "\xB0";
-constexpr TextView parkedTwoWide = "\xBA\xBA";
-constexpr TextView parkedTwoWideInOtherHand = "\xB0\xB0";
+// Park marks: a ring for a call raced outside, two for a call raced two wide. Tables carry the ring in two
+// codes.
+constexpr std::array parkedMarks{TextView{"\xBA"}, TextView{"\xB0"}};
+constexpr std::array parkedTwoWideMarks{TextView{"\xBA\xBA"}, TextView{"\xB0\xB0"}};
+
+template <std::size_t Count>
+bool isOneOf(const std::array<TextView, Count>& marks, TextView mark) {
+    return std::find(marks.begin(), marks.end(), mark) != marks.end();
+}
 
 bool isParked(TextView mark) {
-    return mark == parked || mark == parkedInOtherHand;
+    return isOneOf(parkedMarks, mark);
 }
 
 bool isParkedTwoWide(TextView mark) {
-    return mark == parkedTwoWide || mark == parkedTwoWideInOtherHand;
+    return isOneOf(parkedTwoWideMarks, mark);
 }
 
 // What a call raced outside is worth: the tighter the turns, the more ground it costs.
@@ -75,8 +79,8 @@ bool isQualifier() {
 
 } // namespace
 
-// The figure is the horse's time and its own last quarter by turns, less the 70 seconds that bring a fair
-// line to about 60.
+// The time from the leader's third call to the horse's finish, and what its final time, taken twice, has
+// above 70.
 void LastQuarterCalc() {
     const Step step{"LastQuarterCalc"};
     // The card's first line has no line index yet; it is stored as line 1.
@@ -99,8 +103,8 @@ void LastQuarterCalc() {
         horse = lenientNumber(cursor.horseFinal);
         if (horse < 20) horse += 60; // two minutes or more
     }
-    const double behindLeader = horse - lenientNumber(cursor.leaderFinal);
-    cursor.lineValue = numberText(behindLeader + horse - (70 - horse));
+    const double lastPart = horse - lenientNumber(cursor.leaderFinal);
+    cursor.lineValue = numberText(lastPart + horse - (70 - horse));
 }
 
 void LeadHorse() {
