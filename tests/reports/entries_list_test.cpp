@@ -32,6 +32,17 @@ protected:
         card.entry(race, post).rating = " 6" + std::to_string(post) + ".0";
     }
 
+    /// A table of one row with one field, CALL_ST_PO, two wide.
+    static Text lineTable(const Text& stretchPosition) {
+        Text table("\x03\0\0\0", 4);
+        table += Text("\1\0\0\0", 4);   // rows
+        table += Text("\x41\0\3\0", 4); // bytes of the head: 32, a field's 32 and the mark; bytes of a row
+        table += Text(20, '\0');
+        table += Text("CALL_ST_PO\0C", 12) + Text(4, '\0') + '\2' + Text(15, '\0');
+        table += '\r';
+        return table + ' ' + stretchPosition;
+    }
+
     static void fill(int race, int entries) {
         for (int post = 1; post <= entries; ++post)
             addEntry(race, post, "H" + std::to_string(race) + "-" + std::to_string(post));
@@ -79,6 +90,15 @@ TEST_F(EntriesListTest, WritesHeadAndEntriesAndShowsThem) {
         list());
     EXPECT_EQ(Lines{"view: C:\\A Quillon PRO\\Entries\\M1_20260314.txt"}, shown);
     EXPECT_EQ("NOTEPAD C:\\A Quillon PRO\\Entries\\M1_20260314.txt\r\n", contentOf("Archives.bat"));
+}
+
+TEST_F(EntriesListTest, TheThirdLineIsTheStretchPositionOfTheRowAtHand) {
+    sourceTables.lineRows.openContent(lineTable("5 "), "RUNLINHR.DBF");
+    Entries();
+    EXPECT_EQ("5 ", linesOf(listPath).at(2));
+    sourceTables.lineRows.MoveNext(); // as a load leaves it
+    Entries();
+    EXPECT_EQ("", linesOf(listPath).at(2));
 }
 
 TEST_F(EntriesListTest, ARaceOfEightGivesThreeEmptyLinesBeforeTheNextHeading) {

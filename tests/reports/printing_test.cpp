@@ -65,10 +65,10 @@ TEST_F(PrintingTest, PrintsWhatTheCondensedProgramWrote) {
     card.raceInfo(1).postTime = "7:15";
     Condensed_PPP();
     PrintCondensedProgram();
-    ASSERT_EQ(1U + 1 + 7 + 7 + 2, shown.size()); // message, empty line, head, race, end and message
+    ASSERT_EQ(1U + 1 + 7 + 8 + 2, shown.size()); // message, empty line, head, race, end and message
     EXPECT_EQ("print emphasised: M1", shown.at(5));
     EXPECT_TRUE(shown.at(9).starts_with("print emphasised: RACE ")) << shown.at(9);
-    EXPECT_EQ("print new page", shown.at(15));
+    EXPECT_EQ("print new page", shown.at(1 + 1 + 7 + 7));
 }
 
 TEST_F(PrintingTest, AsksForThePrinterAndStopsWithNoCardOpen) {
