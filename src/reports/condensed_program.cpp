@@ -1,5 +1,6 @@
 #include "reports/condensed_program.h"
 
+#include "app/ports.h"
 #include "core/card_files.h"
 #include "core/failure.h"
 #include "core/formats.h"
@@ -17,8 +18,9 @@ constexpr const char* title       = "The Quillon Selections by Tarnbeck Software
 constexpr const char* raceLine    = "RACE {}  Post Time: {}   {}    CR: {}   {} Mi";
 constexpr const char* purseLine   = "PURSE: {} {}";
 constexpr const char* wagerLine   = "WAGERING:  {}";
-constexpr const char* heading     = "Date    Track  CD   Purse        Class  CR    1/4    1/2    3/4  Final PP"
-                                    "   1C      2C      3C    SC Fn  Horses Times   Driver       ";
+constexpr const char* heading     =
+    "Date    Track  CD   Purse        Class  CR    1/4    1/2    3/4  Final PP"
+    "   1C      2C      3C    SC Fn  Horses Times   Driver       ";
 constexpr const char* entryLine   = "@@@ {}   @@@@  {} Driver: {} {}";
 constexpr const char* raceCells   = "{} {} {} @@@@@@@ @@@@@@@@@@@@ {} {} {} {} {} ";
 constexpr const char* callCells   = "{} {}{}{}{}{}{}{}{}{}{}{}{}";
@@ -118,6 +120,22 @@ void addRace(ReportWriter& program, int race) {
     program.line("{}", Text(ruleWidth, '-'));
 }
 
+// The rule behind a race ends its page. Track, first race, headings, entries and selections stand out.
+void printProgramLine(int number, TextView line) {
+    constexpr int trackLine = 4;
+    constexpr int firstRaceLine = 8;
+    if (line.starts_with('-') || line.starts_with('=')) {
+        ports.printPage();
+    } else if (number == trackLine || number == firstRaceLine) {
+        ports.printLine(Text{line}, PrintStyle::emphasised);
+    } else if (line.starts_with("Date")) {
+        ports.printLine(" - " + Text{line}, PrintStyle::emphasised);
+    } else {
+        const bool standsOut = line.starts_with("Sel") || contains(line, "Driver");
+        ports.printLine(Text{line}, standsOut ? PrintStyle::emphasised : PrintStyle::plain);
+    }
+}
+
 } // namespace
 
 void Condensed_PPP() {
@@ -127,6 +145,19 @@ void Condensed_PPP() {
     for (int race = 1; race <= ratedRaces; ++race)
         if (!card.raceInfo(race).postTime.empty()) addRace(program, race);
     attempt([&] { writeFile(cardFile(Folder::programs, "ppp"), program.content()); });
+}
+
+void PrintCondensedProgram() {
+    const Step step{"PrintCondensedProgram"};
+    ports.message("Check Printer ON", "");
+    if (card.cardFileName.empty()) return;
+    const Text program = readFile(cardFile(Folder::programs, "ppp"));
+    ports.printLine("", PrintStyle::plain);
+    LineReader lines{program};
+    int number = 0;
+    while (const auto line = lines.next()) printProgramLine(++number, *line);
+    ports.printEnd();
+    ports.message("Turn printer 'ON' then click 'OK' ", "");
 }
 
 } // namespace quillon

@@ -7,4 +7,8 @@ namespace quillon {
 /// characters in the entries it prints. Resumes at failures.
 void Condensed_PPP();
 
+/// Prints the ".ppp" program of the open card, a page a race. With no card open, or no such file, it stops
+/// behind its first message.
+void PrintCondensedProgram();
+
 } // namespace quillon

@@ -19,14 +19,17 @@ namespace {
 constexpr const char* title        = "QUILLON Selections - Professional Version";
 constexpr const char* raceLine     = "RACE: {}  POST TIME: {} {} {}   {} Mi";
 constexpr const char* purseLine    = "${}  {}";
-constexpr const char* sheetHeading = " PN   PP       ML  ENTRY                          DRIVER   UDR     PR      Scr Adj*";
-constexpr const char* starsHeading = " PN   PP       ML  ENTRY                          DRIVER   UDR     PR ";
+constexpr const char* sheetHeading =
+    " PN   PP       ML  ENTRY                          DRIVER   UDR     PR      Scr Adj*";
+constexpr const char* starsHeading =
+    " PN   PP       ML  ENTRY                          DRIVER   UDR     PR ";
 constexpr const char* entryLine    = "@@@@  @@@  @@@@@@@  {}  @@@@@@@@@@@@@@@  @@@@@";
 constexpr const char* fifthLine    = "@@@@  {}  @@@@@@@  {}  @@@@@@@@@@@@@@@  @@@@@";
 constexpr const char* firstPick    = "SELECTIONS: @@@@";
 constexpr const char* furtherPick  = "  -{}";
-constexpr const char* scratchNote  = "*Scr_Adj:  If an entry with a Post Position that is INSIDE the Selection, "
-                                     "DEDUCT the Scr_Adj from the PR.";
+constexpr const char* scratchNote  =
+    "*Scr_Adj:  If an entry with a Post Position that is INSIDE the Selection, "
+    "DEDUCT the Scr_Adj from the PR.";
 
 // How far S1 stands out, and the bet that it is worth.
 struct BetMark { double below; TextView text; };

@@ -1,0 +1,18 @@
+#include "tools/help.h"
+
+#include "app/ports.h"
+#include "reports/report_writer.h"
+
+namespace quillon {
+
+void About() {
+    Text about = "Quillon Professional Version\n";
+    about += publisherLines.front();
+    ports.message(about, "");
+}
+
+void Version() {
+    ports.message("Quillon Professional v3.1", "");
+}
+
+} // namespace quillon
