@@ -21,35 +21,36 @@ constexpr bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-// The parts of a number, as they stand in its text.
-struct NumberParts {
+struct PlainNumber {
     bool isNumber = false;
     bool negative = false;
-    TextView whole;    ///< without leading zeros
-    TextView decimals; ///< without trailing zeros
+    TextView digits; ///< with the point, but without needless zeros: empty for 0, ".3" for 0.30
 };
 
-NumberParts numberParts(TextView text) {
-    NumberParts parts;
+PlainNumber plainNumberIn(TextView text) {
+    PlainNumber number;
     if (!text.empty() && (text[0] == '-' || text[0] == '+')) {
-        parts.negative = text[0] == '-';
+        number.negative = text[0] == '-';
         text.remove_prefix(1);
     }
     std::size_t place = 0;
-    while (place < text.size() && isDigit(text[place])) ++place;
+    const auto passDigits = [&] {
+        while (place < text.size() && isDigit(text[place])) ++place;
+    };
+    passDigits();
     const std::size_t wholeEnd = place;
     if (place < text.size() && text[place] == '.') ++place;
     const std::size_t decimalsStart = place;
-    while (place < text.size() && isDigit(text[place])) ++place;
-    parts.isNumber = place == text.size() && (wholeEnd > 0 || place > decimalsStart);
-    if (!parts.isNumber) return parts;
+    passDigits();
+    number.isNumber = place == text.size() && (wholeEnd > 0 || place > decimalsStart);
+    if (!number.isNumber) return number;
 
-    std::size_t wholeStart = 0;
-    while (wholeStart < wholeEnd && text[wholeStart] == '0') ++wholeStart;
+    std::size_t start = 0;
+    while (start < wholeEnd && text[start] == '0') ++start;
     while (place > decimalsStart && text[place - 1] == '0') --place;
-    parts.whole = text.substr(wholeStart, wholeEnd - wholeStart);
-    parts.decimals = text.substr(decimalsStart, place - decimalsStart);
-    return parts;
+    const std::size_t end = place > decimalsStart ? place : wholeEnd; // a point needs decimals
+    number.digits = text.substr(start, end - start);
+    return number;
 }
 
 // Blanks, 00, and the stars that stand for a number too long for its field.
@@ -66,19 +67,15 @@ TextView withoutPadding(TextView text) {
 // Works on the digits, so that no figure changes on its way through a double.
 void readDigits(TextView stored, Text& text) {
     stored = withoutPadding(stored);
-    const NumberParts parts = numberParts(stored);
-    if (!parts.isNumber) {
+    const PlainNumber number = plainNumberIn(stored);
+    if (!number.isNumber) {
         text.assign(stored);
         return;
     }
-    text.clear();
-    const bool isZero = parts.whole.empty() && parts.decimals.empty();
-    if (parts.negative && !isZero) text += '-';
-    if (parts.whole.empty()) text += '0';
-    text += parts.whole;
-    if (parts.decimals.empty()) return;
-    text += '.';
-    text += parts.decimals;
+    text.assign(number.digits);
+    const bool isZero = text.empty();
+    if (isZero || text[0] == '.') text.insert(0, 1, '0');
+    if (number.negative && !isZero) text.insert(0, 1, '-');
 }
 
 void readCurrency(std::int64_t tenThousandths, Text& text) {
@@ -127,7 +124,8 @@ std::int32_t orderedInteger(TextView stored) {
 
 // 00 behind a text is padding of a row that was never filled in.
 TextView withoutZeros(TextView text) {
-    return text.substr(0, text.find_last_not_of('\0') + 1);
+    while (!text.empty() && text.back() == '\0') text.remove_suffix(1);
+    return text;
 }
 
 } // namespace
