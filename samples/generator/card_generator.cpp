@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
+#include <utility>
 
 namespace samples {
 
@@ -96,7 +98,7 @@ private:
         race.number = count + offset_;
         race.cardLetter = count <= lettered_ ? "A" : "";
         race.purse = raceClass.purse;
-        race.conditions = conditionsText(raceClass, trot);
+        race.conditions = std::string{raceClass.conditions} + (trot ? " TROT" : " PACE") + ", ONE MILE.";
         race.classRating = random_.around(raceClass.rating, 2);
         race.wagers = wagersOf(count, options_.races, offset_);
         race.postTime = postTimeText(firstPost_ + 20 * (count - 1) + random_.between(0, 3));
@@ -110,12 +112,6 @@ private:
         if (options_.odd.alsoEligibles && entries > 3 && random_.chance(25)) makeAlsoEligible(race);
         if (options_.odd.blankCells && random_.chance(10)) race.postTime.clear();
         card_.races.push_back(std::move(race));
-    }
-
-    std::string conditionsText(const RaceClass& raceClass, bool trot) {
-        std::string text{raceClass.conditions};
-        if (random_.chance(25)) text += trot ? " TROTTING MARES." : " FILLIES AND MARES.";
-        return text + (trot ? " TROT" : " PACE") + ", ONE MILE.";
     }
 
     // The local drivers first, in any order, then the others: nobody drives two horses of a race.
@@ -137,7 +133,6 @@ private:
         entry.post = post;
         entry.driver = driverOrder_[static_cast<std::size_t>(post - 1) % driverOrder_.size()];
         entry.trainer = random_.between(1, static_cast<int>(card_.trainers.size()));
-        entry.sex = random_.pick(std::array{"G", "G", "G", "M", "M", "H"});
         entry.age = random_.between(3, 10);
         entry.sire = sireName(random_);
         entry.dam = damName(random_);
@@ -160,7 +155,8 @@ private:
         const int lastClass = static_cast<int>(raceClasses.size()) - 1;
         const int step = std::clamp(static_cast<int>(classOfRace_) + random_.between(-2, 2), 0, lastClass);
         PastLine line =
-            makeLine(random_, {.date = date,
+            makeLine(random_, {.horse = entry.name,
+                               .date = date,
                                .track = random_.chance(60) ? tracks_.front() : random_.pick(tracks_),
                                .raceClass = &raceClasses[static_cast<std::size_t>(step)],
                                .qualifier = options_.odd.qualifiers && random_.chance(5),

@@ -133,7 +133,6 @@ constexpr Column<H> horseColumns[] = {
     {"MORN_ODDS",  'C',  5, 0, [](const H& h) { return h.entry.morningLine; }},
     {"DN",         'N',  3, 0, [](const H& h) { return textOrBlank(h.entry.driver); }},
     {"TN",         'N',  3, 0, [](const H& h) { return textOrBlank(h.entry.trainer); }},
-    {"SEX",        'C',  1, 0, [](const H& h) { return h.entry.sex; }},
     {"AGE",        'N',  2, 0, [](const H& h) { return text(h.entry.age); }},
 };
 

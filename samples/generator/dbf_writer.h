@@ -11,7 +11,7 @@ namespace samples {
 // One column of a table. Types: C text, N and F decimal text, D date (yyyymmdd), L logical (T or F), and the
 // binary ones: I 32-bit integer, B double, Y currency (64-bit, ten-thousandths).
 struct Field {
-    std::string name; // at most 10 characters
+    std::string name{}; // at most 10 characters
     char type = 'C';
     unsigned width = 0; // bytes in a record
     unsigned decimals = 0;
@@ -22,13 +22,13 @@ unsigned fixedWidth(char type);
 
 // Cells are text, one a field, in Windows-1252 bytes; a missing cell at the end is blank.
 struct Row {
-    std::vector<std::string> cells;
+    std::vector<std::string> cells{};
     bool deleted = false;
 };
 
 struct Table {
-    std::vector<Field> fields;
-    std::vector<Row> rows;
+    std::vector<Field> fields{};
+    std::vector<Row> rows{};
 };
 
 // What a table file says of itself.

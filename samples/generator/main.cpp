@@ -1,6 +1,7 @@
 #include "card_generator.h"
 #include "card_tables.h"
 #include "file_bytes.h"
+#include "sample_card.h"
 #include "table_text.h"
 
 #include <algorithm>
@@ -20,6 +21,7 @@ namespace {
 constexpr const char* usageText =
     "quillon-cardmaker makes cards for Quillon. DIR is a working folder.\n"
     "\n"
+    "  sample DIR                                  the sample card's working folder\n"
     "  random SEED RACES ENTRIES LINES DIR [odd]   an invented card: so many races, at most so many entries\n"
     "                                              a race and lines an entry; odd: with every oddity\n"
     "  largest DIR                                 the largest card that fits\n"
@@ -68,6 +70,10 @@ bool makeCard(const samples::CardOptions& options, const fs::path& folder) {
     return samples::writeCard(samples::generateCard(options), folder) || fail(folder, "can't be written");
 }
 
+bool makeSample(Arguments arguments) {
+    return samples::writeSample(arguments[0]) || fail(arguments[0], "can't be written");
+}
+
 // The whole word as a number above 0, or 0.
 template <class Number>
 Number numberOf(const std::string& word) {
@@ -98,6 +104,7 @@ struct Command {
     bool (*run)(Arguments);
 };
 constexpr std::array commands{
+    Command{"sample", 1, "", makeSample},
     Command{"random", 5, "odd", makeRandomCard},
     Command{"largest", 1, "", [](Arguments words) { return makeCard(samples::largestCard(), words[0]); }},
     Command{"oversized", 1, "", [](Arguments words) { return makeCard(samples::oversizedCard(), words[0]); }},

@@ -1,5 +1,6 @@
 #include "names.h"
 
+#include <iterator>
 #include <string_view>
 #include <unordered_set>
 
@@ -132,6 +133,10 @@ std::vector<std::string> peopleNames(Random& random, std::size_t count) {
         return name;
     });
     return names;
+}
+
+std::string horseName(Random& random) {
+    return random.chance(50) ? std::string{random.pick(wholeNames)} : composedName(random);
 }
 
 std::string sireName(Random& random) {

@@ -16,6 +16,9 @@ std::vector<std::string> horseNames(Random& random, std::size_t count);
 // So many different people, "Last, First M".
 std::vector<std::string> peopleNames(Random& random, std::size_t count);
 
+// Any horse's name, which may be one that was given before.
+std::string horseName(Random& random);
+
 std::string sireName(Random& random);
 std::string damName(Random& random);
 

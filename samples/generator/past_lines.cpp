@@ -155,7 +155,7 @@ PastLine makeLine(Random& random, const LineSetting& setting) {
     drawParks(random, line);
     setOwnTimes(line);
     if (!setting.qualifier) drawOdds(random, line, setting.level - rating);
-    line.winner = horseNames(random, 1).front();
+    line.winner = line.calls[atFinish].position == 1 ? setting.horse : horseName(random);
     return line;
 }
 

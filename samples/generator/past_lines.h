@@ -5,10 +5,13 @@
 #include "random.h"
 #include "tracks.h"
 
+#include <string>
+
 namespace samples {
 
 // The race of a past line and the horse that ran in it.
 struct LineSetting {
+    std::string horse{}; // name
     Day date{};
     const Track* track = nullptr;
     const RaceClass* raceClass = nullptr; // not used in a qualifier

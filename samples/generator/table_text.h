@@ -11,7 +11,7 @@ namespace samples {
 
 struct TextError {
     std::size_t line = 0; // from 1
-    std::string message;
+    std::string message{};
 };
 
 // Reads a table written for people, in UTF-8:

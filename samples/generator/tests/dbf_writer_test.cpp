@@ -4,6 +4,7 @@
 
 #include <ostream>
 #include <string>
+#include <string_view>
 
 namespace {
 
@@ -11,6 +12,7 @@ using samples::Table;
 using samples::tableBytes;
 using samples::TableForm;
 using namespace std::string_literals;
+using namespace std::string_view_literals;
 
 Table twoRaces() {
     return {.fields = {{"RACE", 'N', 3, 0}, {"CARD_ID", 'C', 1, 0}},
@@ -64,9 +66,9 @@ std::string cellBytes(const samples::Field& field, const std::string& cell) {
 
 struct CellCase {
     const char* shows;
-    samples::Field field;
-    std::string cell;
-    std::string expected;
+    char type;
+    unsigned width, decimals;
+    std::string_view cell, expected;
 };
 
 void PrintTo(const CellCase& row, std::ostream* out) {
@@ -76,27 +78,28 @@ void PrintTo(const CellCase& row, std::ostream* out) {
 class DbfCell : public testing::TestWithParam<CellCase> {};
 
 TEST_P(DbfCell, IsStoredAsItsTypeSays) {
-    EXPECT_EQ(GetParam().expected, cellBytes(GetParam().field, GetParam().cell));
+    const auto& [shows, type, width, decimals, cell, expected] = GetParam();
+    EXPECT_EQ(expected, cellBytes({"F", type, width, decimals}, std::string{cell}));
 }
 
-const CellCase cellCases[] = {
-    {"text is blank filled", {"F", 'C', 5, 0}, "MVR", "MVR  "},
-    {"text is cut", {"F", 'C', 3, 0}, "Biscuit", "Bis"},
-    {"code page bytes pass", {"F", 'C', 2, 0}, "\xBA", "\xBA "},
-    {"number is right-aligned", {"F", 'N', 4, 0}, "12", "  12"},
-    {"places are filled up", {"F", 'N', 6, 4}, "1", "1.0000"},
-    {"places that are there stay", {"F", 'F', 7, 4}, "1.0625", " 1.0625"},
-    {"negative number", {"F", 'N', 6, 1}, "-99", " -99.0"},
-    {"no number stays as it is", {"F", 'N', 5, 1}, "x.", "   x."},
-    {"empty number is blanks", {"F", 'N', 3, 1}, "", "   "},
-    {"too long a number is asterisks", {"F", 'N', 3, 1}, "100", "***"},
-    {"date", {"F", 'D', 8, 0}, "20260314", "20260314"},
-    {"logical", {"F", 'L', 1, 0}, "T", "T"},
-    {"integer 258 = 0102", {"F", 'I', 4, 0}, "258", "\x02\x01\0\0"s},
-    {"integer -2 in two's complement", {"F", 'I', 4, 0}, "-2", "\xFE\xFF\xFF\xFF"s},
-    {"double 1.5 = 3FF8...", {"F", 'B', 8, 0}, "1.5", "\0\0\0\0\0\0\xF8\x3F"s},
-    {"currency 2.5 is 25000 = 61A8", {"F", 'Y', 8, 0}, "2.5", "\xA8\x61\0\0\0\0\0\0"s},
-    {"no number in binary is 0", {"F", 'I', 4, 0}, "", "\0\0\0\0"s},
+constexpr CellCase cellCases[] = {
+    {"text is blank filled", 'C', 5, 0, "MVR", "MVR  "},
+    {"text is cut", 'C', 3, 0, "Biscuit", "Bis"},
+    {"code page bytes pass", 'C', 2, 0, "\xBA", "\xBA "},
+    {"number is right-aligned", 'N', 4, 0, "12", "  12"},
+    {"places are filled up", 'N', 6, 4, "1", "1.0000"},
+    {"places that are there stay", 'F', 7, 4, "1.0625", " 1.0625"},
+    {"negative number", 'N', 6, 1, "-99", " -99.0"},
+    {"no number stays as it is", 'N', 5, 1, "x.", "   x."},
+    {"empty number is blanks", 'N', 3, 1, "", "   "},
+    {"too long a number is asterisks", 'N', 3, 1, "100", "***"},
+    {"date", 'D', 8, 0, "20260314", "20260314"},
+    {"logical", 'L', 1, 0, "T", "T"},
+    {"integer 258 = 0102", 'I', 4, 0, "258", "\x02\x01\0\0"sv},
+    {"integer -2 in two's complement", 'I', 4, 0, "-2", "\xFE\xFF\xFF\xFF"sv},
+    {"double 1.5 = 3FF8...", 'B', 8, 0, "1.5", "\0\0\0\0\0\0\xF8\x3F"sv},
+    {"currency 2.5 is 25000 = 61A8", 'Y', 8, 0, "2.5", "\xA8\x61\0\0\0\0\0\0"sv},
+    {"no number in binary is 0", 'I', 4, 0, "", "\0\0\0\0"sv},
 };
 
 INSTANTIATE_TEST_SUITE_P(Types, DbfCell, testing::ValuesIn(cellCases));
