@@ -297,10 +297,24 @@ void CloseLine() {
 // The two text forms that the figure is put through between the factors; both round it to one decimal.
 enum class Form { asItStands, wide, narrow };
 
+// A positive number that is rounded to one decimal already, as most figures are: neither form changes it.
+bool isRounded(TextView figure) {
+    const std::size_t point = figure.size() - 2;
+    if (figure.size() < 3 || figure.size() > 7 || figure[0] == '0' || figure[point] != '.') return false;
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    return std::all_of(figure.begin(), figure.end() - 2, isDigit) && isDigit(figure.back());
+}
+
 void putLineValueIn(Form form) {
-    if (form == Form::wide)
+    if (form == Form::asItStands) return;
+    constexpr int wideWidth = 7;
+    constexpr int narrowWidth = 5;
+    const TextView figure = trimmed(cursor.lineValue);
+    if (isRounded(figure))
+        cursor.lineValue = rightAligned(figure, form == Form::wide ? wideWidth : narrowWidth);
+    else if (form == Form::wide)
         cursor.lineValue = formatted("#####.0", "@@@@@@@", cursor.lineValue);
-    else if (form == Form::narrow)
+    else
         cursor.lineValue = formatted("###.0", "@@@@@", cursor.lineValue);
 }
 
