@@ -101,6 +101,8 @@ TEST_F(SelectionSheetTest, MarksTheMarginOfS1) {
         {"a tenth", " 0.0", " 0.1", "DEAD HEAT"},
         {"a tenth with the residue of its subtraction", " 60.0", " 60.1",
          "DEAD HEAT"}, // 0.10 of 0.100000000000001
+        {"a bit more than a tenth", "0", "0.11", "VDH      "},
+        {"the cut comes before the mark: 0.104 is 0.10", "0", "0.104", "DEAD HEAT"},
         {"two tenths", " 60.0", " 60.2", "VDH      "},
         {"just under one", " 60.0", " 60.9", "VDH      "},
         {"one", " 60.0", " 61.0", "$        "},
@@ -117,7 +119,6 @@ TEST_F(SelectionSheetTest, MarksTheMarginOfS1) {
         {"9.95 too", " 60.0", " 69.95", "DEAD HEAT"},
         {"ten", " 60.0", " 70.0", "$$$$$    "},
         {"10.3", " 60.0", " 70.3", "$$$$$    "},
-        {"the cut comes before the mark: 1.999 is 1.99", "0", "1.999", "$        "},
         {"S2 better than S1", " 61.0", " 60.0", "DEAD HEAT"},
         {"no ratings", "", "", "DEAD HEAT"},
         {"text counts as 0", " -- ", "  3.5", "$$$      "},
@@ -191,13 +192,13 @@ TEST_F(SelectionSheetTest, StarsAreAMarginOfFiveAtThreeToFive) {
         bool star;
     };
     const Row rows[] = {
-        {" 3/1", "65.0", true},  {" 5/1", "65.0", true},  {" 4/1", "65.0", true},
-        {" 2/1", "65.0", false}, {" 6/1", "65.0", false}, {" 5/2", "65.0", false}, // 2.5 is 2
-        {" 7/2", "65.0", true},                                                    // 3.5 is 4
-        {"11/2", "65.0", false},                                                   // 5.5 is 6
-        {" 9/2", "65.0", true},                                                    // 4.5 is 4
-        {" 4/1", "64.9", false}, {" 4/1", "69.9", false}, {" 4/1", "70.0", true},
-        {"    ", "65.0", false}, {" EVN", "65.0", false}, {" 4/0", "65.0", false},
+        {" 3/1", "65.0", true},   {" 5/1", "65.0", true},  {" 4/1", "65.0", true},  {" 2/1", "65.0", false},
+        {" 6/1", "65.0", false},  {" 5/2", "65.0", false}, // 2.5 is 2
+        {" 7/2", "65.0", true},                            // 3.5 is 4
+        {"11/2", "65.0", false},                           // 5.5 is 6
+        {" 9/2", "65.0", true},                            // 4.5 is 4
+        {" 4/1", "64.99", false}, {" 4/1", "64.9", false}, {" 4/1", "69.9", false}, {" 4/1", "70.0", true},
+        {"    ", "65.0", false},  {" EVN", "65.0", false}, {" 4/0", "65.0", false},
     };
     for (const Row& row : rows) {
         rankByRatings(1, {"60.0", row.s2}, row.morningLine);
