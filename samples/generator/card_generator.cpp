@@ -45,10 +45,6 @@ std::string postTimeText(int minutes) {
            (hour < 12 ? " AM" : " PM");
 }
 
-std::string numbered(int post) {
-    return std::to_string(post);
-}
-
 // Builds one card from its options.
 class CardMaker {
 public:
@@ -80,7 +76,7 @@ private:
         for (std::string& name : peopleNames(random_, drivers))
             card_.drivers.push_back({std::move(name), random_.between(50, 400)});
         card_.trainers = peopleNames(random_, trainers);
-        const auto most = static_cast<std::size_t>(options_.races * options_.entries.high);
+        const std::size_t most = races * static_cast<std::size_t>(options_.entries.high);
         names_ = horseNames(random_, most);
     }
 
@@ -129,7 +125,7 @@ private:
         Entry entry;
         entry.horse = ++horses_;
         entry.name = names_[static_cast<std::size_t>(horses_) - 1];
-        entry.program = numbered(post);
+        entry.program = std::to_string(post);
         entry.post = post;
         entry.driver = driverOrder_[static_cast<std::size_t>(post - 1) % driverOrder_.size()];
         entry.trainer = random_.between(1, static_cast<int>(card_.trainers.size()));
@@ -266,7 +262,7 @@ void makeAlsoEligible(Race& race) {
 void coupleEntries(Race& race, std::size_t first, std::size_t second) {
     int next = 2;
     for (std::size_t i = 0; i < race.entries.size(); ++i)
-        if (i != first && i != second) race.entries[i].program = numbered(next++);
+        if (i != first && i != second) race.entries[i].program = std::to_string(next++);
     race.entries[first].program = "1";
     race.entries[second].program = "1A";
     race.entries[second].morningLine = race.entries[first].morningLine; // one bet for both

@@ -59,7 +59,7 @@ std::string timeText(Fifths time) {
     constexpr Fifths minute = 5 * 60;
     if (time == noTime) return "-97";
     if (time < noTime) return {};
-    const std::string seconds = decimalText(time % minute * 2, 1);
+    std::string seconds = decimalText(time % minute * 2, 1);
     if (time < minute) return seconds;
     return std::to_string(time / minute) + (seconds.size() < 4 ? ":0" : ":") + seconds;
 }
@@ -94,6 +94,14 @@ std::string starters(const Race& race) {
         std::ranges::count_if(race.entries, [](const Entry& entry) { return entry.post != alsoEligible; })));
 }
 
+constexpr const char* notAvailable = "-99"; // for a time it is -97
+
+std::string classRating(const PastLine& line) {
+    return line.classRating == noClassRating ? notAvailable : text(line.classRating);
+}
+std::string oddsText(const PastLine& line) {
+    return line.odds == noOdds ? notAvailable : decimalText(line.odds, 2);
+}
 std::string timeAt(const LineRecord& record, std::size_t place) {
     return timeText(record.line.leader[place]);
 }
@@ -151,7 +159,7 @@ constexpr Column<L> lineColumns[] = {
     /* 11 */ {"PURSE",      'N',  8, 3, [](const L& l) { return decimalText(l.line.purse, 3); }},
     /* 12 */ {"GAIT",       'C',  4, 0, [](const L& l) { return l.race.gait; }},
     /* 13 */ {"CLASS",      'C', 12, 0, [](const L& l) { return l.line.className; }},
-    /* 14 */ {"CR",         'N',  3, 0, [](const L& l) { return text(l.line.classRating == noClassRating ? -99 : l.line.classRating); }},
+    /* 14 */ {"CR",         'N',  3, 0, [](const L& l) { return classRating(l.line); }},
     /* 15 */ {"AGE",        'N',  2, 0, [](const L& l) { return text(l.entry.age); }},
     /* 16 */ {"DIST_MILES", 'N',  6, 4, [](const L& l) { return distanceText(l.line.distance); }},
     /* 17 */ {"STARTERS",   'N',  2, 0, [](const L& l) { return text(l.line.starters); }},
@@ -187,7 +195,7 @@ constexpr Column<L> lineColumns[] = {
     /* 47 */ {"CALL_FN_PO", 'C',  2, 0, [](const L& l) { return positionAt(l, atFinish); }},
     /* 48 */ {"CALL_FN_AF", 'C',  3, 0, [](const L& l) { return l.line.calls[atFinish].after; }},
     /* 49 */ {"FAV",        'C',  1, 0, [](const L& l) { return std::string{l.line.favourite ? "*" : ""}; }},
-    /* 50 */ {"ODDS",       'N',  7, 2, [](const L& l) { return l.line.odds == noOdds ? text(-99) : decimalText(l.line.odds, 2); }},
+    /* 50 */ {"ODDS",       'N',  7, 2, [](const L& l) { return oddsText(l.line); }},
     /* 51 */ {"CALL_FN_BL", 'C',  6, 0, [](const L& l) { return lengthsAt(l, atFinish); }},
     /* 52 */ {"HRSE_TM_4Q", 'C',  5, 0, [](const L& l) { return timeText(l.line.lastQuarter); }},
     /* 53 */ {"HRSE_TM_FN", 'C',  7, 0, [](const L& l) { return timeText(l.line.finalTime); }},

@@ -1,6 +1,7 @@
 #include "dbf_writer.h"
 
 #include "file_bytes.h"
+#include "trim.h"
 
 #include <bit>
 #include <charconv>
@@ -22,12 +23,6 @@ constexpr char codePage1252 = 0x03;
 // Appends the lowest `size` bytes of the value, least significant first.
 void appendLittleEndian(std::string& out, std::uint64_t value, std::size_t size) {
     for (std::size_t i = 0; i < size; ++i) out += static_cast<char>(value >> (8 * i) & 0xFF);
-}
-
-std::string_view trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 double numberOr0(std::string_view text) {

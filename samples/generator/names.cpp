@@ -67,13 +67,14 @@ constexpr std::string_view secondWords[] = {
 };
 
 constexpr std::string_view lastNames[] = {
-    "Abbotsford", "Ackley", "Bainter", "Bellwether", "Brandemuhl", "Burkett", "Calloway", "Cosgrave", "Crandell",
-    "Dachstein", "Delahunt", "Drummey", "Eastlick", "Eberlin", "Fairweather", "Farnsley", "Fontenoy", "Gaskins",
-    "Grissinger", "Hagedorn", "Halloway", "Hostettler", "Ingersol", "Jessop", "Kappelman", "Kilduff", "Kreuger",
-    "Lafontaine", "Lindquist", "Lockridge", "MacAskill", "Marchetti", "McTavish", "Merriwether", "Moffatt",
-    "Nesbitt", "Nyquist", "O'Rourke", "Oberholt", "Pettibone", "Pfeiffer", "Quackenbush", "Radcliff", "Rennick",
-    "Rosario", "Schmucker", "Sedgewick", "Stoltzfuss", "Swearingen", "Tenbrook", "Thibodeau", "Trueblood",
-    "Underhill", "Vandermeer", "Vasquez", "Wadsworth", "Weatherbee", "Whitcomb", "Yarbrough", "Zimmer",
+    "Abbotsford", "Ackley", "Bainter", "Bellwether", "Brandemuhl", "Burkett", "Calloway", "Cosgrave",
+    "Crandell", "Dachstein", "Delahunt", "Drummey", "Eastlick", "Eberlin", "Fairweather", "Farnsley",
+    "Fontenoy", "Gaskins", "Grissinger", "Hagedorn", "Halloway", "Hostettler", "Ingersol", "Jessop",
+    "Kappelman", "Kilduff", "Kreuger", "Lafontaine", "Lindquist", "Lockridge", "MacAskill", "Marchetti",
+    "McTavish", "Merriwether", "Moffatt", "Nesbitt", "Nyquist", "O'Rourke", "Oberholt", "Pettibone",
+    "Pfeiffer", "Quackenbush", "Radcliff", "Rennick", "Rosario", "Schmucker", "Sedgewick", "Stoltzfuss",
+    "Swearingen", "Tenbrook", "Thibodeau", "Trueblood", "Underhill", "Vandermeer", "Vasquez",
+    "Wadsworth", "Weatherbee", "Whitcomb", "Yarbrough", "Zimmer",
 };
 
 constexpr std::string_view firstNames[] = {

@@ -1,5 +1,7 @@
 #include "table_text.h"
 
+#include "trim.h"
+
 #include <array>
 #include <charconv>
 #include <cstdint>
@@ -21,12 +23,6 @@ constexpr std::array<std::uint32_t, 32> codePageMiddle{
     0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, //
     0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178, //
 };
-
-std::string_view trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 std::vector<std::string_view> split(std::string_view text, char separator) {
     std::vector<std::string_view> parts;
