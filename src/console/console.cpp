@@ -53,9 +53,7 @@ Console::Console(std::ostream& out, std::span<const Command> commands)
     takePorts();
 }
 
-Console::~Console() {
-    ports = {};
-}
+Console::~Console() { ports = {}; }
 
 void Console::takePorts() {
     const auto print = [this](const Text& line) { transcript_.line(line); };
@@ -122,9 +120,7 @@ void Console::takeLine(TextView line) {
         takeCommand(name, rest);
 }
 
-void Console::takeAnswer(std::optional<TextView> text) {
-    answers_.emplace_back(text.value_or(TextView{}));
-}
+void Console::takeAnswer(std::optional<TextView> text) { answers_.emplace_back(text.value_or(TextView{})); }
 
 void Console::takeCancel(std::optional<TextView> rest) {
     if (rest)

@@ -18,9 +18,7 @@ void printField(Transcript& transcript, const Text& name, const Text& text) {
 }
 
 // "box 3": one of several of a kind.
-Text numbered(const char* kind, std::size_t number) {
-    return kind + (" " + std::to_string(number));
-}
+Text numbered(const char* kind, std::size_t number) { return kind + (" " + std::to_string(number)); }
 
 Text colourText(const Colour& colour) {
     return std::to_string(colour.red) + "," + std::to_string(colour.green) + "," +
@@ -106,15 +104,9 @@ void printWhileShown(const ChoiceList& list, Transcript& transcript) {
     if (list.visible) printLines(list, transcript);
 }
 
-void showTrackList(Transcript& transcript) {
-    printWhileShown(screen.trackList, transcript);
-}
-void showDriverList(Transcript& transcript) {
-    printWhileShown(screen.driverList, transcript);
-}
-void showFileList(Transcript& transcript) {
-    printWhileShown(screen.fileList, transcript);
-}
+void showTrackList(Transcript& transcript) { printWhileShown(screen.trackList, transcript); }
+void showDriverList(Transcript& transcript) { printWhileShown(screen.driverList, transcript); }
+void showFileList(Transcript& transcript) { printWhileShown(screen.fileList, transcript); }
 void showRaceList(Transcript& transcript) {
     printLines(screen.raceList, transcript); // a part of the screen, never put away
 }

@@ -9,31 +9,15 @@
 namespace quillon {
 namespace {
 
-bool isEmpty(const Text& text) {
-    return text.empty();
-}
-bool isEmpty(const TextCell& cell) {
-    return cell.empty();
-}
-bool isEmpty(double number) {
-    return number == 0;
-}
-bool isEmpty(Integer number) {
-    return number == 0;
-}
+bool isEmpty(const Text& text) { return text.empty(); }
+bool isEmpty(const TextCell& cell) { return cell.empty(); }
+bool isEmpty(double number) { return number == 0; }
+bool isEmpty(Integer number) { return number == 0; }
 
-const Text& textOf(const Text& text) {
-    return text;
-}
-const Text& textOf(const TextCell& cell) {
-    return cell.text();
-}
-Text textOf(double number) {
-    return numberText(number);
-}
-Text textOf(Integer number) {
-    return std::to_string(number);
-}
+const Text& textOf(const Text& text) { return text; }
+const Text& textOf(const TextCell& cell) { return cell.text(); }
+Text textOf(double number) { return numberText(number); }
+Text textOf(Integer number) { return std::to_string(number); }
 
 // "RaceEntry(1,3)"
 Text indexed(const char* table, std::span<const int> index) {

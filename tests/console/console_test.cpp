@@ -18,22 +18,14 @@ namespace {
 // What the commands of the tests were given.
 std::vector<Arguments> given;
 
-void take(const Arguments& arguments) {
-    given.push_back(arguments);
-}
+void take(const Arguments& arguments) { given.push_back(arguments); }
 
-void tell(const char* text) {
-    ports.message(text, "");
-}
+void tell(const Text& text) { ports.message(text, ""); }
 
 // Only the third button is there.
-bool isThird(const Arguments& arguments) {
-    return arguments.numbers[0] == 3;
-}
+bool isThird(const Arguments& arguments) { return arguments.numbers[0] == 3; }
 
-bool asksBeyondATable(const Arguments&) {
-    fail("no such button");
-}
+bool asksBeyondATable(const Arguments&) { fail("no such button"); }
 
 // A system of our own with a command for each thing that can happen.
 // clang-format off
@@ -50,7 +42,7 @@ constexpr std::array testCommands{
     Command{"AskTitled", "", Menu::none, Takes::nothing, "",
             [](const Arguments&) { ports.question("Exit?", "Quillon"); }, {}},
     Command{"Input", "", Menu::none, Takes::nothing, "",
-            [](const Arguments&) { tell(("got " + ports.input("Amount:", "").value_or("nothing")).c_str()); }, {}},
+            [](const Arguments&) { tell("got " + ports.input("Amount:", "").value_or("nothing")); }, {}},
     Command{"InputTitled", "", Menu::none, Takes::nothing, "",
             [](const Arguments&) { ports.input("Amount:", "TRC"); }, {}},
     Command{"Beep", "", Menu::none, Takes::nothing, "", [](const Arguments&) { ports.beep(); }, {}},
@@ -61,7 +53,8 @@ constexpr std::array testCommands{
             }, {}},
     Command{"Browse", "", Menu::none, Takes::nothing, "",
             [](const Arguments&) { ports.browse("http://www.example.com/a?b=1"); }, {}},
-    Command{"Run", "", Menu::none, Takes::nothing, "", [](const Arguments&) { ports.run("FileManager.exe"); }, {}},
+    Command{"Run", "", Menu::none, Takes::nothing, "",
+            [](const Arguments&) { ports.run("FileManager.exe"); }, {}},
     Command{"Hide", "", Menu::none, Takes::nothing, "",
             [](const Arguments&) { ports.hide({Folder::sourceTables, "RACESHR.DBF"}); }, {}},
     Command{"Print", "", Menu::none, Takes::nothing, "",
@@ -110,15 +103,11 @@ struct TranscriptCase {
     const char* transcript;
 };
 
-void PrintTo(const TranscriptCase& row, std::ostream* out) {
-    *out << row.shows;
-}
+void PrintTo(const TranscriptCase& row, std::ostream* out) { *out << row.shows; }
 
 class TranscriptOf : public ConsoleTest, public testing::WithParamInterface<TranscriptCase> {};
 
-TEST_P(TranscriptOf, ACommandIsWhatAUserSees) {
-    EXPECT_EQ(GetParam().transcript, run(GetParam().input));
-}
+TEST_P(TranscriptOf, ACommandIsWhatAUserSees) { EXPECT_EQ(GetParam().transcript, run(GetParam().input)); }
 
 const TranscriptCase transcriptCases[] = {
     {"nothing", "", ""},

@@ -26,15 +26,11 @@ struct InputCase {
     std::vector<Text> lines;
 };
 
-void PrintTo(const InputCase& row, std::ostream* out) {
-    *out << row.shows;
-}
+void PrintTo(const InputCase& row, std::ostream* out) { *out << row.shows; }
 
 class Input : public testing::TestWithParam<InputCase> {};
 
-TEST_P(Input, IsLinesInTheCodePage) {
-    EXPECT_EQ(GetParam().lines, linesOf(GetParam().bytes));
-}
+TEST_P(Input, IsLinesInTheCodePage) { EXPECT_EQ(GetParam().lines, linesOf(GetParam().bytes)); }
 
 const InputCase inputCases[] = {
     {"no input", "", {}},

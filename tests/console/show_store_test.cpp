@@ -24,9 +24,7 @@ struct StoreCase {
     void (*put)();
 };
 
-void PrintTo(const StoreCase& row, std::ostream* out) {
-    *out << row.line;
-}
+void PrintTo(const StoreCase& row, std::ostream* out) { *out << row.line; }
 
 class StoreShowTest : public CardTest {};
 class StoreField : public StoreShowTest, public testing::WithParamInterface<StoreCase> {};
@@ -129,18 +127,10 @@ TEST_F(StoreShowTest, ComesInItsOrder) {
 }
 
 // Gives a field a value that is neither empty nor 0.
-void fill(Text& text) {
-    text = "x";
-}
-void fill(TextCell& cell) {
-    cell = "x";
-}
-void fill(Integer& number) {
-    number = 1;
-}
-void fill(double& number) {
-    number = 1;
-}
+void fill(Text& text) { text = "x"; }
+void fill(TextCell& cell) { cell = "x"; }
+void fill(Integer& number) { number = 1; }
+void fill(double& number) { number = 1; }
 
 TEST_F(StoreShowTest, NoFieldOfARecordIsLeftOut) {
     const auto fillAll = [](TextView, auto& value) { fill(value); };

@@ -41,15 +41,11 @@ struct UsageCase {
     const char* usage;
 };
 
-void PrintTo(const UsageCase& row, std::ostream* out) {
-    *out << '"' << row.part << '"';
-}
+void PrintTo(const UsageCase& row, std::ostream* out) { *out << '"' << row.part << '"'; }
 
 class ShowUsage : public ShowTest, public testing::WithParamInterface<UsageCase> {};
 
-TEST_P(ShowUsage, TellsWhatIsMissing) {
-    EXPECT_EQ(GetParam().usage, shownPart(GetParam().part));
-}
+TEST_P(ShowUsage, TellsWhatIsMissing) { EXPECT_EQ(GetParam().usage, shownPart(GetParam().part)); }
 
 const UsageCase usageCases[] = {
     {"", "usage: show PART\n"},

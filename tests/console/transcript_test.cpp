@@ -14,9 +14,7 @@ struct LineCase {
     std::string printed;
 };
 
-void PrintTo(const LineCase& row, std::ostream* out) {
-    *out << row.shows;
-}
+void PrintTo(const LineCase& row, std::ostream* out) { *out << row.shows; }
 
 class OneLine : public testing::TestWithParam<LineCase> {};
 

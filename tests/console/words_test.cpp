@@ -14,15 +14,11 @@ struct NumberCase {
     std::optional<int> number;
 };
 
-void PrintTo(const NumberCase& row, std::ostream* out) {
-    *out << '"' << row.text << '"';
-}
+void PrintTo(const NumberCase& row, std::ostream* out) { *out << '"' << row.text << '"'; }
 
 class WholeNumber : public testing::TestWithParam<NumberCase> {};
 
-TEST_P(WholeNumber, IsDigitsWithASign) {
-    EXPECT_EQ(GetParam().number, wholeNumber(GetParam().text));
-}
+TEST_P(WholeNumber, IsDigitsWithASign) { EXPECT_EQ(GetParam().number, wholeNumber(GetParam().text)); }
 
 const NumberCase numberCases[] = {
     {"0", 0},
@@ -77,9 +73,7 @@ struct ArgumentsCase {
     const char* text = "";
 };
 
-void PrintTo(const ArgumentsCase& row, std::ostream* out) {
-    *out << row.shows;
-}
+void PrintTo(const ArgumentsCase& row, std::ostream* out) { *out << row.shows; }
 
 class ArgumentsOfALine : public testing::TestWithParam<ArgumentsCase> {};
 
