@@ -12,24 +12,18 @@ namespace {
 
 Text keptLog;
 
-FilePlace logFile() {
-    return {Folder::working, "TEST.txt"};
-}
+FilePlace logFile() { return {Folder::working, "TEST.txt"}; }
 
 // clang-format off
 constexpr TextView logHeading =
     " RACE  PP    LQC    POST   LH     PO     POW    POD    QU     CL     FAV    WPS";
 // clang-format on
 
-Text logIndex(Integer index) {
-    return formatted("####", "@@@@", static_cast<double>(index)) + blank;
-}
+Text logIndex(Integer index) { return formatted("####", "@@@@", static_cast<double>(index)) + blank; }
 
 } // namespace
 
-bool diagnosticLogIsOn() {
-    return screen.item(MenuItem::Diagnostic).checked;
-}
+bool diagnosticLogIsOn() { return screen.item(MenuItem::Diagnostic).checked; }
 
 void beginLogLine() {
     keptLog += crCrLf;
@@ -37,22 +31,16 @@ void beginLogLine() {
     keptLog += logIndex(cursor.entry);
 }
 
-void addToLogLine(TextView figure) {
-    keptLog += figure;
-}
+void addToLogLine(TextView figure) { keptLog += figure; }
 
 void endLogLine(TextView rating) {
     keptLog += rating;
     keptLog += crLf;
 }
 
-void clearDiagnosticLog() {
-    keptLog.clear();
-}
+void clearDiagnosticLog() { keptLog.clear(); }
 
-void appendDiagnosticLog() {
-    appendToFile(logFile(), std::exchange(keptLog, {}));
-}
+void appendDiagnosticLog() { appendToFile(logFile(), std::exchange(keptLog, {})); }
 
 void Diagnostic() {
     const Step step{"Diagnostic"};

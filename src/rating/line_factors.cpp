@@ -25,13 +25,9 @@ bool isOneOf(const std::array<TextView, Count>& marks, TextView mark) {
     return std::find(marks.begin(), marks.end(), mark) != marks.end();
 }
 
-bool isParked(TextView mark) {
-    return isOneOf(parkedMarks, mark);
-}
+bool isParked(TextView mark) { return isOneOf(parkedMarks, mark); }
 
-bool isParkedTwoWide(TextView mark) {
-    return isOneOf(parkedTwoWideMarks, mark);
-}
+bool isParkedTwoWide(TextView mark) { return isOneOf(parkedTwoWideMarks, mark); }
 
 // What a call raced outside is worth: the tighter the turns, the more ground it costs.
 struct ParkCredits {
@@ -73,9 +69,7 @@ constexpr std::array finishCredits{4.0, 3.0, 2.0, 1.0}; // by finish, from the w
 
 constexpr int ratingColumn = 38; // "PR" of a race's data view
 
-bool isQualifier() {
-    return contains(sourceLine.CLASS, "QU");
-}
+bool isQualifier() { return contains(sourceLine.CLASS, "QU"); }
 
 } // namespace
 

@@ -170,9 +170,7 @@ TrackTable trackTableOf(TextView content) {
     return table;
 }
 
-const TrackTable& trackTable() {
-    return tracks;
-}
+const TrackTable& trackTable() { return tracks; }
 
 void readTrackTable() {
     const auto content = fileContent({Folder::working, "TrackEditor.ini"});
