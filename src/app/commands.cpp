@@ -15,9 +15,7 @@ constexpr std::array commands{
 
 } // namespace
 
-std::span<const Command> commandTable() {
-    return commands;
-}
+std::span<const Command> commandTable() { return commands; }
 
 const Command* findCommand(TextView name) {
     const auto found =

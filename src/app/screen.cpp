@@ -16,12 +16,17 @@ void Grid::check(int row, int column) const {
         fail("cell (" + std::to_string(row) + ", " + std::to_string(column) + ") is outside its view");
 }
 
-Cell& Grid::operator()(int row, int column) {
-    check(row, column);
+std::span<Cell> Grid::cellsOf(int row) {
+    check(row, 0);
     ++version_;
     auto& cells = cells_[static_cast<std::size_t>(row)];
     if (cells.empty()) cells.resize(static_cast<std::size_t>(columnCount_));
-    return cells[static_cast<std::size_t>(column)];
+    return cells;
+}
+
+Cell& Grid::operator()(int row, int column) {
+    check(row, column);
+    return cellsOf(row)[static_cast<std::size_t>(column)];
 }
 
 const Cell& Grid::read(int row, int column) const {

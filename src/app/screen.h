@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace quillon {
@@ -47,6 +48,9 @@ public:
 
     /// The cell to be written. Fails outside the bounds. The cell stays where it is until clear().
     Cell& operator()(int row, int column);
+
+    /// All cells of a row, to be written. Fails outside the bounds.
+    std::span<Cell> cellsOf(int row);
 
     /// The cell as it stands, an empty one where nothing was written. Fails outside the bounds.
     const Cell& read(int row, int column) const;
@@ -208,7 +212,6 @@ struct Screen {
     std::array<bool, dataViews> dataViewVisible{};
     std::array<Grid, raceViews> raceView{};
     std::array<bool, raceViews> raceViewVisible{};
-    std::array<Text, dataViews> corner{}; ///< column 0 of a data view's head: "RACE " and the label
 
     bool pastPerformanceOpen = false;
     int currentEntry = 0; ///< the entry whose past lines are shown; 0 none
@@ -219,6 +222,8 @@ struct Screen {
     ChoiceList fileList{};
     ChoiceList trackList{};
     ChoiceList driverList{};
+    int driverRow = 0;   ///< row of the race view that the driver list was opened for
+    Text driverChoice{}; ///< the line picked in it
     ChoiceList raceList{};
     ChoiceList marginList{};
     ChoiceList oddsList{};

@@ -35,9 +35,7 @@ void FaultJournal::add(Fault fault) {
     kept_.push_back(std::move(fault));
 }
 
-void FaultJournal::clear() {
-    *this = FaultJournal{};
-}
+void FaultJournal::clear() { *this = FaultJournal{}; }
 
 void reportFault(TextView what) {
     Text text{what};
@@ -50,13 +48,9 @@ void fail(TextView what) {
     throw Failure{};
 }
 
-void passOver() {
-    journal.countExpected();
-}
+void passOver() { journal.countExpected(); }
 
 Step::Step(const char* name) : outer_(std::exchange(runningStep, name)) {}
-Step::~Step() {
-    runningStep = outer_;
-}
+Step::~Step() { runningStep = outer_; }
 
 } // namespace quillon

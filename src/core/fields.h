@@ -138,6 +138,7 @@ inline constexpr std::tuple lineCursorFields{
     Field{"firstPark", &LineCursor::firstPark},
     Field{"secondPark", &LineCursor::secondPark},
     Field{"thirdPark", &LineCursor::thirdPark},
+    Field{"postNumber", &LineCursor::postNumber},
     Field{"scratchPost", &LineCursor::scratchPost},
     Field{"scratchAdjust", &LineCursor::scratchAdjust},
 };

@@ -114,12 +114,8 @@ DiskFile::DiskFile(const fs::path& path, Mode mode)
                           FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
                           mode == Mode::append ? OPEN_ALWAYS : CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
                           nullptr)) {}
-DiskFile::~DiskFile() {
-    close();
-}
-bool DiskFile::isOpen() const {
-    return handle_ != INVALID_HANDLE_VALUE;
-}
+DiskFile::~DiskFile() { close(); }
+bool DiskFile::isOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
 bool DiskFile::write(TextView content) {
     while (!content.empty()) {
         constexpr std::size_t most = 1U << 30;
@@ -130,9 +126,7 @@ bool DiskFile::write(TextView content) {
     }
     return true;
 }
-bool DiskFile::flush() {
-    return FlushFileBuffers(handle_) != 0;
-}
+bool DiskFile::flush() { return FlushFileBuffers(handle_) != 0; }
 bool DiskFile::close() {
     if (!isOpen()) return true;
     return CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE)) != 0;
@@ -143,12 +137,8 @@ bool DiskFile::close() {
 DiskFile::DiskFile(const fs::path& path, Mode mode)
     : handle_(::open(path.c_str(),
                      O_WRONLY | O_CREAT | O_CLOEXEC | (mode == Mode::append ? O_APPEND : O_TRUNC), 0666)) {}
-DiskFile::~DiskFile() {
-    close();
-}
-bool DiskFile::isOpen() const {
-    return handle_ >= 0;
-}
+DiskFile::~DiskFile() { close(); }
+bool DiskFile::isOpen() const { return handle_ >= 0; }
 bool DiskFile::write(TextView content) {
     while (!content.empty()) {
         const auto written = ::write(handle_, content.data(), content.size());
@@ -158,9 +148,7 @@ bool DiskFile::write(TextView content) {
     }
     return true;
 }
-bool DiskFile::flush() {
-    return ::fsync(handle_) == 0;
-}
+bool DiskFile::flush() { return ::fsync(handle_) == 0; }
 bool DiskFile::close() {
     if (!isOpen()) return true;
     return ::close(std::exchange(handle_, -1)) == 0;

@@ -9,9 +9,7 @@
 namespace quillon {
 namespace {
 
-constexpr bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
+constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 // Where the number at the start of a text ends. The text begins behind sign and blanks.
 struct NumberSpan {
@@ -115,6 +113,8 @@ Integer toInteger(double number) {
     return static_cast<Integer>(rounded);
 }
 
+void countUp(Integer& count) { count = toInteger(count + 1.0); }
+
 double quotient(double dividend, double divisor) {
     if (divisor == 0) fail("a division by zero");
     return dividend / divisor;
@@ -155,8 +155,6 @@ Text numberText(double number) {
     return text;
 }
 
-Text listNumber(double number) {
-    return (number < 0 ? "" : " ") + numberText(number) + " ";
-}
+Text listNumber(double number) { return (number < 0 ? "" : " ") + numberText(number) + " "; }
 
 } // namespace quillon

@@ -25,6 +25,9 @@ double strictNumber(TextView text);
 /// Rounded to the nearest whole number, halves to even. Fails outside -32,768 to 32,767.
 Integer toInteger(double number);
 
+/// Counts one up. Fails at 32,767 with the count as it was.
+void countUp(Integer& count);
+
 /// Fails when the divisor is 0.
 double quotient(double dividend, double divisor);
 

@@ -21,12 +21,13 @@ PastLine& PastLineTable::write(int race, int entry, int line) {
     return *kept;
 }
 
-void PastLineTable::clear() {
-    lines_.clear();
-}
+bool PastLineTable::has(int race, int entry, int line) const { return lines_(race, entry, line) != nullptr; }
+
+void PastLineTable::clear() { lines_.clear(); }
 
 void RaceCard::clear() {
     forEachField(cardScalars, *this, [](TextView, auto& value) { value = std::decay_t<decltype(value)>{}; });
+    starPercentage.clear();
     raceInfo.clear();
     entry.clear();
     pastLine.clear();

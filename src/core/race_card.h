@@ -125,6 +125,9 @@ public:
     /// The line to be written, made when it is not there yet. Fails outside the bounds.
     PastLine& write(int race, int entry, int line);
 
+    /// True where a line was written. Fails outside the bounds.
+    bool has(int race, int entry, int line) const;
+
     void clear();
 
 private:
@@ -149,6 +152,7 @@ struct RaceCard {
     Integer s3Wins = 0;
     Integer s4Wins = 0;
     Integer superfectaRaces = 0;
+    Text starPercentage{}; ///< of the star sheet, as printed: empty until the first race of a sheet has ended
 
     Table<RaceInfo, raceExtent> raceInfo;
     Table<RaceEntry, raceExtent, entryExtent> entry;

@@ -12,9 +12,7 @@ std::size_t characters(int count) {
     return static_cast<std::size_t>(count);
 }
 
-constexpr char asciiLower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
+constexpr char asciiLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 constexpr char upper(char c) {
     const auto code = static_cast<unsigned char>(c);
@@ -25,9 +23,7 @@ constexpr char upper(char c) {
 
 } // namespace
 
-TextView leftOf(TextView text, int count) {
-    return text.substr(0, characters(count));
-}
+TextView leftOf(TextView text, int count) { return text.substr(0, characters(count)); }
 
 TextView rightOf(TextView text, int count) {
     const auto wanted = std::min(characters(count), text.size());
@@ -51,9 +47,7 @@ int placeOf(TextView part, TextView text) {
     return found == TextView::npos ? 0 : static_cast<int>(found) + 1;
 }
 
-Text blanks(int count) {
-    return Text(characters(count), blank);
-}
+Text blanks(int count) { return Text(characters(count), blank); }
 
 Text rightAligned(TextView text, int width) {
     const auto wanted = characters(width);

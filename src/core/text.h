@@ -17,17 +17,11 @@ constexpr TextView trimmedLeft(TextView text) {
     return first == TextView::npos ? TextView{} : text.substr(first);
 }
 
-constexpr TextView trimmedRight(TextView text) {
-    return text.substr(0, text.find_last_not_of(blank) + 1);
-}
+constexpr TextView trimmedRight(TextView text) { return text.substr(0, text.find_last_not_of(blank) + 1); }
 
-constexpr TextView trimmed(TextView text) {
-    return trimmedLeft(trimmedRight(text));
-}
+constexpr TextView trimmed(TextView text) { return trimmedLeft(trimmedRight(text)); }
 
-constexpr bool contains(TextView text, TextView part) {
-    return text.find(part) != TextView::npos;
-}
+constexpr bool contains(TextView text, TextView part) { return text.find(part) != TextView::npos; }
 
 /// The first `count` characters, all of them when there are fewer. A negative count fails.
 TextView leftOf(TextView text, int count);

@@ -4,7 +4,8 @@
 namespace quillon {
 
 /// Writes the ".pms" sheet and "Stars.txt" from the selections as they stand, fills `card.keyPicks`, and ends
-/// with the pick sheet. Resumes at failures.
+/// with the pick sheet. Counts `card.raceCount` anew from the race buttons that show; makes the sheet's viewer
+/// available. Resumes at failures.
 void SelectionSheet();
 
 } // namespace quillon

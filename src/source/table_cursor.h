@@ -8,7 +8,10 @@
 
 #include "core/files.h"
 #include "core/text.h"
+#include "source/table_format.h"
 
+#include <cstdint>
+#include <unordered_map>
 #include <vector>
 
 namespace quillon {
@@ -36,12 +39,41 @@ public:
     Text field(int number) const;
     Text field(TextView name) const { return field(fieldNumber(name)); }
 
+    /// The same, put in a text whose room is used again.
+    void fieldTo(Text& text, int number) const;
+
     /// The whole table, for the view bound to it: rows and fields count from 1. Empty outside.
     int rowCount() const;
     int fieldCount() const;
     TextView fieldName(int number) const;
     Text field(int row, int number) const;
     int row() const; ///< the current row, from 1; rowCount() + 1 behind the last
+
+    /// Tells one opened table from another, so that field numbers can be kept; 0 for no table.
+    std::uint64_t serial() const { return serial_; }
+
+private:
+    struct NameHash {
+        using is_transparent = void;
+        std::size_t operator()(TextView name) const;
+    };
+    struct SameName {
+        using is_transparent = void;
+        bool operator()(TextView left, TextView right) const { return sameIgnoringCase(left, right); }
+    };
+
+    void findRows();
+    void tell(TextView damage) const;
+    void readCell(Text& text, int row, int number) const;
+
+    Text fileName_;
+    Text content_; ///< the whole file
+    TableFormat format_;
+    std::unordered_map<Text, int, NameHash, SameName> numbers_; ///< field numbers by name
+    std::vector<std::size_t> rows_;                             ///< where each row starts in the file
+    mutable std::vector<Text> missing_;                         ///< names told as missing
+    int row_ = 1;
+    std::uint64_t serial_ = 0;
 };
 
 } // namespace quillon

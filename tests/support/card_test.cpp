@@ -81,9 +81,7 @@ void CardTest::put(const fs::path& path, std::string_view content) {
     std::ofstream{path, std::ios::binary} << content;
 }
 
-bool CardTest::exists(const fs::path& path) {
-    return fs::exists(path);
-}
+bool CardTest::exists(const fs::path& path) { return fs::exists(path); }
 
 bool CardTest::journalTells(std::string_view text) {
     const auto& faults = journal.kept();

@@ -1,0 +1,151 @@
+#include "console/console.h"
+
+#include "app/ports.h"
+#include "console/input_lines.h"
+#include "console/show.h"
+#include "console/words.h"
+#include "core/failure.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quillon {
+namespace {
+
+int numbersIn(Takes takes) {
+    switch (takes) {
+    case Takes::nothing:
+    case Takes::text: return 0;
+    case Takes::number:
+    case Takes::numberAndText: return 1;
+    case Takes::cell: return 3;
+    }
+    return 0;
+}
+
+bool takesText(Takes takes) {
+    return takes == Takes::text || takes == Takes::numberAndText || takes == Takes::cell;
+}
+
+// "kind: " or, where the system gives the box a title, "kind [title]: ".
+Text headed(const char* kind, const Text& title) {
+    return title.empty() ? Text{kind} + ": " : Text{kind} + " [" + title + "]: ";
+}
+
+} // namespace
+
+std::optional<Arguments> argumentsFor(Takes takes, std::optional<TextView> rest) {
+    Arguments arguments;
+    for (int at = 0; at < numbersIn(takes); ++at) {
+        const auto number = wholeNumber(takeWord(rest));
+        if (!number) return std::nullopt;
+        arguments.numbers[static_cast<std::size_t>(at)] = *number;
+    }
+    if (takesText(takes))
+        arguments.text = rest.value_or(TextView{});
+    else if (rest)
+        return std::nullopt;
+    return arguments;
+}
+
+Console::Console(std::ostream& out, std::span<const Command> commands)
+    : transcript_(out), commands_(commands) {
+    takePorts();
+}
+
+Console::~Console() {
+    ports = {};
+}
+
+void Console::takePorts() {
+    const auto print = [this](const Text& line) { transcript_.line(line); };
+    ports = {};
+    ports.message = [=](const Text& text, const Text& title) { print(headed("message", title) + text); };
+    ports.question = [=, this](const Text& text, const Text& title) {
+        const bool yes = nextAnswer() == "Yes";
+        print(headed("question", title) + text + (yes ? " -> Yes" : " -> No"));
+        return yes;
+    };
+    ports.input = [=, this](const Text& text, const Text& title) {
+        auto answer = nextAnswer();
+        print(headed("input", title) + text + " -> " + answer.value_or("(cancel)"));
+        return answer;
+    };
+    ports.beep = [=] { print("beep"); };
+    ports.view = [=](const FilePlace& file) { print("view: " + shownPath(file)); };
+    ports.browse = [=](const Text& address) { print("browse: " + address); };
+    ports.run = [=](const Text& program) { print("run: " + program); };
+    ports.hide = [=](const FilePlace& file) { print("hide: " + shownPath(file)); };
+    ports.error = [=](const Text& text) { print("error: " + text); };
+    ports.printLine = [=](const Text& line, PrintStyle style) {
+        print((style == PrintStyle::emphasised ? "print emphasised: " : "print: ") + line);
+    };
+    ports.printPage = [=] { print("print new page"); };
+    ports.printEnd = [=] { print("print end"); };
+    ports.end = [this] { showEnd(); };
+}
+
+std::optional<Text> Console::nextAnswer() {
+    if (answers_.empty()) return std::nullopt;
+    auto answer = std::move(answers_.front());
+    answers_.pop_front();
+    return answer;
+}
+
+void Console::showEnd() {
+    if (!ended_) transcript_.line("end");
+    ended_ = true;
+}
+
+void Console::run(std::istream& in) {
+    InputLines lines{in, transcript_};
+    while (!ended_) {
+        const auto line = lines.next();
+        if (!line) break;
+        takeLine(*line);
+    }
+    transcript_.flush();
+}
+
+void Console::takeLine(TextView line) {
+    if (line.empty() || line.starts_with('#')) return;
+    transcript_.line("> " + Text{line});
+    std::optional<TextView> rest = line;
+    const TextView name = takeWord(rest);
+    if (name == "Answer")
+        takeAnswer(rest);
+    else if (name == "Cancel")
+        takeCancel(rest);
+    else if (name == "show")
+        attempt([&] { show(rest.value_or(TextView{}), commands_, transcript_); });
+    else
+        takeCommand(name, rest);
+}
+
+void Console::takeAnswer(std::optional<TextView> text) {
+    answers_.emplace_back(text.value_or(TextView{}));
+}
+
+void Console::takeCancel(std::optional<TextView> rest) {
+    if (rest)
+        transcript_.line("usage: Cancel");
+    else
+        answers_.emplace_back(std::nullopt);
+}
+
+void Console::takeCommand(TextView name, std::optional<TextView> rest) {
+    const auto command = std::find_if(commands_.begin(), commands_.end(),
+                                      [&](const Command& row) { return row.name == name; });
+    if (command == commands_.end()) return transcript_.line("unknown: " + Text{name});
+
+    const auto arguments = argumentsFor(command->takes, rest);
+    const Text names = command->argumentNames;
+    if (!arguments) return transcript_.line("usage: " + Text{name} + (names.empty() ? "" : " " + names));
+
+    bool available = false; // also where a number leads to no button at all and the question itself fails
+    attempt([&] { available = isAvailable(*command, *arguments); });
+    if (!available) return transcript_.line("unavailable: " + Text{name});
+    runCommand(*command, *arguments);
+}
+
+} // namespace quillon

@@ -1,0 +1,362 @@
+#include "rating/line_factors.h"
+
+#include "app/screen.h"
+#include "core/formats.h"
+#include "core/race_card.h"
+#include "rating/diagnostic_log.h"
+#include "source/line_value.h"
+#include "source/source_tables.h"
+#include "source/track_table.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace quillon {
+namespace {
+
+// Park marks: one character for a call raced outside, two for a call raced two wide.
+constexpr TextView parked = "\xBA";
+constexpr TextView parkedInOtherHand = "\xB0";
+constexpr TextView parkedTwoWide = "\xBA\xBA";
+constexpr TextView parkedTwoWideInOtherHand = "\xB0\xB0";
+
+bool isParked(TextView mark) {
+    return mark == parked || mark == parkedInOtherHand;
+}
+
+bool isParkedTwoWide(TextView mark) {
+    return mark == parkedTwoWide || mark == parkedTwoWideInOtherHand;
+}
+
+// What a call raced outside is worth: the tighter the turns, the more ground it costs.
+struct ParkCredits {
+    TextView courseSize;
+    double parked;
+    double twoWide;
+    double twoWideAtTheThird;
+};
+
+constexpr std::array parkCredits{
+    ParkCredits{"1/2", 0.8, 0.8, 1.6}, ParkCredits{"5/8", 0.6, 0.6, 1.2}, ParkCredits{"7/8", 0.4, 0.4, 0.8},
+    ParkCredits{"1.M", 0.4, 0.4, 0.8}, // courses not named here earn nothing
+};
+
+const ParkCredits* parkCreditsOf(TextView courseSize) {
+    const auto found = std::find_if(parkCredits.begin(), parkCredits.end(),
+                                    [&](const ParkCredits& row) { return row.courseSize == courseSize; });
+    return found == parkCredits.end() ? nullptr : &*found;
+}
+
+// The three calls that factors look at, and what the lead is worth at each.
+struct Call {
+    Text LineCursor::*position;
+    Text LineCursor::*park;
+    double leadCredit;
+    bool third;
+};
+
+constexpr std::array calls{
+    Call{&LineCursor::firstCall, &LineCursor::firstPark, 0.2, false},
+    Call{&LineCursor::secondCall, &LineCursor::secondPark, 0.2, false},
+    Call{&LineCursor::thirdCall, &LineCursor::thirdPark, 0.4, true},
+};
+
+constexpr double qualifierCredit = 3.0;
+constexpr double favouriteCredit = 3.0;
+
+constexpr std::array finishCredits{4.0, 3.0, 2.0, 1.0}; // by finish, from the winner on
+
+constexpr int ratingColumn = 38; // "PR" of a race's data view
+
+bool isQualifier() {
+    return contains(sourceLine.CLASS, "QU");
+}
+
+} // namespace
+
+// The figure is the horse's time and its own last quarter by turns, less the 70 seconds that bring a fair
+// line to about 60.
+void LastQuarterCalc() {
+    const Step step{"LastQuarterCalc"};
+    // The card's first line has no line index yet; it is stored as line 1.
+    const int line = std::max<int>(cursor.line, 1);
+    card.pastLine.write(cursor.race, cursor.entry, line).DIST_MILES = sourceLine.DIST_MILES;
+
+    const double miles = lenientNumber(sourceLine.DIST_MILES);
+    if (miles > 1) {
+        cursor.lineValue = "99.9";
+        return;
+    }
+    const auto lastQuarter = numberIn(sourceLine.HRSE_TM_4Q);
+    if (!lastQuarter) passOver();
+    if (!lastQuarter || *lastQuarter <= 0 || lenientNumber(sourceLine.CALL_FN_PO) <= 0) {
+        cursor.horseFinal = "8";
+        return;
+    }
+    double horse = 0; // a dash has no final time that counts
+    if (miles == 1) {
+        horse = lenientNumber(cursor.horseFinal);
+        if (horse < 20) horse += 60; // two minutes or more
+    }
+    const double behindLeader = horse - lenientNumber(cursor.leaderFinal);
+    cursor.lineValue = numberText(behindLeader + horse - (70 - horse));
+}
+
+void LeadHorse() {
+    const Step step{"LeadHorse"};
+    for (const Call& call : calls)
+        if (lenientNumber(cursor.*call.position) == 1 && !addToLineValue(-call.leadCredit)) return;
+}
+
+void ParkOuts() {
+    const Step step{"ParkOuts"};
+    const ParkCredits* credits = parkCreditsOf(cursor.lineSize);
+    if (credits == nullptr) return;
+    for (const Call& call : calls)
+        if (isParked(cursor.*call.park) && !addToLineValue(-credits->parked)) return;
+}
+
+void ParkOutsWind() {
+    const Step step{"ParkOutsWind"};
+    for (const Call& call : calls) {
+        const bool onLeadOrSecond = lenientNumber(cursor.*call.position) <= 2;
+        if (onLeadOrSecond && isParked(cursor.*call.park) && !addToLineValue(-call.leadCredit)) return;
+    }
+}
+
+void ParkOutsDouble() {
+    const Step step{"ParkOutsDouble"};
+    const ParkCredits* credits = parkCreditsOf(cursor.lineSize);
+    if (credits == nullptr) return;
+    for (const Call& call : calls) {
+        const double credit = call.third ? credits->twoWideAtTheThird : credits->twoWide;
+        if (isParkedTwoWide(cursor.*call.park) && !addToLineValue(-credit)) return;
+    }
+}
+
+void QualifierCredit() {
+    const Step step{"QualifierCredit"};
+    if (isQualifier()) addToLineValue(-qualifierCredit);
+}
+
+double classPoints(double todaysRating, double lineRating, double finish) {
+    constexpr double noRatingCredit = 3.0;
+    constexpr double smallestChange = 3.0;
+    constexpr double beatenInBetterClass = 2.0;
+    if (lineRating <= 0) return -noRatingCredit; // and is taken for a line of today's class
+    // Ratings are decimals: what they differ by is freed from the noise of binary fractions, so that 3 is 3.
+    const double rise = std::round((todaysRating - lineRating) * 1e6) / 1e6;
+    if (std::fabs(rise) < smallestChange) return 0;
+    if (rise < 0) return finish <= 4 ? rise : beatenInBetterClass;
+    return finish <= 3 ? rise / 2 : rise;
+}
+
+void ClassChange() {
+    const Step step{"ClassChange"};
+    if (isQualifier()) return;
+    const double points = classPoints(lenientNumber(card.raceInfo(cursor.race).todaysCr),
+                                      lenientNumber(sourceLine.CR), lenientNumber(sourceLine.CALL_FN_PO));
+    if (points != 0) addToLineValue(points);
+}
+
+void FavouriteCredit() {
+    const Step step{"FavouriteCredit"};
+    if (sourceLine.FAV == "*" && cursor.line == 1) cursor.wasFavourite = "Y";
+    if (cursor.wasFavourite == "Y") addToLineValue(-favouriteCredit);
+}
+
+void WPS() {
+    const Step step{"WPS"};
+    const double finish = lenientNumber(sourceLine.CALL_FN_PO);
+    for (std::size_t i = 0; i < finishCredits.size(); ++i)
+        if (finish == static_cast<double>(i + 1)) addToLineValue(-finishCredits[i]);
+}
+
+void LengthOfStretch() {}
+void LengthsGained() {}
+void DriverRating() {}
+
+Text closedRating(TextView lineValue) {
+    Text rating{leftOf(lineValue, 5)};
+    if (lenientNumber(rating) <= 1) rating = "99.9";
+    if (rating.size() == 2) rating += ".0";
+    return rating;
+}
+
+namespace {
+
+// The cells of a line that are stored as they stand.
+struct StoredCell {
+    Text SourceLine::*from;
+    Text PastLine::*to;
+};
+
+constexpr std::array storedCells{
+    StoredCell{&SourceLine::DATE, &PastLine::DATE},
+    StoredCell{&SourceLine::TRACK, &PastLine::TRACK},
+    StoredCell{&SourceLine::COND, &PastLine::COND},
+    StoredCell{&SourceLine::PURSE, &PastLine::PURSE},
+    StoredCell{&SourceLine::CLASS, &PastLine::CLASS},
+    StoredCell{&SourceLine::CR, &PastLine::CR},
+    StoredCell{&SourceLine::DIST_MILES, &PastLine::DIST_MILES},
+    StoredCell{&SourceLine::LEAD_TM_1Q, &PastLine::LEAD_TM_1Q},
+    StoredCell{&SourceLine::LEAD_TM_2Q, &PastLine::LEAD_TM_2Q},
+    StoredCell{&SourceLine::LEAD_TM_3Q, &PastLine::LEAD_TM_3Q},
+    StoredCell{&SourceLine::LEAD_TM_FN, &PastLine::LEAD_TM_FN},
+    StoredCell{&SourceLine::POST, &PastLine::POST},
+    StoredCell{&SourceLine::CALL_1Q_BF, &PastLine::CALL_1Q_BF},
+    StoredCell{&SourceLine::CALL_1Q_PO, &PastLine::CALL_1Q_PO},
+    StoredCell{&SourceLine::CALL_1Q_PK, &PastLine::CALL_1Q_PK},
+    StoredCell{&SourceLine::CALL_1Q_AF, &PastLine::CALL_1Q_AF},
+    StoredCell{&SourceLine::CALL_2Q_BF, &PastLine::CALL_2Q_BF},
+    StoredCell{&SourceLine::CALL_2Q_PO, &PastLine::CALL_2Q_PO},
+    StoredCell{&SourceLine::CALL_2Q_PK, &PastLine::CALL_2Q_PK},
+    StoredCell{&SourceLine::CALL_2Q_AF, &PastLine::CALL_2Q_AF},
+    StoredCell{&SourceLine::CALL_3Q_BF, &PastLine::CALL_3Q_BF},
+    StoredCell{&SourceLine::CALL_3Q_PO, &PastLine::CALL_3Q_PO},
+    StoredCell{&SourceLine::CALL_3Q_PK, &PastLine::CALL_3Q_PK},
+    StoredCell{&SourceLine::CALL_3Q_AF, &PastLine::CALL_3Q_AF},
+    StoredCell{&SourceLine::CALL_ST_PO, &PastLine::CALL_ST_PO},
+    StoredCell{&SourceLine::CALL_FN_PO, &PastLine::CALL_FN_PO},
+    StoredCell{&SourceLine::HRSE_TM_4Q, &PastLine::HRSE_TM_4Q},
+    StoredCell{&SourceLine::HRSE_TM_FN, &PastLine::HRSE_TM_FN},
+};
+
+void StartLine() {
+    cursor.lineValue.clear();
+    cursor.lineSize = trimmed(sourceLine.TRACKSIZE);
+    if (cursor.lineSize == "1") cursor.lineSize = "1.M";
+    if (cursor.lineSize == "11/4") cursor.lineSize = "1.Q";
+}
+
+void NumberFirstLine() {
+    if (cursor.line == 0) cursor.line = 1;
+}
+
+// Keeps figures between 40 and 99.9, both thrown out; so is a line without a figure.
+void RangeTest() {
+    const double figure = lenientNumber(cursor.lineValue);
+    if (figure >= 99.9 || figure <= 40) cursor.lineValue = " - ";
+}
+
+// The course that the park factors know: a mile and a quarter stays in the vendor's form and earns nothing.
+void TakeLineSize() {
+    cursor.lineSize = trimmed(sourceLine.TRACKSIZE);
+    if (cursor.lineSize == "1") cursor.lineSize = "1.M";
+}
+
+// Looks at the finish that the store holds for this line before the line is stored. On a fresh card there is
+// none, and every line has the credit.
+bool earnsLatePostCredit() {
+    const auto finish = numberIn(card.pastLine.read(cursor.race, cursor.entry, cursor.line).CALL_FN_PO);
+    if (!finish) {
+        passOver();
+        return true;
+    }
+    return *finish <= 3 && cursor.postNumber > 6;
+}
+
+void LatePost() {
+    if (holdsOrFails(earnsLatePostCredit)) Last_PP();
+}
+
+void FindEntry() {
+    const Step step{"FindEntry"};
+    constexpr double noPost = 99;
+    if (cursor.race == 0) cursor.race = 1;
+    const double post = lenientNumber(sourceTables.horseRows.field("PP"));
+    cursor.entry = post == noPost ? Integer{0} : toInteger(post);
+}
+
+void StoreLine() {
+    const Step step{"StoreLine"};
+    PastLine& line = card.pastLine.write(cursor.race, cursor.entry, cursor.line);
+    for (const StoredCell& cell : storedCells) line.*cell.to = sourceLine.*cell.from;
+    line.rating = cursor.lineValue;
+    line.lineNumber = card.totalLines;
+    attempt([&] { line.driverName = card.driverTable(toInteger(lenientNumber(sourceLine.DN))).name; });
+}
+
+void CloseLine() {
+    const Step step{"CloseLine"};
+    if (lenientNumber(sourceLine.DIST_MILES) < 1) cursor.lineValue = "***";
+    const Text rating = closedRating(cursor.lineValue);
+    if (diagnosticLogIsOn()) endLogLine(rating);
+    if (cursor.race >= 1 && cursor.race <= ratedRaces) {
+        Grid& view = screen.dataView[static_cast<std::size_t>(cursor.race)];
+        attempt([&] { view(cursor.row, ratingColumn).text = rating; });
+    }
+    attempt([&] { card.pastLine.write(cursor.race, cursor.entry, cursor.line).rating = rating; });
+}
+
+// The two text forms that the figure is put through between the factors; both round it to one decimal.
+enum class Form { asItStands, wide, narrow };
+
+void putLineValueIn(Form form) {
+    if (form == Form::wide)
+        cursor.lineValue = formatted("#####.0", "@@@@@@@", cursor.lineValue);
+    else if (form == Form::narrow)
+        cursor.lineValue = formatted("###.0", "@@@@@", cursor.lineValue);
+}
+
+enum class Log { nothing, firstFigure, figure };
+
+void logLineValue(Log log) {
+    if (log == Log::nothing) return;
+    if (log == Log::firstFigure) beginLogLine();
+    addToLogLine(cursor.lineValue);
+}
+
+struct LineStep {
+    Form before;
+    void (*run)();
+    Form after;
+    Log log;
+};
+
+// clang-format off
+
+// A line's road to its rating.
+constexpr std::array roadOfALine{
+    //       form before       step              form after        in the log
+    LineStep{Form::asItStands, StartLine,        Form::asItStands, Log::nothing},
+    LineStep{Form::asItStands, LastQuarterCalc,  Form::wide,       Log::firstFigure}, // LQC
+    LineStep{Form::asItStands, NumberFirstLine,  Form::asItStands, Log::nothing},
+    LineStep{Form::asItStands, RangeTest,        Form::narrow,     Log::nothing},
+    LineStep{Form::asItStands, Tracks,           Form::asItStands, Log::nothing},
+    LineStep{Form::asItStands, LengthOfStretch,  Form::narrow,     Log::nothing},
+    LineStep{Form::asItStands, TakeLineSize,     Form::asItStands, Log::nothing},
+    LineStep{Form::asItStands, PostPosition,     Form::asItStands, Log::nothing},
+    LineStep{Form::asItStands, LatePost,         Form::wide,       Log::figure},      // POST
+    LineStep{Form::narrow,     LeadHorse,        Form::wide,       Log::figure},      // LH
+    LineStep{Form::narrow,     ParkOuts,         Form::wide,       Log::figure},      // PO
+    LineStep{Form::narrow,     ParkOutsWind,     Form::wide,       Log::figure},      // POW
+    LineStep{Form::narrow,     ParkOutsDouble,   Form::wide,       Log::figure},      // POD
+    LineStep{Form::narrow,     LengthsGained,    Form::narrow,     Log::nothing},
+    LineStep{Form::asItStands, FindEntry,        Form::asItStands, Log::nothing},
+    LineStep{Form::asItStands, QualifierCredit,  Form::wide,       Log::figure},      // QU
+    LineStep{Form::asItStands, ClassChange,      Form::wide,       Log::figure},      // CL
+    LineStep{Form::asItStands, FavouriteCredit,  Form::wide,       Log::figure},      // FAV
+    LineStep{Form::asItStands, DriverRating,     Form::narrow,     Log::nothing},
+    LineStep{Form::asItStands, StoreLine,        Form::asItStands, Log::nothing},
+    LineStep{Form::asItStands, WPS,              Form::wide,       Log::figure},      // WPS
+    LineStep{Form::narrow,     CloseLine,        Form::asItStands, Log::nothing},     // the rating ends the log line
+};
+
+// clang-format on
+
+} // namespace
+
+void RateLine() {
+    const Step outer{"RateLine"};
+    const bool logged = diagnosticLogIsOn();
+    for (const LineStep& step : roadOfALine) {
+        attempt([&] { putLineValueIn(step.before); });
+        attempt(step.run);
+        attempt([&] { putLineValueIn(step.after); });
+        if (logged) logLineValue(step.log);
+    }
+}
+
+} // namespace quillon

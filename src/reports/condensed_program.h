@@ -1,0 +1,10 @@
+// The condensed program: the card's entries with their last running lines and the selections, race by race.
+#pragma once
+
+namespace quillon {
+
+/// Writes the ".ppp" program; called once, when a load has rated the card. Widens `horseName` to 30
+/// characters in the entries it prints. Resumes at failures.
+void Condensed_PPP();
+
+} // namespace quillon

@@ -1,0 +1,160 @@
+#include "source/stored_field.h"
+
+#include "core/numbers.h"
+
+#include <bit>
+#include <chrono>
+#include <cmath>
+
+namespace quillon {
+namespace {
+
+// A whole number, highest byte first.
+template <class Whole>
+constexpr Whole highFirst(TextView bytes) {
+    std::uint64_t value = 0;
+    for (std::size_t i = 0; i < sizeof(Whole); ++i) value = value << 8 | static_cast<std::uint8_t>(bytes[i]);
+    return static_cast<Whole>(value);
+}
+
+constexpr bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// The parts of a number, as they stand in its text.
+struct NumberParts {
+    bool isNumber = false;
+    bool negative = false;
+    TextView whole;    ///< without leading zeros
+    TextView decimals; ///< without trailing zeros
+};
+
+NumberParts numberParts(TextView text) {
+    NumberParts parts;
+    if (!text.empty() && (text[0] == '-' || text[0] == '+')) {
+        parts.negative = text[0] == '-';
+        text.remove_prefix(1);
+    }
+    std::size_t place = 0;
+    while (place < text.size() && isDigit(text[place])) ++place;
+    const std::size_t wholeEnd = place;
+    if (place < text.size() && text[place] == '.') ++place;
+    const std::size_t decimalsStart = place;
+    while (place < text.size() && isDigit(text[place])) ++place;
+    parts.isNumber = place == text.size() && (wholeEnd > 0 || place > decimalsStart);
+    if (!parts.isNumber) return parts;
+
+    std::size_t wholeStart = 0;
+    while (wholeStart < wholeEnd && text[wholeStart] == '0') ++wholeStart;
+    while (place > decimalsStart && text[place - 1] == '0') --place;
+    parts.whole = text.substr(wholeStart, wholeEnd - wholeStart);
+    parts.decimals = text.substr(decimalsStart, place - decimalsStart);
+    return parts;
+}
+
+// Blanks, 00, and the stars that stand for a number too long for its field.
+constexpr bool isPadding(char c) {
+    return c == ' ' || c == '\0' || c == '*';
+}
+
+TextView withoutPadding(TextView text) {
+    while (!text.empty() && isPadding(text.front())) text.remove_prefix(1);
+    while (!text.empty() && isPadding(text.back())) text.remove_suffix(1);
+    return text;
+}
+
+// Works on the digits, so that no figure changes on its way through a double.
+void readDigits(TextView stored, Text& text) {
+    stored = withoutPadding(stored);
+    const NumberParts parts = numberParts(stored);
+    if (!parts.isNumber) {
+        text.assign(stored);
+        return;
+    }
+    text.clear();
+    const bool isZero = parts.whole.empty() && parts.decimals.empty();
+    if (parts.negative && !isZero) text += '-';
+    if (parts.whole.empty()) text += '0';
+    text += parts.whole;
+    if (parts.decimals.empty()) return;
+    text += '.';
+    text += parts.decimals;
+}
+
+void readCurrency(std::int64_t tenThousandths, Text& text) {
+    constexpr std::uint64_t unit = 10000;
+    const bool negative = tenThousandths < 0;
+    const auto bits = static_cast<std::uint64_t>(tenThousandths);
+    const std::uint64_t amount = negative ? 0 - bits : bits;
+    const Text decimals = std::to_string(unit + amount % unit).substr(1); // the 1 in front keeps the zeros
+    readDigits((negative ? "-" : "") + std::to_string(amount / unit) + "." + decimals, text);
+}
+
+void readReal(double number, Text& text) {
+    if (std::isfinite(number)) text = numberText(number);
+}
+
+void readDay(std::int32_t dayNumber, Text& text) {
+    constexpr std::int32_t dayNumberOf1970 = 2440588; // days of the Julian period, January 1st
+    constexpr std::int32_t firstDay = 1721426;        // January 1st of the year 1
+    constexpr std::int32_t lastDay = 5373484;         // December 31st of 9999
+    if (dayNumber < firstDay || dayNumber > lastDay) return;
+    const std::chrono::year_month_day date{
+        std::chrono::sys_days{std::chrono::days{dayNumber - dayNumberOf1970}}};
+    const int yyyymmdd = static_cast<int>(date.year()) * 10000 +
+                         static_cast<int>(static_cast<unsigned>(date.month())) * 100 +
+                         static_cast<int>(static_cast<unsigned>(date.day()));
+    const Text digits = std::to_string(yyyymmdd);
+    text.assign(8 - digits.size(), '0');
+    text += digits;
+}
+
+void readLogical(char stored, Text& text) {
+    if (contains("TtYy", TextView{&stored, 1})) text = "T";
+    if (contains("FfNn", TextView{&stored, 1})) text = "F";
+}
+
+double orderedReal(TextView stored) {
+    constexpr std::uint64_t signBit = std::uint64_t{1} << 63;
+    const auto bits = highFirst<std::uint64_t>(stored);
+    return std::bit_cast<double>((bits & signBit) != 0 ? bits ^ signBit : ~bits);
+}
+
+std::int32_t orderedInteger(TextView stored) {
+    constexpr std::uint32_t signBit = std::uint32_t{1} << 31;
+    return static_cast<std::int32_t>(highFirst<std::uint32_t>(stored) ^ signBit);
+}
+
+// 00 behind a text is padding of a row that was never filled in.
+TextView withoutZeros(TextView text) {
+    return text.substr(0, text.find_last_not_of('\0') + 1);
+}
+
+} // namespace
+
+void readStored(FieldForm form, TextView stored, Text& text) {
+    if (form == FieldForm::characters) {
+        text.assign(withoutZeros(stored));
+        return;
+    }
+    if (form == FieldForm::digits) {
+        readDigits(stored, text);
+        return;
+    }
+    text.clear();
+    switch (form) {
+    case FieldForm::date: text = trimmed(withoutZeros(stored)); break;
+    case FieldForm::logical: readLogical(stored[0], text); break;
+    case FieldForm::integer32: text = std::to_string(lowFirst<std::int32_t>(stored)); break;
+    case FieldForm::currency: readCurrency(lowFirst<std::int64_t>(stored), text); break;
+    case FieldForm::real64: readReal(std::bit_cast<double>(lowFirst<std::uint64_t>(stored)), text); break;
+    case FieldForm::dayAndTime: readDay(lowFirst<std::int32_t>(stored), text); break;
+    case FieldForm::orderedInteger32: text = std::to_string(orderedInteger(stored)); break;
+    case FieldForm::orderedReal64: readReal(orderedReal(stored), text); break;
+    case FieldForm::characters:
+    case FieldForm::digits:
+    case FieldForm::unread: break;
+    }
+}
+
+} // namespace quillon

@@ -1,0 +1,102 @@
+#include "core/failure.h"
+#include "core/files.h"
+#include "support/card_test.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+
+TEST_F(CardTest, PathsAreShownAsUsersKnowThem) {
+    EXPECT_EQ("C:\\A Quillon PRO\\Selections\\M1_20260314.pms",
+              shownPath({Folder::selections, "M1_20260314.pms"}));
+    EXPECT_EQ("C:\\A Quillon PRO\\RACE(14).txt", shownPath({Folder::program, "RACE(14).txt"}));
+    EXPECT_EQ("HRA.ini", shownPath({Folder::working, "HRA.ini"}));
+}
+
+TEST_F(CardTest, FilesAreFoundInAnyCase) {
+    put("a quillon pro/TRACKMASTER EXE FILES/raceshr.dbf", "rows");
+    EXPECT_EQ("rows", readFile({Folder::sourceTables, "RACESHR.DBF"}));
+    put("trackeditor.INI", "tracks");
+    EXPECT_EQ("tracks", readFile({Folder::working, "TrackEditor.ini"}));
+}
+
+TEST_F(CardTest, WritingMakesTheFolderAndLeavesNoTemporaryFile) {
+    writeFile({Folder::drivers, "M1_20260314.pmd2"}, "one\r\n");
+    writeFile({Folder::drivers, "M1_20260314.pmd2"}, "two\r\n");
+    EXPECT_EQ("two\r\n", contentOf("A Quillon PRO/Drivers/M1_20260314.pmd2"));
+    std::size_t files = 0;
+    for ([[maybe_unused]] const auto& file : std::filesystem::directory_iterator{"A Quillon PRO/Drivers"})
+        ++files;
+    EXPECT_EQ(1u, files);
+}
+
+TEST_F(CardTest, RewritingKeepsTheCaseOfTheFileThatIsThere) {
+    put("stars.TXT", "old");
+    writeFile({Folder::working, "Stars.txt"}, "new");
+    EXPECT_EQ("new", contentOf("stars.TXT"));
+    EXPECT_FALSE(exists("Stars.txt"));
+}
+
+TEST_F(CardTest, AFailedWriteLeavesTheOldFileWhole) {
+    put("A Quillon PRO", "a file where the folder should be");
+    EXPECT_FALSE(attempt([] { writeFile({Folder::selections, "x.pms"}, "new"); }));
+    EXPECT_EQ("a file where the folder should be", contentOf("A Quillon PRO"));
+
+    put("HRA.txt", "old");
+    std::filesystem::create_directory("HRA.txt.quillon-new"); // the temporary file can't be made
+    EXPECT_FALSE(attempt([] { writeFile({Folder::working, "HRA.txt"}, "new"); }));
+    EXPECT_EQ("old", contentOf("HRA.txt"));
+}
+
+TEST_F(CardTest, PreparedFilesAreGoneUnlessPutInPlace) {
+    put("Stars.txt", "old");
+    { const PreparedFile prepared{{Folder::working, "Stars.txt"}, "new"}; }
+    EXPECT_EQ("old", contentOf("Stars.txt"));
+    EXPECT_FALSE(exists("Stars.txt.quillon-new"));
+}
+
+TEST_F(CardTest, AnAppendedRecordNeverMergesWithATornLine) {
+    appendToFile({Folder::working, "HRA.ini"}, "first\r\n");
+    appendToFile({Folder::working, "HRA.ini"}, "second\r\n");
+    EXPECT_EQ("first\r\nsecond\r\n", contentOf("HRA.ini"));
+    put("HRA.ini", "first\r\nsec");
+    appendToFile({Folder::working, "HRA.ini"}, "third\r\n");
+    EXPECT_EQ("first\r\nsec\r\nthird\r\n", contentOf("HRA.ini"));
+}
+
+TEST_F(CardTest, NamesThatLeadElsewhereAreNoFileNames) {
+    for (const char* name : {"", ".", "..", "../x", "a/b", "a\\b", "C:x", "a\nb"})
+        EXPECT_FALSE(attempt([&] { writeFile({Folder::selections, name}, "x"); })) << name;
+    EXPECT_FALSE(attempt([] { readFile({Folder::working, Text(1000, 'x')}); }));
+}
+
+TEST_F(CardTest, NamesOutsideAsciiAreOneOnDiskAndInTheSystem) {
+    writeFile({Folder::working, "Qu\xE9"
+                                "bec.txt"},
+              "x");
+    EXPECT_TRUE(exists("Qu\xC3\xA9"
+                       "bec.txt"));
+}
+
+TEST_F(CardTest, FileListsIgnoreCaseAndAreSorted) {
+    put("A Quillon PRO/Race Cards/YR_20260315.pmd", "");
+    put("A Quillon PRO/Race Cards/M1_20260314.PMD", "");
+    put("A Quillon PRO/Race Cards/M1_20260314.pmx", "");
+    EXPECT_EQ((std::vector<Text>{"M1_20260314.PMD", "YR_20260315.pmd"}), filesIn(Folder::raceCards, ".pmd"));
+    EXPECT_TRUE(filesIn(Folder::archives, ".pmx").empty());
+}
+
+TEST(Lines, EitherLineEndIsRead) {
+    const auto linesOf = [](TextView content) {
+        std::vector<Text> lines;
+        LineReader reader{content};
+        while (const auto line = reader.next()) lines.emplace_back(*line);
+        return lines;
+    };
+    EXPECT_EQ((std::vector<Text>{"a", "", "b"}), linesOf("a\r\n\nb"));
+    EXPECT_EQ((std::vector<Text>{"a"}), linesOf("a\n"));
+    EXPECT_EQ((std::vector<Text>{"\r"}), linesOf("\r\r\n")); // a line of one carriage return
+    EXPECT_TRUE(linesOf("").empty());
+}
+
+} // namespace quillon

@@ -1,0 +1,64 @@
+#include "core/fields.h"
+#include "support/card_test.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+
+TEST_F(CardTest, ReadingAPastLineDoesNotMakeIt) {
+    EXPECT_EQ("", card.pastLine.read(1, 3, 2).POST);
+    card.pastLine.write(1, 3, 2) = {.POST = "4", .CALL_FN_PO = "1"};
+    EXPECT_EQ("4", card.pastLine.read(1, 3, 2).POST);
+    EXPECT_EQ("", card.pastLine.read(1, 3, 1).POST);
+    EXPECT_TRUE(card.pastLine.has(1, 3, 2));
+    EXPECT_FALSE(card.pastLine.has(1, 3, 1));
+}
+
+TEST_F(CardTest, TheStoreHasTheBoundsOfACard) {
+    EXPECT_TRUE(attempt([] { card.entry(30, 20).rating = "58.0"; }));
+    EXPECT_FALSE(attempt([] { card.entry(31, 1).rating = "58.0"; }));
+    EXPECT_FALSE(attempt([] { card.entry(1, 21).rating = "58.0"; }));
+    EXPECT_TRUE(attempt([] { card.pastLine.write(1, 1, 30).POST = "1"; }));
+    EXPECT_FALSE(attempt([] { card.pastLine.write(1, 1, 31).POST = "1"; }));
+    EXPECT_TRUE(attempt([] { card.lineCells(3000, 39) = "1"; }));
+    EXPECT_FALSE(attempt([] { card.lineCells(3001, 39) = "1"; }));
+    EXPECT_FALSE(attempt([] { card.driverTable(301).name = "x"; }));
+    EXPECT_FALSE(attempt([] { card.trainerTable(201) = "x"; }));
+}
+
+TEST_F(CardTest, ClearingEmptiesEverything) {
+    card.cardFileName = "M1_20260314.pmd";
+    card.raceCount = 12;
+    card.entry(1, 3).chosen.CR = "QUA";
+    card.pastLine.write(1, 3, 2).POST = "4";
+    card.rankEntry(1) = 7;
+    card.keyPicks(1, 2) = "  4";
+    card.clear();
+    EXPECT_EQ("", card.cardFileName);
+    EXPECT_EQ(0, card.raceCount);
+    EXPECT_EQ("", card.entry(1, 3).chosen.CR);
+    EXPECT_EQ("", card.pastLine.read(1, 3, 2).POST);
+    EXPECT_EQ(0, card.rankEntry(1));
+    EXPECT_EQ("", card.keyPicks(1, 2));
+}
+
+TEST_F(CardTest, ATextCellKnowsWhetherItWasEverGivenAValue) {
+    RaceEntry& entry = card.entry(1, 1);
+    EXPECT_FALSE(entry.horseName.given());
+    entry.horseName = "";
+    EXPECT_TRUE(entry.horseName.given());
+    EXPECT_TRUE(entry.horseName.empty());
+}
+
+TEST_F(CardTest, FieldListsNameEveryFieldOnce) {
+    std::size_t named = 0;
+    PastLine line;
+    forEachField(pastLineFields, line, [&](TextView, auto& value) {
+        using Value = std::decay_t<decltype(value)>;
+        if constexpr (std::is_same_v<Value, Text>) ++named;
+    });
+    EXPECT_EQ(sizeof(PastLine) / sizeof(Text),
+              named + 0u); // 30 texts; the line number lies in the padding behind
+}
+
+} // namespace quillon
