@@ -260,6 +260,27 @@ void PreparedFile::putInPlace() {
     temporary_.clear();
 }
 
+void putInPlaceTogether(PreparedFile& first, PreparedFile& second) {
+    std::error_code error;
+    const fs::path target = first.target_;
+    fs::path old = target; // a second name for the old first file while the second is replaced
+    old += ".quillon-old";
+    fs::remove(old, error);
+    const bool replaces = fs::exists(target, error);
+    if (replaces) {
+        fs::create_hard_link(target, old, error);
+        if (error) fs::copy_file(target, old, error); // a disk without links
+        if (error) fail(nameOn(target) + " can't be kept while it is replaced");
+    }
+    const bool bothInPlace = attempt([&] { first.putInPlace(); }) && attempt([&] { second.putInPlace(); });
+    const bool firstAlone = !bothInPlace && first.temporary_.empty();
+    if (firstAlone && replaces)
+        fs::rename(old, target, error);
+    else
+        fs::remove(firstAlone ? target : old, error);
+    if (!bothInPlace) fail(nameOn(target) + " is left as it was");
+}
+
 void writeFile(const FilePlace& place, TextView content) {
     makeFolder(place.folder);
     PreparedFile{place, content}.putInPlace();

@@ -76,9 +76,16 @@ public:
     void putInPlace();
 
 private:
+    friend void putInPlaceTogether(PreparedFile& first, PreparedFile& second);
+
     std::filesystem::path target_;
     std::filesystem::path temporary_;
 };
+
+/// Puts both in place, or neither: when the second file can't be replaced, the first gets its old content
+/// back. Fails with both old files as they were. A crash between the two leaves each file whole, the first
+/// one new and the second old.
+void putInPlaceTogether(PreparedFile& first, PreparedFile& second);
 
 /// Adds to the end of the file in one write and flushes it; the file and its folder are created where
 /// missing. A last line without a line end gets one first, so that nothing merges with it; adding nothing to

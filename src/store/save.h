@@ -1,0 +1,18 @@
+// Saving and closing a card.
+#pragma once
+
+namespace quillon {
+
+/// Saves the open card; without one it does nothing.
+void Save();
+
+/// Stores the board, takes back what the race views show, names the card by the track and date on show, and
+/// replaces the card file and its archive, both or neither. A save that can't write tells so by the plain
+/// file error, leaves both files as they were, and stops, with the command that asked for it.
+void Save_It();
+
+/// Saves the open card and clears views, heading and board; the store stays as it is. Without a card it only
+/// clears. When the save fails the card stays open.
+void CloseRC();
+
+} // namespace quillon
