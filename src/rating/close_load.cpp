@@ -139,6 +139,7 @@ void CloseLoad() {
     attempt([&] { showSelectionsOfRaceOne(); });
     attempt(SelectionSheet);
     captionFirstRace();
+    FillRaceList();
     attempt(KeyHorses);
 }
 
