@@ -1,6 +1,7 @@
 #include "store/card_file.h"
 
 #include "core/failure.h"
+#include "core/files.h"
 
 #include <array>
 #include <charconv>
@@ -251,14 +252,6 @@ private:
 };
 
 } // namespace
-
-FilePlace cardFilePlace(TextView cardFileName) {
-    return {Folder::raceCards, Text{cardFileName}};
-}
-
-FilePlace archivePlace(TextView cardFileName) {
-    return {Folder::archives, Text{leftOf(cardFileName, placeOf(".", cardFileName))} + "pmx"};
-}
 
 Text cardFileContent(const RaceCard& card) {
     constexpr std::size_t usualSize = 200'000;

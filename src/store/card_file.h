@@ -8,7 +8,6 @@
 #pragma once
 
 #include "app/screen.h"
-#include "core/files.h"
 #include "core/race_card.h"
 #include "core/text.h"
 
@@ -20,10 +19,6 @@ constexpr int cardFileLines = 13'179;
 constexpr int archiveRows = 2300; ///< lines of the card beyond them are not saved
 constexpr int archiveColumns = 39;
 constexpr int archiveLines = archiveRows * archiveColumns;
-
-/// Where the card of this name lies, and where its archive.
-FilePlace cardFilePlace(TextView cardFileName);
-FilePlace archivePlace(TextView cardFileName);
 
 /// The files as they are written. A line feed inside a text would move all values behind it by a line, so
 /// line ends inside a text are written as blanks.

@@ -5,9 +5,6 @@
 
 namespace quillon {
 
-/// Caption of the start button once a card was recalled: no tables are loaded behind it any more.
-inline constexpr TextView recalledCardCaption = "View Races";
-
 /// Turns recall mode on and shows the list of saved cards.
 void RecallRaceCard();
 

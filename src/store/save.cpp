@@ -2,12 +2,13 @@
 
 #include "app/ports.h"
 #include "app/screen.h"
+#include "app/start_up.h"
+#include "core/card_files.h"
 #include "core/failure.h"
 #include "core/files.h"
 #include "core/race_card.h"
 #include "results/board.h"
 #include "store/card_file.h"
-#include "store/recall.h"
 
 #include <optional>
 #include <utility>
@@ -27,8 +28,8 @@ void TakeBackRaceViews() {
     }
 }
 
-// The card's name: track and date as they head the screen. A race without conditions of its own, such as a
-// heat, shows no track; the card then keeps the one it is named by.
+// The card's name: track and date as they head the screen. What the heading doesn't show stays as the card is
+// named already.
 Text nameOnShow() {
     const TextView name = card.cardFileName;
     const auto bar = name.find('_');
@@ -61,7 +62,7 @@ void MarkMissingClassRatings() {
 // joining that would lose the rest of the distance.
 void JoinLabelsAndDistances() {
     const Step step{"JoinLabelsAndDistances"};
-    const bool recalled = screen.start.caption == recalledCardCaption;
+    const bool recalled = screen.start.caption == viewRacesCaption;
     for (int race = 1; race <= ratedRaces; ++race) {
         RaceInfo& info = card.raceInfo[{race}];
         if (!recalled || info.raceLabelDistance.empty()) info.raceLabelDistance = info.label + info.distance;
@@ -89,22 +90,22 @@ void Save_It() {
     TakeBackRaceViews();
     card.cardFileName = nameOnShow();
 
-    const FilePlace cardFile = cardFilePlace(card.cardFileName);
-    const FilePlace archive = archivePlace(card.cardFileName);
-    const Text cardPath = shownPath(cardFile);
+    const FilePlace saved{Folder::raceCards, card.cardFileName};
+    const FilePlace archive = cardFile(Folder::archives, "pmx");
+    const Text savedPath = shownPath(saved);
     const Text archivePath = shownPath(archive);
-    insist([&] { makeFolder(cardFile.folder); }, "Path not found: " + cardPath);
+    insist([&] { makeFolder(saved.folder); }, "Path not found: " + savedPath);
     insist([&] { makeFolder(archive.folder); }, "Path not found: " + archivePath);
 
     MarkMissingClassRatings();
     JoinLabelsAndDistances();
     std::optional<PreparedFile> newCard;
     std::optional<PreparedFile> newArchive;
-    insist([&] { newCard.emplace(cardFile, cardFileContent(card)); }, "File can't be written: " + cardPath);
+    insist([&] { newCard.emplace(saved, cardFileContent(card)); }, "File can't be written: " + savedPath);
     insist([&] { newArchive.emplace(archive, archiveContent(card)); },
            "File can't be written: " + archivePath);
     insist([&] { putInPlaceTogether(*newCard, *newArchive); },
-           "Files can't be replaced: " + cardPath + ", " + archivePath);
+           "Files can't be replaced: " + savedPath + ", " + archivePath);
 }
 
 void CloseRC() {

@@ -55,6 +55,35 @@ TEST_F(CardTest, PreparedFilesAreGoneUnlessPutInPlace) {
     EXPECT_FALSE(exists("Stars.txt.quillon-new"));
 }
 
+TEST_F(CardTest, FilesPutInPlaceTogetherAreBothNewOrBothOld) {
+    put("HRA.ini", "old");
+    std::filesystem::create_directories("Stars5.ini/in the way");
+    {
+        PreparedFile first{{Folder::working, "HRA.ini"}, "new"};
+        PreparedFile second{{Folder::working, "Stars5.ini"}, "new"};
+        EXPECT_FALSE(attempt([&] { putInPlaceTogether(first, second); }));
+        EXPECT_EQ("old", contentOf("HRA.ini"));
+    }
+    std::filesystem::remove("HRA.ini");
+    {
+        PreparedFile first{{Folder::working, "HRA.ini"}, "new"};
+        PreparedFile second{{Folder::working, "Stars5.ini"}, "new"};
+        EXPECT_FALSE(attempt([&] { putInPlaceTogether(first, second); }));
+        EXPECT_FALSE(exists("HRA.ini"));
+    }
+    std::filesystem::remove_all("Stars5.ini");
+    put("HRA.ini", "old");
+    put("HRA.ini.quillon-old", "left by a crash");
+    PreparedFile first{{Folder::working, "HRA.ini"}, "new"};
+    PreparedFile second{{Folder::working, "Stars5.ini"}, "new"};
+    putInPlaceTogether(first, second);
+    EXPECT_EQ("new", contentOf("HRA.ini"));
+    EXPECT_EQ("new", contentOf("Stars5.ini"));
+    for (const char* name : {"HRA.ini", "Stars5.ini"})
+        for (const char* end : {".quillon-new", ".quillon-old"})
+            EXPECT_FALSE(exists(std::string{name} + end));
+}
+
 TEST_F(CardTest, AnAppendedRecordNeverMergesWithATornLine) {
     appendToFile({Folder::working, "HRA.ini"}, "first\r\n");
     appendToFile({Folder::working, "HRA.ini"}, "second\r\n");

@@ -91,22 +91,16 @@ const std::vector<ValueCase>& valueCases() {
     return cases;
 }
 
-bool isCount(const ValueCase& value) {
-    return std::string_view{value.name}.starts_with("linesIn");
-}
+bool isCount(const ValueCase& value) { return std::string_view{value.name}.starts_with("linesIn"); }
 
 // A text of its own for each value; counts get a number of their own.
 std::string distinct(const ValueCase& value, int number) {
     return isCount(value) ? std::to_string(number) : " " + std::string{value.name} + " ";
 }
 
-std::string quoted(const std::string& text) {
-    return '"' + text + '"';
-}
+std::string quoted(const std::string& text) { return '"' + text + '"'; }
 
-void readBack(const std::string& content) {
-    takeCardFile(content, card);
-}
+void readBack(const std::string& content) { takeCardFile(content, card); }
 
 // ---- the card file as it is written ----
 
