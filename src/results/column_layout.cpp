@@ -2,6 +2,7 @@
 #include "results/auto_record.h"
 
 #include "core/failure.h"
+#include "core/files.h"
 #include "core/formats.h"
 #include "core/race_card.h"
 #include "results/board.h"
@@ -135,13 +136,9 @@ void readDouble(TextView line, int poolColumn) {
     Pick3();
 }
 
-void readShortDouble(TextView line) {
-    readDouble(line, keywordColumn + 2);
-}
+void readShortDouble(TextView line) { readDouble(line, keywordColumn + 2); }
 
-void readLongDouble(TextView line) {
-    readDouble(line, keywordColumn + 6);
-}
+void readLongDouble(TextView line) { readDouble(line, keywordColumn + 6); }
 
 struct PickCount {
     TextView word; ///< at columns 12 to 15
@@ -214,7 +211,7 @@ void AutoRecord() {
     card.recallMode = "RX";
     card.winHeat.clear();
     card.placeHeat.clear();
-    if (const auto content = fileContent(resultsFile())) {
+    if (const auto content = resultsText()) {
         if (!columnsAreOfThisCard(*content)) return;
         cursor.race = static_cast<Integer>(raceOnShow());
         readResults(*content);

@@ -2,6 +2,7 @@
 #include "results/auto_record.h"
 
 #include "core/failure.h"
+#include "core/files.h"
 #include "core/formats.h"
 #include "core/race_card.h"
 #include "results/board.h"
@@ -29,13 +30,9 @@ struct WordPass {
     ResultsDate date{};
 };
 
-Text& outcome(int cell) {
-    return card.raceOutcome(cursor.race, cell);
-}
+Text& outcome(int cell) { return card.raceOutcome(cursor.race, cell); }
 
-Text& payoff(int cell) {
-    return card.payoffRecord(cursor.race, cell);
-}
+Text& payoff(int cell) { return card.payoffRecord(cursor.race, cell); }
 
 struct MonthName {
     TextView name;
@@ -154,9 +151,7 @@ void readThird(const WordPass& pass, TextView line) {
     dropZeros(pass, {6});
 }
 
-void readFourth(const WordPass&, TextView line) {
-    storeFinisher(4, line);
-}
+void readFourth(const WordPass&, TextView line) { storeFinisher(4, line); }
 
 struct FinishLine {
     TextView start;
@@ -204,9 +199,7 @@ void readExotic(TextView line) {
         attempt([&] { payoff(refundCell) = line; });
 }
 
-Text poolPayoff(TextView text) {
-    return formatted("######.00", "@@@@@@@@@", text);
-}
+Text poolPayoff(TextView text) { return formatted("######.00", "@@@@@@@@@", text); }
 
 /// A daily double names its two winners at fixed columns.
 void readDouble(TextView line) {
@@ -251,7 +244,7 @@ bool readLine(WordPass& pass, TextView line) {
 
 /// False when there is no file, or it is of another day or track.
 bool readResults(WordPass pass) {
-    const auto content = fileContent(resultsFile());
+    const auto content = resultsText();
     if (!content) return false;
     cursor.race = static_cast<Integer>(raceOnShow());
     LineReader lines{*content};
@@ -265,14 +258,12 @@ bool readResults(WordPass pass) {
 
 void AutoRecord2() {
     const Step step{"AutoRecord2"};
-    if (card.cardFileName.empty()) return;
     card.recallMode = "RX";
     if (readResults({})) showBoard(1); // the recall has put race 1 on show
 }
 
 void EBET() {
     const Step step{"EBET"};
-    if (card.cardFileName.empty()) return;
     card.recallMode = "RX";
     card.winHeat.clear();
     card.placeHeat.clear();

@@ -176,7 +176,7 @@ TEST_F(WordLayoutTest, WithNoCardOpenNothingHappens) {
     put("A Quillon PRO/Results/.pmr", sampleText);
     EBET();
     AutoRecord2();
-    EXPECT_EQ("", card.recallMode);
+    EXPECT_EQ("4", screen.header.race);
     EXPECT_EQ(Filled{}, payoffs(1));
 }
 
