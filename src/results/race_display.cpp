@@ -141,7 +141,7 @@ void RaceButton(int n) {
     const Step step{"RaceButton"};
     if (card.recallMode == "R") card.recallMode.clear();
     // A heat above race 20 has its view filled too, though what is shown is race 20.
-    if (n > card.raceCount) attempt([&] { fillHeatView(n); });
+    if (n > lastButtonRace && n > card.raceCount) attempt([&] { fillHeatView(n); });
     show(heldToButtons(n), allViews);
 }
 
@@ -190,8 +190,7 @@ void EntryButton(int i) {
     ClosePastPerformances();
     if (again) return;
 
-    // A recalled card keeps no offset of its own: its file name tells a partial card by the figure at its
-    // end.
+    // A recalled card has no offset: the figure at the end of its file name tells a partial one.
     if (card.recallMode == "R") card.raceOffset = toInteger(lenientNumber(rightOf(card.cardFileName, 1)));
     cursor.entry = static_cast<Integer>(i);
     screen.currentEntry = i;

@@ -38,12 +38,14 @@ struct MonthName {
     TextView name;
     const char* number;
 };
+// clang-format off
 constexpr std::array monthNames{
-    MonthName{"January", "01"}, MonthName{"February", "02"}, MonthName{"March", "03"},
-    MonthName{"April", "04"},   MonthName{"May ", "05"},     MonthName{"June", "06"},
-    MonthName{"July", "07"},    MonthName{"August", "08"},   MonthName{"September", "09"},
-    MonthName{"October", "10"}, MonthName{"November", "11"}, MonthName{"December", "12"},
+    MonthName{"January", "01"}, MonthName{"February", "02"}, MonthName{"March",     "03"},
+    MonthName{"April",   "04"}, MonthName{"May ",     "05"}, MonthName{"June",      "06"},
+    MonthName{"July",    "07"}, MonthName{"August",   "08"}, MonthName{"September", "09"},
+    MonthName{"October", "10"}, MonthName{"November", "11"}, MonthName{"December",  "12"},
 };
+// clang-format on
 
 /// The first line with a month's name, a horse's too, is the date: the day stands in front of the first
 /// comma, the year at the end.
@@ -65,10 +67,14 @@ struct WinnerCut {
     int secondPlace;
     int secondWidth;
 };
+// clang-format off
 constexpr std::array winnerCuts{
-    WinnerCut{2, 4, 5, 4}, WinnerCut{3, 5, 6, 6}, WinnerCut{4, 6, 7, 6},
+    WinnerCut{2, 4, 5, 4},
+    WinnerCut{3, 5, 6, 6},
+    WinnerCut{4, 6, 7, 6},
     WinnerCut{5, 7, 8, 6}, // long lines only
 };
+// clang-format on
 constexpr std::span<const WinnerCut> longLineCuts{winnerCuts};
 constexpr std::span<const WinnerCut> shortLineCuts = longLineCuts.first(3);
 
@@ -173,13 +179,20 @@ struct ExoticCut {
     int characters;
     int cell;
 };
+// clang-format off
 constexpr std::array exoticCuts{
-    ExoticCut{"Exacta", 18, 18, 4, 7},     ExoticCut{"Exacta", 19, 19, 5, 7},
-    ExoticCut{"Exacta", 20, 20, 6, 7},     ExoticCut{"Exacta", 21, 22, 7, 7},
-    ExoticCut{"Trifecta", 0, 24, 6, 8},    ExoticCut{"Trifecta", 25, 25, 7, 8},
-    ExoticCut{"Trifecta", 26, 27, 8, 8},   ExoticCut{"Superfecta", 0, 28, 7, 9},
-    ExoticCut{"Superfecta", 29, 29, 8, 9}, ExoticCut{"Superfecta", 30, anyLength, 9, 9},
+    ExoticCut{"Exacta",     18, 18,        4, 7},
+    ExoticCut{"Exacta",     19, 19,        5, 7},
+    ExoticCut{"Exacta",     20, 20,        6, 7},
+    ExoticCut{"Exacta",     21, 22,        7, 7},
+    ExoticCut{"Trifecta",    0, 24,        6, 8},
+    ExoticCut{"Trifecta",   25, 25,        7, 8},
+    ExoticCut{"Trifecta",   26, 27,        8, 8},
+    ExoticCut{"Superfecta",  0, 28,        7, 9},
+    ExoticCut{"Superfecta", 29, 29,        8, 9},
+    ExoticCut{"Superfecta", 30, anyLength, 9, 9},
 };
+// clang-format on
 
 void storeExotic(TextView word, TextView line) {
     const auto length = static_cast<int>(line.size());
