@@ -42,11 +42,12 @@ bool columnsAreOfThisCard(TextView content) {
     return true;
 }
 
+void takeCommaOut(Text& payoff) {
+    if (auto plain = withoutComma(payoff)) payoff = std::move(*plain);
+}
+
 void removeComma(int cell) {
-    attempt([&] {
-        Text& payoff = card.payoffRecord(cursor.race, cell);
-        if (auto plain = withoutComma(payoff)) payoff = std::move(*plain);
-    });
+    attempt([&] { takeCommaOut(card.payoffRecord(cursor.race, cell)); });
 }
 
 void storeFinisher(int place, TextView line) {
@@ -152,16 +153,15 @@ constexpr std::array pickCounts{
 void readPick(TextView line) {
     constexpr int cutWidth = 11;
     constexpr int poolColumn = 16;
-    for (const PickCount& row : pickCounts)
-        if (midOf(line, 12, 4) == row.word)
-            card.poolLegs = row.legs; // no word of these: the count as it stands
+    for (const PickCount& row : pickCounts) // with no word of these the count is as it stands
+        if (midOf(line, 12, 4) == row.word) card.poolLegs = row.legs;
     const TextView cut = rightOf(line, cutWidth);
     attempt([&] { card.pickPayoff(cursor.race, card.poolLegs) = cut; });
     // Where the "$" stands is read off the race's pick three, whatever the count. It loses its own "$" here,
     // so that a longer pick that ends in the same race keeps the text as cut.
     attempt([&] {
-        const int dollar = placeOf("$", card.pickPayoff(cursor.race, 3));
-        card.pickPayoff(cursor.race, card.poolLegs) = behindDollar(cut, dollar, cutWidth);
+        card.pickPayoff(cursor.race, card.poolLegs) =
+            behindDollar(cut, placeOf("$", card.pickPayoff(cursor.race, 3)), cutWidth);
     });
     card.poolText = poolFrom(line, poolColumn);
     Pick3();
@@ -172,11 +172,16 @@ struct KeywordLine {
     TextView keyword;
     void (*read)(TextView line);
 };
+// clang-format off
 constexpr std::array keywordLines{
-    KeywordLine{"EX", readExacta},         KeywordLine{"TR", readTrifecta},
-    KeywordLine{"SU", readSuperfecta},     KeywordLine{"DD", readShortDouble},
-    KeywordLine{"DOUBLE", readLongDouble}, KeywordLine{"PICK", readPick},
+    KeywordLine{"EX", readExacta},
+    KeywordLine{"TR", readTrifecta},
+    KeywordLine{"SU", readSuperfecta},
+    KeywordLine{"DD", readShortDouble},
+    KeywordLine{"DOUBLE", readLongDouble},
+    KeywordLine{"PICK", readPick},
 };
+// clang-format on
 
 void readLine(TextView line, LineReader& lines) {
     if (const int colon = placeOf(":", line); colon > 0) {
