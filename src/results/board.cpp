@@ -3,6 +3,7 @@
 #include "app/screen.h"
 #include "core/failure.h"
 #include "core/race_card.h"
+#include "rating/race_views.h"
 
 #include <array>
 #include <utility>
@@ -105,22 +106,18 @@ void TEXT_56() {
         screen.finishLabels[i] = screen.boxes[i + firstFinishBox].text;
 }
 
-void TypeBox(int box, const Text& text) {
-    setBox(box, text);
-}
+void TypeBox(int box, const Text& text) { setBox(box, text); }
 
 void TypeTote(int box, const Text& text) {
     if (box < 1 || box > toteBoxesOfCells) fail("there is no payoff box " + std::to_string(box));
     screen.tote.at(box) = text;
 }
 
-void TypeRefunds(const Text& text) {
-    screen.refunds = text;
-}
+void TypeRefunds(const Text& text) { screen.refunds = text; }
 
 void TypeCell(int race, int row, int column, const Text& text) {
-    if (race < 1 || race > ratedRaces || row < 1) fail("there is no such cell to type in");
-    screen.raceView.at(race)(row, column).text = text;
+    if (row < 1) fail("the head of a race view can't be edited");
+    raceViewOf(race)(row, column).text = text;
 }
 
 } // namespace quillon

@@ -2,6 +2,7 @@
 #include "results/auto_record.h"
 
 #include "core/failure.h"
+#include "core/files.h"
 #include "core/formats.h"
 #include "core/race_card.h"
 #include "results/board.h"
@@ -41,11 +42,12 @@ bool columnsAreOfThisCard(TextView content) {
     return true;
 }
 
+void takeCommaOut(Text& payoff) {
+    if (auto plain = withoutComma(payoff)) payoff = std::move(*plain);
+}
+
 void removeComma(int cell) {
-    attempt([&] {
-        Text& payoff = card.payoffRecord(cursor.race, cell);
-        if (auto plain = withoutComma(payoff)) payoff = std::move(*plain);
-    });
+    attempt([&] { takeCommaOut(card.payoffRecord(cursor.race, cell)); });
 }
 
 void storeFinisher(int place, TextView line) {
@@ -135,13 +137,9 @@ void readDouble(TextView line, int poolColumn) {
     Pick3();
 }
 
-void readShortDouble(TextView line) {
-    readDouble(line, keywordColumn + 2);
-}
+void readShortDouble(TextView line) { readDouble(line, keywordColumn + 2); }
 
-void readLongDouble(TextView line) {
-    readDouble(line, keywordColumn + 6);
-}
+void readLongDouble(TextView line) { readDouble(line, keywordColumn + 6); }
 
 struct PickCount {
     TextView word; ///< at columns 12 to 15
@@ -155,16 +153,15 @@ constexpr std::array pickCounts{
 void readPick(TextView line) {
     constexpr int cutWidth = 11;
     constexpr int poolColumn = 16;
-    for (const PickCount& row : pickCounts)
-        if (midOf(line, 12, 4) == row.word)
-            card.poolLegs = row.legs; // no word of these: the count as it stands
+    for (const PickCount& row : pickCounts) // with no word of these the count is as it stands
+        if (midOf(line, 12, 4) == row.word) card.poolLegs = row.legs;
     const TextView cut = rightOf(line, cutWidth);
     attempt([&] { card.pickPayoff(cursor.race, card.poolLegs) = cut; });
     // Where the "$" stands is read off the race's pick three, whatever the count. It loses its own "$" here,
     // so that a longer pick that ends in the same race keeps the text as cut.
     attempt([&] {
-        const int dollar = placeOf("$", card.pickPayoff(cursor.race, 3));
-        card.pickPayoff(cursor.race, card.poolLegs) = behindDollar(cut, dollar, cutWidth);
+        card.pickPayoff(cursor.race, card.poolLegs) =
+            behindDollar(cut, placeOf("$", card.pickPayoff(cursor.race, 3)), cutWidth);
     });
     card.poolText = poolFrom(line, poolColumn);
     Pick3();
@@ -175,11 +172,16 @@ struct KeywordLine {
     TextView keyword;
     void (*read)(TextView line);
 };
+// clang-format off
 constexpr std::array keywordLines{
-    KeywordLine{"EX", readExacta},         KeywordLine{"TR", readTrifecta},
-    KeywordLine{"SU", readSuperfecta},     KeywordLine{"DD", readShortDouble},
-    KeywordLine{"DOUBLE", readLongDouble}, KeywordLine{"PICK", readPick},
+    KeywordLine{"EX", readExacta},
+    KeywordLine{"TR", readTrifecta},
+    KeywordLine{"SU", readSuperfecta},
+    KeywordLine{"DD", readShortDouble},
+    KeywordLine{"DOUBLE", readLongDouble},
+    KeywordLine{"PICK", readPick},
 };
+// clang-format on
 
 void readLine(TextView line, LineReader& lines) {
     if (const int colon = placeOf(":", line); colon > 0) {
@@ -214,7 +216,7 @@ void AutoRecord() {
     card.recallMode = "RX";
     card.winHeat.clear();
     card.placeHeat.clear();
-    if (const auto content = fileContent(resultsFile())) {
+    if (const auto content = resultsText()) {
         if (!columnsAreOfThisCard(*content)) return;
         cursor.race = static_cast<Integer>(raceOnShow());
         readResults(*content);

@@ -7,6 +7,7 @@
 #include "core/formats.h"
 #include "core/race_card.h"
 #include "rating/race_ranking.h"
+#include "rating/race_views.h"
 #include "results/board.h"
 
 #include <algorithm>
@@ -16,12 +17,6 @@
 
 namespace quillon {
 namespace {
-
-/// Columns of a race view.
-constexpr int nameColumn = 0;
-constexpr int numberColumn = 2;
-constexpr int postColumn = 3;
-constexpr int ratingColumn = 32;
 
 /// What a finish in the heat is worth in the final.
 struct FinishCredit {
@@ -52,9 +47,7 @@ std::optional<int> heatNumber(TextView answer) {
     return toInteger(number);
 }
 
-FilePlace heatLog(TextView number) {
-    return {Folder::program, "RACE(" + Text{number} + ").txt"};
-}
+FilePlace heatLog(TextView number) { return {Folder::program, "RACE(" + Text{number} + ").txt"}; }
 
 /// The horse that goes on to a final, and where it comes from.
 struct HeatEntry {
@@ -134,8 +127,8 @@ void HeatWinner() {
 void HeatChoice(int row) {
     const Step step{"HeatChoice"};
     const int race = raceOnShow();
-    if (row < 1 || row > ratedEntries || race < 1 || race > ratedRaces) return;
-    const Integer index = toInteger(strictNumber(screen.raceView.at(race).text(row, postColumn)));
+    if (row < 1 || row > ratedEntries || race == 0) return;
+    const Integer index = toInteger(strictNumber(raceViewOf(race).text(row, raceColumn::post)));
     const RaceEntry& entry = card.entry(race, index);
 
     const auto number = ports.input("Enter Heat Race Number", "Heat Results");
@@ -172,14 +165,13 @@ void ViewHeat() {
 }
 
 void fillHeatView(int race) {
-    if (race < 1 || race > ratedRaces) fail("a heat has no race view above the last");
-    Grid& view = screen.raceView.at(race);
+    Grid& view = raceViewOf(race);
     for (int row = 1; row <= ratedEntries; ++row) {
         const Text post = postText(race, row);
-        view(row, nameColumn).text = card.entry(race, row).horseName;
-        view(row, numberColumn).text = post;
-        view(row, postColumn).text = post.empty() ? std::to_string(row) : post;
-        view(row, ratingColumn).text = card.heatRating(race, row);
+        view(row, raceColumn::horseName).text = card.entry(race, row).horseName;
+        view(row, raceColumn::programNumber).text = post;
+        view(row, raceColumn::post).text = post.empty() ? std::to_string(row) : post;
+        view(row, raceColumn::rating).text = card.heatRating(race, row);
     }
 }
 

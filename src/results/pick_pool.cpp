@@ -24,19 +24,13 @@ int racesBack(int legs) {
     return 0;
 }
 
-constexpr bool startsNumber(char c) {
-    return c >= '1' && c <= '9';
-}
+constexpr bool startsNumber(char c) { return c >= '1' && c <= '9'; }
 
-constexpr bool endsNumber(char c) {
-    return c == ',' || c == '/';
-}
+constexpr bool endsNumber(char c) { return c == ',' || c == '/'; }
 
 /// The number at the start of the text: one character, or two where the second is no separator. A blank
 /// behind a number of one figure stays with it.
-TextView numberAt(TextView text) {
-    return text.substr(0, text.size() > 1 && !endsNumber(text[1]) ? 2 : 1);
-}
+TextView numberAt(TextView text) { return text.substr(0, text.size() > 1 && !endsNumber(text[1]) ? 2 : 1); }
 
 } // namespace
 

@@ -3,6 +3,7 @@
 #include "app/screen.h"
 #include "core/failure.h"
 #include "core/race_card.h"
+#include "rating/race_views.h"
 #include "results/board.h"
 #include "results/heats.h"
 
@@ -26,11 +27,8 @@ constexpr int boxTen = 10;
 constexpr int firstLitColumn = 3; ///< an entry's row is lit behind its name, odds and saddle cloth
 constexpr int lastColumn = 39;
 
-/// Columns of a data view, where they are read by meaning.
-constexpr int hiddenRaceColumn = 2;
-constexpr int postColumn = 4;
-constexpr int lineNumberColumn = 39;
-constexpr int lineButtonRows = 15; ///< rows of past lines that can be taken by their number
+constexpr int hiddenRaceColumn = 2; ///< of a data view
+constexpr int lineButtonRows = 15;  ///< rows of past lines that can be taken by their number
 
 void leaveLastRace() {
     screen.item(MenuItem::HeatWinner).checked = false;
@@ -92,16 +90,16 @@ std::optional<Colour> shadeOfLine(const RaceEntry& entry, int row) {
 
 /// Copies the lines of the horse at this post out of the race's data view.
 void fillPastPerformances(int race, int post) {
-    const Grid& lines = screen.dataView.at(race);
+    const Grid& lines = dataViewOf(race);
     Grid& shown = screen.dataView[pastPerformanceView];
     shown.clear();
     int row = 0;
     for (int line = 1; line < lines.rows(); ++line) {
-        if (lenientNumber(lines.text(line, postColumn)) != post) continue;
+        if (lenientNumber(lines.text(line, dataColumn::post)) != post) continue;
         ++row;
         for (int column = 1; column <= lastColumn; ++column)
             if (column != hiddenRaceColumn) shown(row, column).text = lines.text(line, column);
-        if (row <= lineButtonRows) shown(row, lineNumberColumn).text = std::to_string(line);
+        if (row <= lineButtonRows) shown(row, dataColumn::lineNumber).text = std::to_string(line);
         shown.shade(row, 1, lastColumn, shadeOfLine(card.entry(race, post), row));
     }
 }
@@ -137,15 +135,13 @@ void showBoard(int race) {
     TEXT_56();
 }
 
-void showRace(int race) {
-    show(race, allViews);
-}
+void showRace(int race) { show(race, allViews); }
 
 void RaceButton(int n) {
     const Step step{"RaceButton"};
     if (card.recallMode == "R") card.recallMode.clear();
     // A heat above race 20 has its view filled too, though what is shown is race 20.
-    if (n > card.raceCount) attempt([&] { fillHeatView(n); });
+    if (n > lastButtonRace && n > card.raceCount) attempt([&] { fillHeatView(n); });
     show(heldToButtons(n), allViews);
 }
 
@@ -194,13 +190,12 @@ void EntryButton(int i) {
     ClosePastPerformances();
     if (again) return;
 
-    // A recalled card keeps no offset of its own: its file name tells a partial card by the figure at its
-    // end.
+    // A recalled card has no offset: the figure at the end of its file name tells a partial one.
     if (card.recallMode == "R") card.raceOffset = toInteger(lenientNumber(rightOf(card.cardFileName, 1)));
     cursor.entry = static_cast<Integer>(i);
     screen.currentEntry = i;
     attempt([&] { fillPastPerformances(race, i); });
-    screen.raceView.at(race).shade(i, firstLitColumn, lastColumn, recentYellow);
+    raceViewOf(race).shade(i, firstLitColumn, lastColumn, recentYellow);
     const RaceEntry& entry = card.entry[{race, i}];
     screen.pastPerformanceHeading =
         Text{trimmed(entry.programNumber)} + "  " + Text{trimmed(entry.horseName)};
@@ -217,9 +212,8 @@ void ClosePastPerformances() {
 }
 
 void ClearLastIndex() {
-    const int race = raceOnShow();
-    if (screen.currentEntry < 1 || race < 1 || race > ratedRaces) return;
-    attempt([&] { screen.raceView.at(race).shade(screen.currentEntry, firstLitColumn, lastColumn, white); });
+    if (screen.currentEntry < 1 || raceOnShow() < 1) return;
+    attempt([&] { raceViewOf(raceOnShow()).shade(screen.currentEntry, firstLitColumn, lastColumn, white); });
 }
 
 } // namespace quillon

@@ -1,6 +1,7 @@
 #include "results/results_text.h"
 
 #include "app/ports.h"
+#include "core/card_files.h"
 #include "core/failure.h"
 #include "core/race_card.h"
 
@@ -11,19 +12,19 @@ constexpr int trackKeyWidth = 5;
 constexpr int exoticCut = 10;
 constexpr int behindComma = 6;
 
+/// The card's name in front of its first point: "M1_20260314".
+TextView cardName() { return TextView{card.cardFileName}.substr(0, card.cardFileName.find('.')); }
+
 } // namespace
 
-Text cardBaseName() {
-    return card.cardFileName.substr(0, card.cardFileName.find('.'));
-}
-
-FilePlace resultsFile() {
-    return {Folder::results, cardBaseName() + ".pmr"};
+std::optional<Text> resultsText() {
+    std::optional<Text> content;
+    attempt([&] { content = fileContent(cardFile(Folder::results, "pmr")); });
+    return content;
 }
 
 Text resultsTrackKey() {
-    const Text name = cardBaseName();
-    const auto track = trimmed(TextView{name}.substr(0, name.find('_')));
+    const TextView track = trimmed(cardName().substr(0, cardName().find('_')));
     const auto settings = fileContent({Folder::working, "TrackEditor.ini"});
     if (track.empty() || !settings) return {};
     LineReader rows{*settings};
@@ -36,12 +37,12 @@ Text resultsTrackKey() {
 
 bool isOfThisCard(TextView trackKey, const ResultsDate& date) {
     const Text ofText = Text{trackKey} + "_" + date.year + date.month + date.day;
-    if (date.empty() || ofText == cardBaseName()) return true;
+    if (date.empty() || ofText == cardName()) return true;
     ports.beep();
     ports.message("Active File and Results File do not match!  Record Results cannot continue! "
                   "Check TRC file for correct date and track.",
                   "");
-    ports.message(cardBaseName() + ofText, "");
+    ports.message(Text{cardName()} + ofText, "");
     return false;
 }
 
@@ -69,9 +70,7 @@ TextView poolFrom(TextView line, int place) {
     return end == 0 ? TextView{} : leftOf(rest, end - 1);
 }
 
-int figurePlace(TextView text) {
-    return static_cast<int>(text.find_first_of("123456789") + 1);
-}
+int figurePlace(TextView text) { return static_cast<int>(text.find_first_of("123456789") + 1); }
 
 TextView behindName(TextView text) {
     // All that counts as part of a name ("e ", "N ", " Z", "A ") lies at or behind a blank and a letter, and

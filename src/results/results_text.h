@@ -4,18 +4,14 @@
 // text of any length.
 #pragma once
 
-#include "core/files.h"
 #include "core/text.h"
 
 #include <optional>
 
 namespace quillon {
 
-/// The card's name without an extension: `card.cardFileName` up to its first point ("M1_20260314").
-Text cardBaseName();
-
-/// The card's results file, ".pmr" in the results folder.
-FilePlace resultsFile();
+/// The card's results file, ".pmr" in the results folder; nothing where there is none or no card is open.
+std::optional<Text> resultsText();
 
 /// The track's key as the track table has it, looked up by the card's name up to its first "_": the first row
 /// that begins with that track gives its key column. A short code may so find a longer one's row. Empty

@@ -2,6 +2,7 @@
 #include "results/auto_record.h"
 
 #include "core/failure.h"
+#include "core/files.h"
 #include "core/formats.h"
 #include "core/race_card.h"
 #include "results/board.h"
@@ -29,24 +30,22 @@ struct WordPass {
     ResultsDate date{};
 };
 
-Text& outcome(int cell) {
-    return card.raceOutcome(cursor.race, cell);
-}
+Text& outcome(int cell) { return card.raceOutcome(cursor.race, cell); }
 
-Text& payoff(int cell) {
-    return card.payoffRecord(cursor.race, cell);
-}
+Text& payoff(int cell) { return card.payoffRecord(cursor.race, cell); }
 
 struct MonthName {
     TextView name;
     const char* number;
 };
+// clang-format off
 constexpr std::array monthNames{
-    MonthName{"January", "01"}, MonthName{"February", "02"}, MonthName{"March", "03"},
-    MonthName{"April", "04"},   MonthName{"May ", "05"},     MonthName{"June", "06"},
-    MonthName{"July", "07"},    MonthName{"August", "08"},   MonthName{"September", "09"},
-    MonthName{"October", "10"}, MonthName{"November", "11"}, MonthName{"December", "12"},
+    MonthName{"January", "01"}, MonthName{"February", "02"}, MonthName{"March",     "03"},
+    MonthName{"April",   "04"}, MonthName{"May ",     "05"}, MonthName{"June",      "06"},
+    MonthName{"July",    "07"}, MonthName{"August",   "08"}, MonthName{"September", "09"},
+    MonthName{"October", "10"}, MonthName{"November", "11"}, MonthName{"December",  "12"},
 };
+// clang-format on
 
 /// The first line with a month's name, a horse's too, is the date: the day stands in front of the first
 /// comma, the year at the end.
@@ -68,10 +67,14 @@ struct WinnerCut {
     int secondPlace;
     int secondWidth;
 };
+// clang-format off
 constexpr std::array winnerCuts{
-    WinnerCut{2, 4, 5, 4}, WinnerCut{3, 5, 6, 6}, WinnerCut{4, 6, 7, 6},
+    WinnerCut{2, 4, 5, 4},
+    WinnerCut{3, 5, 6, 6},
+    WinnerCut{4, 6, 7, 6},
     WinnerCut{5, 7, 8, 6}, // long lines only
 };
+// clang-format on
 constexpr std::span<const WinnerCut> longLineCuts{winnerCuts};
 constexpr std::span<const WinnerCut> shortLineCuts = longLineCuts.first(3);
 
@@ -154,9 +157,7 @@ void readThird(const WordPass& pass, TextView line) {
     dropZeros(pass, {6});
 }
 
-void readFourth(const WordPass&, TextView line) {
-    storeFinisher(4, line);
-}
+void readFourth(const WordPass&, TextView line) { storeFinisher(4, line); }
 
 struct FinishLine {
     TextView start;
@@ -178,13 +179,20 @@ struct ExoticCut {
     int characters;
     int cell;
 };
+// clang-format off
 constexpr std::array exoticCuts{
-    ExoticCut{"Exacta", 18, 18, 4, 7},     ExoticCut{"Exacta", 19, 19, 5, 7},
-    ExoticCut{"Exacta", 20, 20, 6, 7},     ExoticCut{"Exacta", 21, 22, 7, 7},
-    ExoticCut{"Trifecta", 0, 24, 6, 8},    ExoticCut{"Trifecta", 25, 25, 7, 8},
-    ExoticCut{"Trifecta", 26, 27, 8, 8},   ExoticCut{"Superfecta", 0, 28, 7, 9},
-    ExoticCut{"Superfecta", 29, 29, 8, 9}, ExoticCut{"Superfecta", 30, anyLength, 9, 9},
+    ExoticCut{"Exacta",     18, 18,        4, 7},
+    ExoticCut{"Exacta",     19, 19,        5, 7},
+    ExoticCut{"Exacta",     20, 20,        6, 7},
+    ExoticCut{"Exacta",     21, 22,        7, 7},
+    ExoticCut{"Trifecta",    0, 24,        6, 8},
+    ExoticCut{"Trifecta",   25, 25,        7, 8},
+    ExoticCut{"Trifecta",   26, 27,        8, 8},
+    ExoticCut{"Superfecta",  0, 28,        7, 9},
+    ExoticCut{"Superfecta", 29, 29,        8, 9},
+    ExoticCut{"Superfecta", 30, anyLength, 9, 9},
 };
+// clang-format on
 
 void storeExotic(TextView word, TextView line) {
     const auto length = static_cast<int>(line.size());
@@ -204,9 +212,7 @@ void readExotic(TextView line) {
         attempt([&] { payoff(refundCell) = line; });
 }
 
-Text poolPayoff(TextView text) {
-    return formatted("######.00", "@@@@@@@@@", text);
-}
+Text poolPayoff(TextView text) { return formatted("######.00", "@@@@@@@@@", text); }
 
 /// A daily double names its two winners at fixed columns.
 void readDouble(TextView line) {
@@ -251,7 +257,7 @@ bool readLine(WordPass& pass, TextView line) {
 
 /// False when there is no file, or it is of another day or track.
 bool readResults(WordPass pass) {
-    const auto content = fileContent(resultsFile());
+    const auto content = resultsText();
     if (!content) return false;
     cursor.race = static_cast<Integer>(raceOnShow());
     LineReader lines{*content};
@@ -265,14 +271,12 @@ bool readResults(WordPass pass) {
 
 void AutoRecord2() {
     const Step step{"AutoRecord2"};
-    if (card.cardFileName.empty()) return;
     card.recallMode = "RX";
     if (readResults({})) showBoard(1); // the recall has put race 1 on show
 }
 
 void EBET() {
     const Step step{"EBET"};
-    if (card.cardFileName.empty()) return;
     card.recallMode = "RX";
     card.winHeat.clear();
     card.placeHeat.clear();

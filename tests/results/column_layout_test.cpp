@@ -44,6 +44,7 @@ protected:
 TEST_F(ColumnLayoutTest, ARaceIsReadWhole) {
     recordText(sampleText);
     EXPECT_TRUE(shown.empty());
+    EXPECT_EQ(0U, journal.count()); // nothing of a text in good order fails
     EXPECT_EQ((Filled{"5= 5", "6= 2", "7= 7", "8=1"}), outcome(1));
     // Win: " 5" off, six from the first figure on are "12.40 ". Seven dropped and trimmed: "5.20    3.10", of
     // which the first six are "5.20  " and the last six "  3.10".

@@ -11,9 +11,13 @@ namespace {
 using ResultsTextTest = CardTest;
 
 TEST_F(ResultsTextTest, TheResultsFileHasTheCardsNameUpToItsFirstPoint) {
+    put("A Quillon PRO/Results/M1_20260314.pmr", "Results\r\n");
     card.cardFileName = "M1_20260314.pmd2";
-    EXPECT_EQ("M1_20260314", cardBaseName());
-    EXPECT_EQ("C:\\A Quillon PRO\\Results\\M1_20260314.pmr", shownPath(resultsFile()));
+    EXPECT_EQ("Results\r\n", resultsText());
+    card.cardFileName = "M1_20260315.pmd";
+    EXPECT_FALSE(resultsText().has_value());
+    card.cardFileName.clear(); // no card is open
+    EXPECT_FALSE(resultsText().has_value());
 }
 
 struct TrackRow {
