@@ -222,6 +222,8 @@ struct Screen {
     ChoiceList fileList{};
     ChoiceList trackList{};
     ChoiceList driverList{};
+    int driverRow = 0;   ///< row of the race view that the driver list was opened for
+    Text driverChoice{}; ///< the line picked in it
     ChoiceList raceList{};
     ChoiceList marginList{};
     ChoiceList oddsList{};

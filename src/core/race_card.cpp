@@ -21,6 +21,8 @@ PastLine& PastLineTable::write(int race, int entry, int line) {
     return *kept;
 }
 
+bool PastLineTable::has(int race, int entry, int line) const { return lines_(race, entry, line) != nullptr; }
+
 void PastLineTable::clear() { lines_.clear(); }
 
 void RaceCard::clear() {

@@ -125,6 +125,9 @@ public:
     /// The line to be written, made when it is not there yet. Fails outside the bounds.
     PastLine& write(int race, int entry, int line);
 
+    /// True where a line was written. Fails outside the bounds.
+    bool has(int race, int entry, int line) const;
+
     void clear();
 
 private:

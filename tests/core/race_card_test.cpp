@@ -10,6 +10,8 @@ TEST_F(CardTest, ReadingAPastLineDoesNotMakeIt) {
     card.pastLine.write(1, 3, 2) = {.POST = "4", .CALL_FN_PO = "1"};
     EXPECT_EQ("4", card.pastLine.read(1, 3, 2).POST);
     EXPECT_EQ("", card.pastLine.read(1, 3, 1).POST);
+    EXPECT_TRUE(card.pastLine.has(1, 3, 2));
+    EXPECT_FALSE(card.pastLine.has(1, 3, 1));
 }
 
 TEST_F(CardTest, TheStoreHasTheBoundsOfACard) {

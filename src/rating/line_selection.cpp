@@ -1,0 +1,293 @@
+#include "rating/line_selection.h"
+
+#include "core/failure.h"
+#include "core/formats.h"
+#include "core/race_card.h"
+#include "rating/race_ranking.h"
+#include "rating/race_views.h"
+#include "rating/rating_display.h"
+#include "source/source_tables.h"
+
+#include <algorithm>
+
+namespace quillon {
+namespace {
+
+constexpr double noRealLastQuarter = 9.9; ///< a last quarter of at most this was not timed
+constexpr double leastSearched = 40.0;    ///< the search passes by ratings that are not above
+constexpr double aboveAllRatings = 100;
+constexpr TextView alsoEligible = "AE";
+constexpr TextView searchesNoLine = "0/1"; ///< as a morning line, compared as the cell stands
+
+// The search for the line of one entry. Slots are places among the entry's past lines, 1 being the latest;
+// slot 0 holds no line.
+struct LineSearch {
+    int race;
+    int entry;
+    int limit = 0;    ///< last slot of the first full search
+    int position = 0; ///< slot that the search is at
+    int tidied = -1;  ///< ratings up to this slot are in their print form
+    double bestValue = aboveAllRatings;
+    int found = 0; ///< best slot that the search has met
+    int chosenSlot = 0;
+
+    RaceEntry& shared() const { return card.entry[{race, entry}]; }
+    const PastLine& line(int slot) const { return card.pastLine.read(race, entry, slot); }
+    double rating(int slot) const { return lenientNumber(line(slot).rating); }
+
+    /// The number of lines that count: those of the window, and those that the search has added.
+    Integer& window() const { return shared().linesInLastWindow; }
+};
+
+constexpr std::array copiedFields{
+    &PastLine::CR,         &PastLine::PURSE,      &PastLine::CLASS,      &PastLine::LEAD_TM_1Q,
+    &PastLine::LEAD_TM_2Q, &PastLine::LEAD_TM_3Q, &PastLine::LEAD_TM_FN, &PastLine::HRSE_TM_4Q,
+    &PastLine::HRSE_TM_FN, &PastLine::TRACK,      &PastLine::POST,       &PastLine::CALL_1Q_BF,
+    &PastLine::CALL_1Q_PO, &PastLine::CALL_1Q_PK, &PastLine::CALL_1Q_AF, &PastLine::CALL_2Q_BF,
+    &PastLine::CALL_2Q_PO, &PastLine::CALL_2Q_PK, &PastLine::CALL_2Q_AF, &PastLine::CALL_3Q_BF,
+    &PastLine::CALL_3Q_PO, &PastLine::CALL_3Q_PK, &PastLine::CALL_3Q_AF, &PastLine::CALL_ST_PO,
+    &PastLine::CALL_FN_PO,
+};
+
+void copyLine(const PastLine& line, PastLine& chosen) {
+    for (Text PastLine::*field : copiedFields) chosen.*field = line.*field;
+}
+
+// A line without a class rating is a qualifier's, or no line at all.
+void takeLine(LineSearch& search, int slot) {
+    search.chosenSlot = slot;
+    PastLine& chosen = search.shared().chosen;
+    attempt([&] { copyLine(search.line(slot), chosen); });
+    if (lenientNumber(chosen.CR) <= 0) chosen.CR = "QUA";
+}
+
+// An entry with no line in the window still counts its latest, and a latest line without a real last quarter
+// brings in the next older one.
+void admitOlderLines(const LineSearch& search) {
+    Integer& window = search.window();
+    if (window <= 0 && search.rating(1) > 0) window = 1;
+    if (window == 1 && lenientNumber(search.line(1).HRSE_TM_4Q) <= noRealLastQuarter && search.rating(2) > 0)
+        window = 2;
+}
+
+// Where the next older line has no rating, only a last quarter of exactly this text brings it in.
+void admitUnratedLine(const LineSearch& search) {
+    if (search.line(1).HRSE_TM_4Q == "9.9" && search.window() == 1) ++search.window();
+}
+
+// Puts the ratings of slot 0 to the window's last into their print form. A second time would change nothing,
+// so each slot is done once. Slot 0 becomes five blanks.
+void tidyRatings(LineSearch& search) {
+    for (; search.tidied < search.window(); ++search.tidied)
+        attempt([&] {
+            Text& rating = card.pastLine.write(search.race, search.entry, search.tidied + 1).rating;
+            rating = formatted("##.0", "@@@@@", trimmed(rating));
+        });
+}
+
+// The lowest of three, the more recent of equals.
+int lowestOfThree(double first, double second, double third) {
+    if (second >= first && third >= first) return 1;
+    if (first >= second && third >= second) return 2;
+    return 3;
+}
+
+// The slot that the number of lines alone decides; 0 where the search must. None of the search's filters
+// apply here.
+int slotByCount(const LineSearch& search) {
+    switch (search.window()) {
+    case 1: return 1;
+    case 2:
+        if (search.rating(2) > search.rating(1)) return 1;
+        return search.rating(2) < search.rating(1) ? 2 : 0;
+    case 3: return lowestOfThree(search.rating(1), search.rating(2), search.rating(3));
+    default: return 0;
+    }
+}
+
+// An also-eligible gets its post for a program number, and its lines are not searched in this pass.
+bool losesAlsoEligibleMark(const LineSearch& search) {
+    TextCell& programNumber = search.shared().programNumber;
+    if (!contains(programNumber, alsoEligible)) return false;
+    programNumber = aligned("@@@", std::to_string(search.entry));
+    return true;
+}
+
+// Of equal ratings the more recent line stays.
+void considerLine(LineSearch& search) {
+    const int slot = search.position;
+    const bool better = holdsOrFails([&] {
+        const double rating = search.rating(slot);
+        return lenientNumber(search.line(slot).POST) > 0 && rating > leastSearched &&
+               rating < search.bestValue;
+    });
+    if (!better) return;
+    attempt([&] { search.bestValue = search.rating(slot); });
+    search.found = slot;
+    takeLine(search, slot);
+}
+
+// One pass of the search at its position. True when the next one follows at once.
+bool searchesOn(LineSearch& search) {
+    if (losesAlsoEligibleMark(search) || search.shared().morningOdds.text() == searchesNoLine) return false;
+    considerLine(search);
+    return ++search.position <= search.limit;
+}
+
+// Behind the search: no line was found and there is one more, or there is none, its post being no number. The
+// latter also holds for an entry whose best line was found among lines that all lie in the window: it falls
+// back on its latest line below, which is how the ratings are meant to come out.
+bool wantsOlderLine(const LineSearch& search) {
+    return holdsOrFails([&] {
+        const auto post = numberIn(search.line(search.position).POST);
+        if (!post) passOver();
+        return !post || (search.found <= 0 && *post > 0);
+    });
+}
+
+bool isNoStarter(const LineSearch& search) {
+    const RaceEntry& entry = search.shared();
+    return entry.horseName.empty() || contains(entry.programNumber, alsoEligible);
+}
+
+// Adds one line to those that count. False when that settles the choice: at the 50-day count the latest line
+// stands.
+bool searchesFurther(LineSearch& search) {
+    attempt([&] { search.window() = toInteger(search.window() + 1.0); });
+    if (search.window() >= search.shared().linesInFiftyDays) {
+        takeLine(search, 1);
+        return false;
+    }
+    return search.found <= 0;
+}
+
+// False when the entry is passed over.
+bool choosesLine(LineSearch& search) {
+    admitOlderLines(search);
+    search.limit = search.window();
+    for (;;) {
+        admitUnratedLine(search);
+        tidyRatings(search);
+        if (const int slot = slotByCount(search); slot > 0) {
+            takeLine(search, slot);
+            return true;
+        }
+        if (searchesOn(search)) continue;
+        if (!wantsOlderLine(search)) return true;
+        if (isNoStarter(search)) return false;
+        if (!searchesFurther(search)) return true;
+    }
+}
+
+// Columns 4 to 29 of a race view: the chosen line as the table has it, not the cleaned forms of the data
+// views.
+Text asItStands(Text value) { return value; }
+Text dollars(Text thousands) { return numberText(lenientNumber(thousands) * 1000); }
+Text classRating(Text value) {
+    const auto number = numberIn(value);
+    return number && *number > 0 ? value : "NA";
+}
+Text lastQuarter(Text value) { return value.size() == 2 ? value + ".0" : value; }
+
+struct LineColumn {
+    int column;
+    const char* field;
+    Text (*shown)(Text value);
+};
+
+// clang-format off
+constexpr std::array lineColumns{
+    LineColumn{ 4, "TRACK",      asItStands},
+    LineColumn{ 5, "PURSE",      dollars},
+    LineColumn{ 6, "CLASS",      asItStands},
+    LineColumn{ 7, "CR",         classRating},
+    LineColumn{ 8, "LEAD_TM_1Q", asItStands},
+    LineColumn{ 9, "LEAD_TM_2Q", asItStands},
+    LineColumn{10, "LEAD_TM_3Q", asItStands},
+    LineColumn{11, "LEAD_TM_FN", asItStands},
+    LineColumn{12, "POST",       asItStands},
+    LineColumn{13, "CALL_1Q_BF", asItStands},
+    LineColumn{14, "CALL_1Q_PO", asItStands},
+    LineColumn{15, "CALL_1Q_PK", asItStands},
+    LineColumn{16, "CALL_1Q_AF", asItStands},
+    LineColumn{17, "CALL_2Q_BF", asItStands},
+    LineColumn{18, "CALL_2Q_PO", asItStands},
+    LineColumn{19, "CALL_2Q_PK", asItStands},
+    LineColumn{20, "CALL_2Q_AF", asItStands},
+    LineColumn{21, "CALL_3Q_BF", asItStands},
+    LineColumn{22, "CALL_3Q_PO", asItStands},
+    LineColumn{23, "CALL_3Q_PK", asItStands},
+    LineColumn{24, "CALL_3Q_AF", asItStands},
+    LineColumn{25, "CALL_ST_PO", asItStands},
+    LineColumn{26, "CALL_FN_PO", asItStands},
+    LineColumn{27, "HRSE_TM_4Q", lastQuarter},
+    LineColumn{28, "HRSE_TM_FN", asItStands},
+    LineColumn{29, "FAV",        asItStands},
+};
+// clang-format on
+
+// Where the running-line table has each of those fields.
+using FieldNumbers = std::array<int, lineColumns.size()>;
+
+FieldNumbers fieldNumbers() {
+    FieldNumbers numbers{};
+    std::transform(lineColumns.begin(), lineColumns.end(), numbers.begin(),
+                   [](const LineColumn& column) { return sourceTables.lineRows.fieldNumber(column.field); });
+    return numbers;
+}
+
+// A field of the running-line table. Row 0, that of an entry without a line, is the head with the fields'
+// names.
+Text tableCell(int row, int field) {
+    const TableCursor& lines = sourceTables.lineRows;
+    if (row == 0) return Text{lines.fieldName(field)};
+    Text value = lines.field(row, field);
+    value.resize(trimmedRight(value).size());
+    return value;
+}
+
+void writeRow(int race, int index, const FieldNumbers& fields) {
+    Grid& view = raceViewOf(race);
+    RaceEntry& entry = card.entry[{race, index}];
+    view(index, raceColumn::horseName).text = entry.horseName;
+    view(index, raceColumn::morningOdds).text = entry.morningOdds;
+    view(index, raceColumn::programNumber).text = entry.programNumber;
+    view(index, raceColumn::post).text = std::to_string(index);
+    for (std::size_t i = 0; i < lineColumns.size(); ++i)
+        attempt([&] {
+            view(index, lineColumns[i].column).text =
+                lineColumns[i].shown(tableCell(entry.chosenLineNumber, fields[i]));
+        });
+    entry.chosenDriver = entry.driverName;
+    view(index, raceColumn::driver).text = entry.driverName;
+    view(index, raceColumn::udr).text = entry.driverUdr;
+    view(index, raceColumn::rating).text = entry.rating;
+    Colors();
+}
+
+// The line of the cursor's race and entry.
+void selectLine(const FieldNumbers& fields) {
+    LineSearch search{.race = cursor.race, .entry = cursor.entry};
+    if (!choosesLine(search)) return;
+    RaceEntry& entry = search.shared();
+    attempt([&] { entry.rating = search.line(search.chosenSlot).rating; });
+    attempt([&] { entry.chosenLineNumber = search.line(search.chosenSlot).lineNumber; });
+    writeRow(search.race, search.entry, fields);
+}
+
+} // namespace
+
+void SelectLines() {
+    const Step step{"SelectLines"};
+    const FieldNumbers fields = fieldNumbers();
+    cursor.line = 0;
+    for (cursor.race = 1; cursor.race <= ratedRaces; ++cursor.race) {
+        for (cursor.entry = 1; cursor.entry <= ratedEntries; ++cursor.entry)
+            attempt([&] { selectLine(fields); });
+        cursor.entry = 0;
+        attempt(RankRace);
+        if (cursor.race == card.raceCount) break;
+    }
+}
+
+} // namespace quillon

@@ -1,0 +1,259 @@
+#include "rating/race_ranking.h"
+
+#include "core/failure.h"
+#include "core/formats.h"
+#include "rating/race_views.h"
+#include "results/board.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace quillon {
+namespace {
+
+constexpr int selections = 4; ///< S1 to S4; the fifth horse is kept beside them
+
+// One ranking at work.
+class Contest {
+public:
+    Contest(const Ranking& ranking, const RatingTexts& ratings, RankedEntries places)
+        : ranking_(ranking), ratings_(ratings), places_(places), best_(ranking.start) {
+        std::transform(ratings.begin(), ratings.end(), values_.begin(), lenientNumber);
+    }
+
+    RankedEntries run() {
+        for (int stage = 1; stage <= ranking_.stages; ++stage) {
+            if (stage > 1) seed(stage);
+            pick(stage);
+        }
+        return places_;
+    }
+
+private:
+    using Entry = std::size_t;
+
+    // The last entry that is worse than all found before. It needs no test for an empty rating, whose value 0
+    // is never above another.
+    void seed(int stage) {
+        for (Entry entry = 1; entry < values_.size(); ++entry)
+            if (noneBefore(stage, [&](Entry found) { return values_[found] >= values_[entry]; }))
+                put(stage, entry);
+    }
+
+    void pick(int stage) {
+        for (Entry entry = 1; entry < values_.size(); ++entry)
+            if (noneBefore(stage, [&](Entry found) { return found == entry; }) && !ratings_[entry].empty() &&
+                beatsBest(ranking_.pick[static_cast<Entry>(stage - 1)], values_[entry]))
+                put(stage, entry);
+    }
+
+    // True where no entry found in the stages before this one is so.
+    template <class Test>
+    bool noneBefore(int stage, Test isSo) const {
+        return std::none_of(places_.begin() + 1, places_.begin() + stage,
+                            [&](Integer found) { return isSo(static_cast<Entry>(found)); });
+    }
+
+    // A best that is no number can't be compared with, and every rating replaces it.
+    bool beatsBest(Pick pick, double value) const {
+        if (!best_) return true;
+        return pick == Pick::atMost ? value <= *best_ : value < *best_;
+    }
+
+    // The best goes on from stage to stage: a stage without a seed compares with what the one before has
+    // left.
+    void put(int stage, Entry entry) {
+        best_ = numberIn(ratings_[entry]);
+        if (!best_) passOver();
+        places_[static_cast<std::size_t>(stage)] = static_cast<Integer>(entry);
+    }
+
+    const Ranking& ranking_;
+    const RatingTexts& ratings_;
+    RankedEntries places_;
+    std::optional<double> best_; ///< nothing: a rating that is no number
+    std::array<double, ratedEntries + 1> values_{};
+};
+
+// Rows of a data view that a race's count looks at.
+constexpr int countedRows = 130;
+
+Integer filledRows(const Grid& dataView) {
+    Integer filled = 0;
+    for (int row = 1; row <= countedRows; ++row)
+        if (!dataView.read(row, dataColumn::date).text.empty()) ++filled;
+    return filled;
+}
+
+// Cell of the race's outcome that holds the program number of each place. Cells 5 to 8 are the finish.
+constexpr std::array outcomeCell{0, 1, 2, 3, 4, 9};
+
+template <class Action>
+void forEachPlace(int last, Action action) {
+    for (int place = 1; place <= last; ++place) action(place);
+}
+
+void fillCells(int race) {
+    forEachPlace(rankedPlaces, [&](int place) {
+        const RaceEntry& entry = rankedEntry(race, place);
+        Selection& selection = card.selection[{race, place}];
+        card.raceOutcome[{race, outcomeCell[static_cast<std::size_t>(place)]}] = entry.programNumber;
+        selection.selectionPost = entry.postPosition;
+        selection.selectionOdds = entry.morningOdds;
+    });
+}
+
+void fillRatings(int race) {
+    forEachPlace(rankedPlaces, [&](int place) {
+        RaceEntry& entry = rankedEntry(race, place);
+        attempt([&] { entry.rating = formatted("##.0", entry.rating); });
+        card.selection[{race, place}].selectionRating = entry.rating;
+    });
+}
+
+// A name that is too long for the sheet's column stays as it is.
+void fillNames(int race) {
+    constexpr int nameWidth = 20;
+    forEachPlace(rankedPlaces, [&](int place) {
+        RaceEntry& entry = rankedEntry(race, place);
+        attempt([&] { entry.horseName = filledTo(entry.horseName, nameWidth); });
+        card.selection[{race, place}].selectionName = entry.horseName;
+    });
+}
+
+struct PrintWidth {
+    Text PastLine::*cell;
+    Alignment width;
+};
+
+// clang-format off
+constexpr std::array chosenWidths{
+    PrintWidth{&PastLine::CR,         "@@@"},
+    PrintWidth{&PastLine::TRACK,      "@@@@@"},
+    PrintWidth{&PastLine::POST,       "@@"},
+    PrintWidth{&PastLine::CALL_FN_PO, "@@"},
+    PrintWidth{&PastLine::CALL_1Q_PO, "@@"},
+    PrintWidth{&PastLine::CALL_2Q_PO, "@@"},
+    PrintWidth{&PastLine::CALL_3Q_PO, "@@"},
+    PrintWidth{&PastLine::CALL_ST_PO, "@@"},
+    PrintWidth{&PastLine::HRSE_TM_4Q, "@@@@"},
+    PrintWidth{&PastLine::CALL_1Q_PK, "@@"},
+    PrintWidth{&PastLine::CALL_2Q_PK, "@@"},
+    PrintWidth{&PastLine::CALL_3Q_PK, "@@"},
+};
+// clang-format on
+
+void widenCells(RaceEntry& entry) {
+    entry.programNumber = aligned("@@@", entry.programNumber);
+    entry.postPosition = aligned("@@@", entry.postPosition);
+    entry.morningOdds = aligned("@@@@", entry.morningOdds);
+    for (const PrintWidth& row : chosenWidths)
+        entry.chosen.*row.cell = aligned(row.width, entry.chosen.*row.cell);
+}
+
+// The fourth selection's stretch position is the third's: so it has always stood on the reports.
+void widenSelections(int race) {
+    forEachPlace(selections, [&](int place) { widenCells(rankedEntry(race, place)); });
+    rankedEntry(race, 4).chosen.CALL_ST_PO = rankedEntry(race, 3).chosen.CALL_ST_PO;
+}
+
+// A park cell that does not stand behind "A" by its bytes: empty, or a single mark padded to two places. Bare
+// and double marks stay.
+void clearPaddedPark(Text& park) {
+    if (!(TextView{park} > TextView{"A"})) park = "  ";
+}
+
+// Works on the entries of these indices in every race, not only in the race that was ranked.
+void clearPaddedParks() {
+    for (int race = 1; race <= ratedRaces; ++race)
+        forEachPlace(selections, [&](int place) {
+            PastLine& chosen = rankedEntry(race, place).chosen;
+            for (Text PastLine::*park : {&PastLine::CALL_1Q_PK, &PastLine::CALL_2Q_PK, &PastLine::CALL_3Q_PK})
+                clearPaddedPark(chosen.*park);
+        });
+}
+
+void fillDrivers(int race) {
+    constexpr int driverWidth = 15;
+    forEachPlace(rankedPlaces, [&](int place) {
+        const RaceEntry& entry = rankedEntry(race, place);
+        card.selection[{race, place}].selectionDriver = driverText(entry);
+        attempt([&] {
+            Text& name = card.driverTable(entry.driverNumber).name;
+            if (name.size() < driverWidth) name = filledTo(name, driverWidth);
+        });
+    });
+}
+
+} // namespace
+
+RankedEntries ranked(const Ranking& ranking, const RatingTexts& ratings, RankedEntries before) {
+    return Contest{ranking, ratings, before}.run();
+}
+
+void rankValues(const Ranking& ranking, const RatingTexts& ratings) {
+    RankedEntries places{};
+    for (int place = 1; place <= rankedPlaces; ++place)
+        places[static_cast<std::size_t>(place)] = card.rankEntry[{place}];
+    places = ranked(ranking, ratings, places);
+    for (int place = 1; place <= rankedPlaces; ++place)
+        card.rankEntry[{place}] = places[static_cast<std::size_t>(place)];
+}
+
+void rankRace(int race, const Ranking& ranking) {
+    RatingTexts ratings{};
+    for (int entry = 0; entry <= ratedEntries; ++entry)
+        ratings[static_cast<std::size_t>(entry)] = card.entry(race, entry).rating;
+    rankValues(ranking, ratings);
+}
+
+RaceEntry& rankedEntry(int race, int place) { return card.entry(race, card.rankEntry(place)); }
+
+Text driverText(const RaceEntry& entry) {
+    const TextView name =
+        entry.driverName.empty() ? TextView{entry.chosenDriver} : TextView{entry.driverName};
+    return aligned("@@@@@@@@@@@@@@@ ", name) + entry.driverUdr;
+}
+
+void RankRace() {
+    const Step step{"RankRace"};
+    const int race = cursor.race;
+    card.raceInfo(race).ratingNote = filledRows(dataViewOf(race));
+    rankRace(race, fullRanking);
+    fillCells(race);
+    fillRatings(race);
+    fillNames(race);
+    widenSelections(race);
+    clearPaddedParks();
+    fillDrivers(race);
+}
+
+void showSelections(const std::array<Text, 4>& programNumbers) {
+    for (int box = 0; box < selections; ++box) setBox(box, programNumbers[static_cast<std::size_t>(box)]);
+}
+
+void showRanking(int race) {
+    std::array<Text, selections> numbers;
+    for (int box = 0; box < selections; ++box)
+        numbers[static_cast<std::size_t>(box)] = rankedEntry(race, box + 1).programNumber;
+    showSelections(numbers);
+}
+
+void renewSelection(Selection& selection, const RaceEntry& entry) {
+    constexpr int nameCharacters = 25;
+    selection.selectionName = leftOf(entry.horseName, nameCharacters);
+    selection.selectionDriver = driverText(entry);
+    selection.selectionRating = aligned("@@@@@", entry.rating);
+}
+
+void renewSelections(int race, int last, Posts posts) {
+    forEachPlace(last, [&](int place) {
+        const RaceEntry& entry = rankedEntry(race, place);
+        Selection& selection = card.selection(race, place);
+        renewSelection(selection, entry);
+        selection.selectionOdds = entry.morningOdds;
+        if (posts == Posts::renewed) selection.selectionPost = entry.postPosition;
+    });
+}
+
+} // namespace quillon

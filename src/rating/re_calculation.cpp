@@ -1,0 +1,113 @@
+#include "rating/re_calculation.h"
+
+#include "app/ports.h"
+#include "core/failure.h"
+#include "core/race_card.h"
+#include "rating/race_ranking.h"
+#include "rating/race_views.h"
+#include "reports/selection_sheet.h"
+#include "results/board.h"
+#include "results/race_display.h"
+
+namespace quillon {
+namespace {
+
+constexpr int lineButtons = 13;
+constexpr int numberedRows = 15; ///< rows of the past-performance view that carry a line's number
+
+// Data columns 10 to 34 are the race view's 5 to 29.
+constexpr int columnShift = dataColumn::purse - raceColumn::purse;
+
+// The row in the race's data view of the line in this row of the past-performance view; 0 for none.
+double lineInRow(int row) {
+    return lenientNumber(screen.dataView[pastPerformanceView].text(row, dataColumn::lineNumber));
+}
+
+struct LineNumbers {
+    double first = 0;
+    double last = 0;
+};
+
+LineNumbers linesOnShow() {
+    int count = 0;
+    for (int row = 1; row <= numberedRows; ++row)
+        if (lineInRow(row) > 0) ++count;
+    const double first = lineInRow(1);
+    return {first, first + count - 1};
+}
+
+// Ranks the race on show again, and everything that follows from it.
+void rankAgain(int race, const Ranking& ranking, Posts posts) {
+    attempt(RE_Calculate);
+    rankRace(race, ranking);
+    showRanking(race);
+    renewSelections(race, ranking.stages, posts);
+    attempt(DeadHeat);
+    attempt(Get_Textbox_Data);
+    attempt(SelectionSheet);
+}
+
+// The rating of the line in this row of the data view becomes its entry's.
+void takeLine(double row, const Ranking& ranking, Posts posts) {
+    const int race = raceOnShow();
+    if (race == 0) return;
+    const Grid& lines = dataViewOf(race);
+    cursor.race = static_cast<Integer>(race);
+    cursor.row = toInteger(row);
+    cursor.entry = toInteger(lenientNumber(lines.text(cursor.row, dataColumn::post)));
+    card.entry(race, cursor.entry).rating = lines.text(cursor.row, dataColumn::rating);
+    attempt(CommandThree);
+    rankAgain(race, ranking, posts);
+}
+
+} // namespace
+
+void CommandThree() {
+    const Step step{"CommandThree"};
+    Grid& view = raceViewOf(cursor.race);
+    const Grid& lines = dataViewOf(cursor.race);
+    RaceEntry& entry = card.entry(cursor.race, cursor.entry);
+    const int row = cursor.entry;
+    const int line = cursor.row;
+    entry.morningOdds = Text{trimmed(entry.morningOdds)};
+    if (!entry.driverName.empty()) entry.chosenDriver = entry.driverName; // a recalled card has none
+    view(row, raceColumn::horseName).text = entry.horseName;
+    view(row, raceColumn::morningOdds).text = entry.morningOdds;
+    view(row, raceColumn::programNumber).text = entry.programNumber;
+    view(row, raceColumn::track).text = lines.text(line, dataColumn::track);
+    for (int column = raceColumn::purse; column <= raceColumn::favourite; ++column)
+        view(row, column).text = lines.text(line, column + columnShift);
+    view(row, raceColumn::driver).text = entry.chosenDriver;
+    view(row, raceColumn::udr).text = entry.driverUdr;
+    view(row, raceColumn::rating).text = lines.text(line, dataColumn::rating);
+    view(row, raceColumn::ratingTaken).text = entry.rating;
+}
+
+void RE_Calculate() {
+    const Step step{"RE_Calculate"};
+    rankRace(raceOnShow(), strictStages);
+}
+
+void Command3(int button) {
+    const Step step{"Command3"};
+    if (button == 0) ClosePastPerformances();
+    if (button < 1 || button > lineButtons) return;
+    if (const double row = lineInRow(button); row > 0) takeLine(row, strictStages, Posts::kept);
+}
+
+void Command7() {
+    const Step step{"Command7"};
+    const auto answer = ports.input("Enter Line Number of the selected race: ", "Quillon Race Editor");
+    const double line = lenientNumber(answer.value_or(""));
+    if (line <= 0) return;
+    const LineNumbers numbers = linesOnShow();
+    if (line < numbers.first || line > numbers.last) {
+        ports.message("Line Number is incorrect.  Enter a Line Number between " + numberText(numbers.first) +
+                          " and " + numberText(numbers.last),
+                      "");
+        return;
+    }
+    takeLine(line, fourStages, Posts::renewed);
+}
+
+} // namespace quillon

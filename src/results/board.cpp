@@ -1,0 +1,123 @@
+#include "results/board.h"
+
+#include "app/screen.h"
+#include "core/failure.h"
+#include "core/race_card.h"
+#include "rating/race_views.h"
+
+#include <array>
+#include <utility>
+
+namespace quillon {
+namespace {
+
+constexpr int boxCount = 8;
+constexpr int echoedBox = 10;
+constexpr int normalisedRaces = 25;
+constexpr std::array normalisedCells{1, 2, 3, 4, 5, 6}; ///< Win, Place and Show payoffs
+constexpr std::array cellsOfTheirBoxes{1, 2, 3, 4, 5, 6, 7, 8, 9, 11};
+
+constexpr int deadHeat = 2; ///< "1st" or "2nd" lines that make one
+constexpr int besideWin = 1;
+constexpr int besidePlace = 2;
+
+/// A dead heat as the board shows it: where box 10 stands, who shared the place with the horse in front of
+/// him (a cell of the outcome), and the payoff that becomes S1's.
+struct SharedPlace {
+    int boxTenColumn;
+    int otherHorse;
+    int payoff;
+};
+constexpr SharedPlace sharedWin{besideWin, 6, 1};
+constexpr SharedPlace sharedSecond{besidePlace, 7, 4};
+
+/// A payoff that begins with a zero loses it, by way of the Place payoff: any cell so typed ends as the tail
+/// of cell 2, which is right for cell 2 alone.
+void dropLeadingZeros() {
+    for (int race = 1; race <= normalisedRaces; ++race) {
+        const Text& placePay = card.payoffRecord[{race, 2}];
+        for (const int cell : normalisedCells) {
+            Text& payoff = card.payoffRecord[{race, cell}];
+            if (payoff.empty() || payoff.front() != '0') continue;
+            payoff = Text{rightOf(placePay, static_cast<int>(payoff.size()) - 1)};
+        }
+    }
+}
+
+void storeBoard(int race) {
+    for (int box = 0; box < boxCount; ++box)
+        attempt([&] { card.raceOutcome(race, box + 1) = trimmed(screen.boxes.at(box).text); });
+    for (const int cell : cellsOfTheirBoxes)
+        attempt([&] { card.payoffRecord(race, cell) = trimmed(screen.tote.at(cell)); });
+    attempt([&] { card.payoffRecord(race, boxTenEchoCell) = trimmed(screen.tote.at(echoedBox)); });
+    attempt([&] { card.raceInfo(race).trackCode = screen.header.track.caption; });
+}
+
+/// The payoff of the place becomes what S1 paid, where S1 is the other horse of the dead heat. The board
+/// shows the new payoff too, or leaving the race would put the old one back.
+void payOtherHorse(int race, const SharedPlace& place) {
+    const double topSelection = lenientNumber(screen.boxes[0].text);
+    if (topSelection <= 0 || topSelection != lenientNumber(card.raceOutcome(race, place.otherHorse))) return;
+    card.payoffRecord(race, place.payoff) = card.payoffRecord(race, boxTenCell);
+    screen.tote.at(place.payoff) = card.payoffRecord(race, place.payoff);
+}
+
+const SharedPlace* sharedPlace(int race) {
+    if (card.placeHeat(race) == deadHeat) return &sharedSecond;
+    if (card.winHeat(race) == deadHeat) return &sharedWin;
+    return nullptr;
+}
+
+} // namespace
+
+int raceOnShow() {
+    int race = 0;
+    attempt([&] { race = toInteger(lenientNumber(screen.header.race)); });
+    return race;
+}
+
+void setBox(int box, TextView text) {
+    if (box < 0 || box >= boxCount) fail("there is no box " + std::to_string(box));
+    Text& shown = screen.boxes.at(box).text;
+    if (shown == text) return;
+    shown = text;
+    TEXT_56();
+}
+
+void Get_Textbox_Data() {
+    const Step step{"Get_Textbox_Data"};
+    dropLeadingZeros();
+    if (card.recallMode == "R") {
+        cursor.race = 1;
+        card.recallMode.clear();
+    }
+    if (const int race = raceOnShow(); race > 0) storeBoard(race);
+}
+
+void TEXT_56() {
+    const Step step{"TEXT_56"};
+    const int race = raceOnShow();
+    const SharedPlace* place = nullptr;
+    if (race > 0) attempt([&] { place = sharedPlace(race); });
+    screen.boxTenVisible = place != nullptr;
+    screen.boxTenColumn = place ? place->boxTenColumn : 0;
+    if (place) attempt([&] { payOtherHorse(race, *place); });
+    for (std::size_t i = 0; i < screen.finishLabels.size(); ++i)
+        screen.finishLabels[i] = screen.boxes[i + firstFinishBox].text;
+}
+
+void TypeBox(int box, const Text& text) { setBox(box, text); }
+
+void TypeTote(int box, const Text& text) {
+    if (box < 1 || box > toteBoxesOfCells) fail("there is no payoff box " + std::to_string(box));
+    screen.tote.at(box) = text;
+}
+
+void TypeRefunds(const Text& text) { screen.refunds = text; }
+
+void TypeCell(int race, int row, int column, const Text& text) {
+    if (row < 1) fail("the head of a race view can't be edited");
+    raceViewOf(race)(row, column).text = text;
+}
+
+} // namespace quillon

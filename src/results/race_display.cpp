@@ -1,0 +1,219 @@
+#include "results/race_display.h"
+
+#include "app/screen.h"
+#include "core/failure.h"
+#include "core/race_card.h"
+#include "rating/race_views.h"
+#include "results/board.h"
+#include "results/heats.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quillon {
+namespace {
+
+constexpr int lastButtonRace = 20; ///< race buttons and the race list reach no further
+constexpr int boxCount = 8;
+
+/// How far a way of showing a race puts away the race views and the check marks of other races. Previous and
+/// the race list stop two short.
+constexpr int allViews = ratedRaces;
+constexpr int allViewsButTwo = 21;
+
+constexpr std::array payoffBoxes{1, 2, 3, 4, 5, 6, 7, 8, 9, 11};
+constexpr int boxTen = 10;
+
+constexpr int firstLitColumn = 3; ///< an entry's row is lit behind its name, odds and saddle cloth
+constexpr int lastColumn = 39;
+
+constexpr int hiddenRaceColumn = 2; ///< of a data view
+constexpr int lineButtonRows = 15;  ///< rows of past lines that can be taken by their number
+
+void leaveLastRace() {
+    screen.item(MenuItem::HeatWinner).checked = false;
+    for (std::size_t row = 1; row < screen.heatButtons.size(); ++row) screen.heatButtons[row].visible = false;
+    ClosePastPerformances();
+}
+
+void showViews(int race, int lastPutAway) {
+    for (int other = 1; other <= lastPutAway; ++other) {
+        screen.raceViewVisible.at(other) = false;
+        screen.raceChecks.at(other).visible = false;
+    }
+    for (Button& button : screen.raceButtons) button.current = false;
+    if (race > ratedRaces) return;
+    screen.raceViewVisible.at(race) = true;
+    screen.raceButtons.at(race).current = true;
+    screen.raceChecks.at(race).visible = true;
+    screen.raceChecks.at(race).caption = card.raceInfo(race).label;
+    if (screen.start.caption == "Start") screen.dataViewVisible.at(race) = true;
+}
+
+void captionEntryButtons(int race) {
+    for (int entry = 1; entry <= ratedEntries; ++entry) {
+        const Text& number = card.entry(race, entry).programNumber;
+        Button& button = screen.entryButtons.at(entry);
+        button.caption = lenientNumber(number) > 0 ? rightAligned(number, 3) : "";
+        button.current = false;
+    }
+}
+
+/// The common road of all the ways to show a race.
+void show(int race, int lastPutAway) {
+    if (race < 1 || race >= raceExtent) return;
+    cursor.race = static_cast<Integer>(race);
+    leaveLastRace();
+    if (race > card.raceCount) attempt([&] { fillHeatView(race); });
+    attempt([&] { showViews(race, lastPutAway); });
+    attempt([&] { captionEntryButtons(race); });
+    showRaceHeader(race);
+    showBoard(race);
+}
+
+int heldToButtons(double race) {
+    return static_cast<int>(std::clamp(race, 1.0, static_cast<double>(lastButtonRace)));
+}
+
+/// The number that a text ends with, blanks behind it aside; 0 without one.
+double numberAtEnd(TextView text) {
+    text = trimmedRight(text);
+    return lenientNumber(text.substr(text.find_last_not_of("0123456789") + 1));
+}
+
+/// The colour that tells how old the line in this row is: the rows of an entry run from its latest line back.
+std::optional<Colour> shadeOfLine(const RaceEntry& entry, int row) {
+    if (row <= entry.linesInLastWindow) return recentYellow;
+    if (row <= entry.linesInFiftyDays) return olderCyan;
+    return std::nullopt;
+}
+
+/// Copies the lines of the horse at this post out of the race's data view.
+void fillPastPerformances(int race, int post) {
+    const Grid& lines = dataViewOf(race);
+    Grid& shown = screen.dataView[pastPerformanceView];
+    shown.clear();
+    int row = 0;
+    for (int line = 1; line < lines.rows(); ++line) {
+        if (lenientNumber(lines.text(line, dataColumn::post)) != post) continue;
+        ++row;
+        for (int column = 1; column <= lastColumn; ++column)
+            if (column != hiddenRaceColumn) shown(row, column).text = lines.text(line, column);
+        if (row <= lineButtonRows) shown(row, dataColumn::lineNumber).text = std::to_string(line);
+        shown.shade(row, 1, lastColumn, shadeOfLine(card.entry(race, post), row));
+    }
+}
+
+} // namespace
+
+void showRaceHeader(int race) {
+    if (race < 1 || race >= raceExtent) return;
+    const RaceInfo& info = card.raceInfo[{race}];
+    RaceHeader& header = screen.header;
+    header.race = std::to_string(race);
+    header.purse = "$ " + info.purse;
+    header.classText = info.classText;
+    header.cr = info.todaysCr;
+    header.wagering = info.wagering;
+    header.postTime = info.postTime;
+    header.gait = info.gait;
+    header.trackInfo = info.trackInfo;
+    header.distance = info.distance;
+    if (race <= card.raceCount || !info.trackCode.empty()) header.track.caption = info.trackCode;
+}
+
+void showBoard(int race) {
+    if (race < 1 || race >= raceExtent) return;
+    attempt(DeadHeat);
+    for (int box = 0; box < boxCount; ++box) screen.boxes.at(box).text = card.raceOutcome[{race, box + 1}];
+    if (race > card.raceCount) attempt([&] { showHeatSelections(race); });
+    for (const int box : payoffBoxes) screen.tote.at(box) = card.payoffRecord[{race, box}];
+    screen.tote.at(boxTen) = card.payoffRecord[{race, boxTenCell}];
+    screen.refunds = card.payoffRecord[{race, refundCell}];
+    screen.tote[0] = "RACE:  " + std::to_string(race);
+    // The boxes change one by one, but a dead heat is looked at only when all of them are the new race's.
+    TEXT_56();
+}
+
+void showRace(int race) { show(race, allViews); }
+
+void RaceButton(int n) {
+    const Step step{"RaceButton"};
+    if (card.recallMode == "R") card.recallMode.clear();
+    // A heat above race 20 has its view filled too, though what is shown is race 20.
+    if (n > lastButtonRace && n > card.raceCount) attempt([&] { fillHeatView(n); });
+    show(heldToButtons(n), allViews);
+}
+
+void Next() {
+    const Step step{"Next"};
+    const int shown = raceOnShow();
+    if (shown == 0) return;
+    if (shown + 1 > card.raceCount) {
+        attempt([&] { cursor.race = toInteger(card.labelledRaces + card.raceCount); });
+        return;
+    }
+    attempt(Get_Textbox_Data);
+    show(shown + 1, allViews);
+    attempt(TEXT_56);
+    attempt(DeadHeat);
+}
+
+void Previous() {
+    const Step step{"Previous"};
+    const int shown = raceOnShow();
+    if (shown == 0) return;
+    attempt(Get_Textbox_Data);
+    if (shown == 1) {
+        cursor.race = 1;
+        return;
+    }
+    show(shown - 1, allViewsButTwo);
+}
+
+void RaceList(const Text& line) {
+    const Step step{"RaceList"};
+    show(heldToButtons(numberAtEnd(line)), allViewsButTwo);
+}
+
+void FillRaceList() {
+    screen.raceList.lines.clear();
+    for (int race = 1; race <= card.raceCount && race < raceExtent; ++race)
+        screen.raceList.lines.push_back("RACE " + std::to_string(race));
+}
+
+void EntryButton(int i) {
+    const Step step{"EntryButton"};
+    const int race = raceOnShow();
+    if (i < 1 || i > ratedEntries || race < 1 || race > ratedRaces) return;
+    const bool again = screen.pastPerformanceOpen && screen.currentEntry == i;
+    ClosePastPerformances();
+    if (again) return;
+
+    // A recalled card has no offset: the figure at the end of its file name tells a partial one.
+    if (card.recallMode == "R") card.raceOffset = toInteger(lenientNumber(rightOf(card.cardFileName, 1)));
+    cursor.entry = static_cast<Integer>(i);
+    screen.currentEntry = i;
+    attempt([&] { fillPastPerformances(race, i); });
+    raceViewOf(race).shade(i, firstLitColumn, lastColumn, recentYellow);
+    const RaceEntry& entry = card.entry[{race, i}];
+    screen.pastPerformanceHeading =
+        Text{trimmed(entry.programNumber)} + "  " + Text{trimmed(entry.horseName)};
+    screen.dataViewVisible.at(pastPerformanceView) = true;
+    screen.pastPerformanceOpen = true;
+}
+
+void ClosePastPerformances() {
+    ClearLastIndex();
+    screen.currentEntry = 0;
+    screen.pastPerformanceOpen = false;
+    screen.dataViewVisible.at(pastPerformanceView) = false;
+    screen.pastPerformanceHeading.clear();
+}
+
+void ClearLastIndex() {
+    if (screen.currentEntry < 1 || raceOnShow() < 1) return;
+    attempt([&] { raceViewOf(raceOnShow()).shade(screen.currentEntry, firstLitColumn, lastColumn, white); });
+}
+
+} // namespace quillon

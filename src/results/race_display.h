@@ -1,0 +1,45 @@
+// Showing a race: its heading, its board, its race view, and the past lines of one of its entries.
+//
+// Results that were typed on the board are taken into the store by the arrows alone; a race button or a
+// double click in the race list drops them. Everything here resumes at failures.
+#pragma once
+
+#include "core/text.h"
+
+namespace quillon {
+
+/// The race label and the heading: purse, conditions, class rating, wagers, post time, gait, track, distance.
+/// A heat has no track of its own and keeps the card's, under which the card is saved.
+void showRaceHeader(int race);
+
+/// The eight boxes, the "Tote Board" and the refunds as they stand in the store, the tint of S1 and S2, and
+/// what a dead heat changes. The race's label must stand already. A heat without selections shows its
+/// ranking.
+void showBoard(int race);
+
+/// Race `race` whole: label, heading, race view, buttons and board; the past lines of an entry close. Nothing
+/// is stored. Races 1 to 30; for others nothing happens.
+void showRace(int race);
+
+/// Race button n shows race n, at most race 20.
+void RaceButton(int n);
+
+/// The arrows store the board, then show the race behind or in front of the one on show. At the last race
+/// Next stores nothing.
+void Next();
+void Previous();
+
+/// Double click on a line of the race list: the number at its end is the race, held between 1 and 20.
+void RaceList(const Text& line);
+
+/// Fills the race list: a line "RACE 1", "RACE 2" ... for each race of the card.
+void FillRaceList();
+
+/// Program-number button i, 1 to 12: shows the entry's past lines in their frame and lights its row of the
+/// race view; the same button again closes the frame.
+void EntryButton(int i);
+
+/// Closes the frame of past lines and takes the light off the entry's row.
+void ClosePastPerformances();
+
+} // namespace quillon
