@@ -490,7 +490,7 @@ TEST_F(SummaryTest, AThousandsCommaEndsTheNumberThatIsAdded) {
 // ---- Totals
 
 TEST_F(SummaryTest, TotalsShowTwoDecimalsAndNoLeadingZero) {
-    race(1, {"1", "2", "3", "4"}, {"1", "2", "8", "9"}, {.winPay = "0.5", .exactaPay = "7"});
+    race(1, {"1", "2", "3", "4"}, {"1", "2", "8", "9"}, {.winPay = ".5", .exactaPay = "7"});
     SelectionResults();
     EXPECT_EQ(".50", total(11));
     EXPECT_EQ(".00", total(12));
