@@ -1,0 +1,105 @@
+#include "analysis/todays_results.h"
+
+#include "analysis/summary.h"
+#include "app/screen.h"
+#include "core/failure.h"
+#include "core/files.h"
+#include "core/numbers.h"
+#include "core/race_card.h"
+#include "reports/report_writer.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quillon {
+namespace {
+
+constexpr int ruleWidth = 173;
+
+// clang-format off
+constexpr const char* groups  =
+    "         Selections        Results";
+constexpr const char* heading =
+    "         S1  S2  S3  S4    R1  R2  R3  R4     Win   Place    Show"
+    "     E1/2     E1-2   E1/2-3   E1-2-3 E1-2-3-4"
+    "    T1/2-3  T1/2-3-4    T1-2-3   S1/2-3-4   S1,2/3-4   S1-2-3-4";
+constexpr const char* totalsMargin = "       ";
+
+/// What a field shows where its cell is not above 0.
+enum class Otherwise { theCell, theFieldBefore, blanks };
+
+/// Columns of the summary as fields of a line, one behind the other; columns not named here have no field,
+/// S1-2-3-4 among them, which has a heading all the same.
+struct Fields { int first; int last; int width; Otherwise otherwise; };
+constexpr std::array fields{
+    Fields{ 0,  0,  7, Otherwise::theCell},        // label of the race
+    Fields{ 1,  4,  4, Otherwise::theFieldBefore}, // S1 to S4: no wins repeat those of the selection before
+    Fields{ 5,  5,  2, Otherwise::blanks},         // between selections and results
+    Fields{ 6,  9,  4, Otherwise::blanks},         // R1 to R4
+    Fields{11, 13,  8, Otherwise::blanks},         // Win, Place, Show
+    Fields{15, 19,  9, Otherwise::blanks},         // exactas
+    Fields{22, 24, 10, Otherwise::blanks},         // trifectas
+    Fields{26, 27, 11, Otherwise::blanks},         // superfectas
+};
+// clang-format on
+
+Text rowText(int row) {
+    Text line;
+    Text field;
+    for (const Fields& columns : fields)
+        for (int column = columns.first; column <= columns.last; ++column) {
+            const Text& cell = screen.summary.read(row, column).text;
+            if (columns.otherwise == Otherwise::theCell || lenientNumber(cell) > 0)
+                field = rightAligned(cell, columns.width);
+            else if (columns.otherwise == Otherwise::blanks)
+                field = blanks(columns.width);
+            line += field;
+        }
+    return line;
+}
+
+void addRule(ReportWriter& report) { report.line("{}", Text(ruleWidth, '-')); }
+
+void addRow(ReportWriter& report, TextView margin, int row) {
+    report.part("{}{}", margin, rowText(row));
+    report.returnLine();
+}
+
+void addHead(ReportWriter& report) {
+    addCardHead(report, "QUILLON Selections");
+    addRule(report);
+    report.line(groups);
+    report.line(heading);
+    addRule(report);
+    report.returnLine();
+}
+
+// Totals stand on their own lines, seven places to the right of their headings.
+void addTotals(ReportWriter& report) {
+    addRow(report, totalsMargin, totalsRow);
+    addRule(report);
+    report.returnLine();
+    addRow(report, totalsMargin, percentagesRow);
+    addRule(report);
+}
+
+// A card that starts above race 1 is reported without totals, but for one of as many races as the totals' row
+// is numbered.
+bool hasTotals() { return card.raceOffset == 0 || card.raceCount == totalsRow; }
+
+} // namespace
+
+void TodaysResults() {
+    const Step step{"TodaysResults"};
+    ReportWriter report;
+    addHead(report);
+    const int lastRace = std::min<int>(card.raceCount, screen.summary.rows() - 1);
+    for (int race = 1; race <= lastRace; ++race) addRow(report, "", race);
+    addRule(report);
+    // Races 21 and 22 lie on the rows of the totals. Such a card too has its totals once behind its last
+    // race.
+    if (hasTotals()) addTotals(report);
+    writeFile({Folder::working, "Todays Results.txt"}, report.content());
+}
+
+} // namespace quillon
