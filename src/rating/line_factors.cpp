@@ -293,10 +293,10 @@ enum class Form { asItStands, wide, narrow };
 
 // A positive number that is rounded to one decimal already, as most figures are: neither form changes it.
 bool isRounded(TextView figure) {
-    const std::size_t point = figure.size() - 2;
-    if (figure.size() < 3 || figure.size() > 7 || figure[0] == '0' || figure[point] != '.') return false;
+    if (figure.size() < 3 || figure.size() > 7 || figure[0] == '0') return false;
     const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
-    return std::all_of(figure.begin(), figure.end() - 2, isDigit) && isDigit(figure.back());
+    const auto point = figure.end() - 2;
+    return *point == '.' && isDigit(figure.back()) && std::all_of(figure.begin(), point, isDigit);
 }
 
 void putLineValueIn(Form form) {
@@ -353,7 +353,7 @@ constexpr std::array roadOfALine{
     LineStep{Form::asItStands, DriverRating,     Form::narrow,     Log::nothing},
     LineStep{Form::asItStands, StoreLine,        Form::asItStands, Log::nothing},
     LineStep{Form::asItStands, WPS,              Form::wide,       Log::figure},      // WPS
-    LineStep{Form::narrow,     CloseLine,        Form::asItStands, Log::nothing},     // the rating ends the log line
+    LineStep{Form::narrow,     CloseLine,        Form::asItStands, Log::nothing},     // and the rating
 };
 
 // clang-format on

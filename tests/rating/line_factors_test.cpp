@@ -58,6 +58,7 @@ TEST_F(LineFactorsTest, TheFirstFigureIsThreeFinalTimesLessTheLeadersThirdTimeAn
         {"a mile and a quarter", "1.25", "", "", "54.3", "25.3", "99.9", "54.3"},
         {"no last quarter", "1", "", "1", "54.3", "25.3", "", "8"},
         {"a last quarter of 0", "1", "0", "1", "54.3", "25.3", "", "8"},
+        {"any above 0 will do", "1", "0.1", "1", "54.3", "25.3", "67.6", "54.3"},
         {"one that is not available", "1", "-97", "1", "54.3", "25.3", "", "8"},
         {"one that is no number", "1", "29.1x", "1", "54.3", "25.3", "", "8"},
         {"no finish", "1", "29.1", "", "54.3", "25.3", "", "8"},
@@ -285,6 +286,7 @@ TEST_F(LineFactorsTest, AClassDifferenceIsWeighedAgainstTheFinish) {
         {"a drop of 3 that binary fractions blur", 61.2, 64.2, 5, 2},
         {"no rating of the line", 75, 0, 9, -3},
         {"one that is not available", 75, -99, 1, -3},
+        {"the lowest rating there is", 3, 0.1, 1, 0},
         {"no rating of today's race", 0, 75, 1, -75},
         {"no rating of today's race, fifth", 0, 75, 5, 2},
         {"none of either", 0, 0, 1, -3},
@@ -302,6 +304,10 @@ TEST_F(LineFactorsTest, TheClassOfTodaysRaceIsThatOfTheLinesRace) {
     cursor.lineValue = " 60.0";
     ClassChange();
     EXPECT_EQ("62", cursor.lineValue); // 60 + (80 - 76) / 2
+    sourceLine.CR = "80";
+    cursor.lineValue = " 60.0";
+    ClassChange();
+    EXPECT_EQ(" 60.0", cursor.lineValue); // the same class touches nothing
 }
 
 TEST_F(LineFactorsTest, RatingsInLettersCountAsNought) {
@@ -635,6 +641,16 @@ TEST_F(RateLineTest, AFigureThatFallsToOneOrLessIsUnusable) {
     sourceLine.CR = "78.1"; // 1.0
     RateLine();
     EXPECT_EQ("99.9", stored().rating);
+}
+
+TEST_F(RateLineTest, AFigureBelowOneIsWrittenWithoutALeadingNought) {
+    cursor.horseFinal = "50.0";
+    cursor.leaderFinal = "39.9";
+    card.raceInfo(1).todaysCr = "40";
+    sourceLine.CALL_FN_PO = "4";
+    sourceLine.CR = "79.6"; // a drop of 39.6, fourth: 40.1 - 39.6 = 0.5, and - 1 = -0.5
+    EXPECT_EQ("   1    2    40.1   40.1   40.1   40.1   40.1   40.1   40.1     .5     .5    -.599.9\r\n",
+              logOfRateLine());
 }
 
 // A line without calls: the load leaves what it kept of the line before.

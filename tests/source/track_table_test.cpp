@@ -92,6 +92,8 @@ TEST_F(TrackTableTest, ThePostLimitIsTheLastTwoCharactersAndTwelveWhenTheySayNot
         {"a number and a letter", "A 9x", 9},
         {"a row of one character", "A", 12},
         {"a row of one digit", "7", 7},
+        {"one horse", "A 01", 1},
+        {"a third digit in front", "A110", 10},
         {"behind a long row", "A, a track with a very long description that ends in its limit, 11", 11},
     };
     for (const PostLimitRow& row : rows)
@@ -104,6 +106,19 @@ TEST_F(TrackTableTest, ABlankOrUnreadableStretchIsNought) {
     EXPECT_EQ(0, trackTableOf(front + "long" + "*   57.0 10").rows.at(0).stretchLength);
     EXPECT_EQ(440, trackTableOf(front + " 440" + "*   57.0 10").rows.at(0).stretchLength);
     EXPECT_EQ(9999, trackTableOf(front + "9999" + "*   57.0 10").rows.at(0).stretchLength);
+}
+
+TEST_F(TrackTableTest, NoColumnReachesIntoTheNext) {
+    // Digits all along: 37 to 39 are "789", 42 to 45 "2345", 46 "6", 50 to 53 "0123".
+    const TrackRecord row =
+        trackTableOf("1234567890123456789012345678901234567890123456789012345678").rows.at(0);
+    EXPECT_EQ("12345", row.trackKey);
+    EXPECT_EQ("789", row.courseSize);
+    EXPECT_EQ("789", row.lineCourseSize);
+    EXPECT_EQ(2345, row.stretchLength);
+    EXPECT_EQ("6", row.stretchFlag);
+    EXPECT_EQ("0123", row.linePar);
+    EXPECT_EQ(78, row.maxPosts);
 }
 
 TEST_F(TrackTableTest, AParBelowTenHasLeftItsMinuteOut) {
