@@ -39,7 +39,7 @@ double finishCredit(TextView answer) {
     return 0;
 }
 
-/// The heat's number, where it has a race button and isn't one of the card's own races.
+/// The heat's number, where it has a race button.
 std::optional<int> heatNumber(TextView answer) {
     const double number = lenientNumber(answer);
     const auto last = static_cast<double>(screen.raceButtons.size() - 1);
@@ -138,7 +138,7 @@ void HeatChoice(int row) {
         ports.message("Race Number Exceeds Capacity", "");
         return;
     }
-    if (*finalRace <= card.raceCount)
+    if (!card.raceInfo(*finalRace).label.empty())
         fail("race " + std::to_string(*finalRace) + " is one of the card's own");
     Button& button = screen.raceButtons.at(*finalRace);
     button.caption = std::to_string(*finalRace);
@@ -162,6 +162,13 @@ void ViewHeat() {
     const Step step{"ViewHeat"};
     const auto number = ports.input("Enter Heat Race Number", "Heat Races");
     if (number) viewText(heatLog(numberText(lenientNumber(*number))));
+}
+
+bool isHeat(int race) {
+    if (race > card.raceCount) return true;
+    for (int entry = 1; entry < entryExtent; ++entry)
+        if (card.heatPost(race, entry) > 0) return true;
+    return false;
 }
 
 void fillHeatView(int race) {

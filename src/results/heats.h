@@ -17,6 +17,10 @@ void HeatChoice(int row);
 /// Asks for a heat's number and opens its log in the text viewer.
 void ViewHeat();
 
+/// True for a race above the card's last one, and for a slot that a horse was entered in: its button counts
+/// as a race's when the selection sheet counts the card's races anew.
+bool isHeat(int race);
+
 /// Fills the race view of a heat from its slot. Fails where there is no such view.
 void fillHeatView(int race);
 

@@ -64,7 +64,7 @@ void show(int race, int lastPutAway) {
     if (race < 1 || race >= raceExtent) return;
     cursor.race = static_cast<Integer>(race);
     leaveLastRace();
-    if (race > card.raceCount) attempt([&] { fillHeatView(race); });
+    if (isHeat(race)) attempt([&] { fillHeatView(race); });
     attempt([&] { showViews(race, lastPutAway); });
     attempt([&] { captionEntryButtons(race); });
     showRaceHeader(race);
@@ -119,14 +119,14 @@ void showRaceHeader(int race) {
     header.gait = info.gait;
     header.trackInfo = info.trackInfo;
     header.distance = info.distance;
-    if (race <= card.raceCount || !info.trackCode.empty()) header.track.caption = info.trackCode;
+    if (!info.trackCode.empty() || !isHeat(race)) header.track.caption = info.trackCode;
 }
 
 void showBoard(int race) {
     if (race < 1 || race >= raceExtent) return;
     attempt(DeadHeat);
     for (int box = 0; box < boxCount; ++box) screen.boxes.at(box).text = card.raceOutcome[{race, box + 1}];
-    if (race > card.raceCount) attempt([&] { showHeatSelections(race); });
+    if (isHeat(race)) attempt([&] { showHeatSelections(race); });
     for (const int box : payoffBoxes) screen.tote.at(box) = card.payoffRecord[{race, box}];
     screen.tote.at(boxTen) = card.payoffRecord[{race, boxTenCell}];
     screen.refunds = card.payoffRecord[{race, refundCell}];
@@ -141,7 +141,7 @@ void RaceButton(int n) {
     const Step step{"RaceButton"};
     if (card.recallMode == "R") card.recallMode.clear();
     // A heat above race 20 has its view filled too, though what is shown is race 20.
-    if (n > lastButtonRace && n > card.raceCount) attempt([&] { fillHeatView(n); });
+    if (n > lastButtonRace && isHeat(n)) attempt([&] { fillHeatView(n); });
     show(heldToButtons(n), allViews);
 }
 

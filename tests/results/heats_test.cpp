@@ -152,6 +152,7 @@ TEST_F(HeatTest, TheLastButtonIs23) {
 
 TEST_F(HeatTest, ARaceOfTheCardItselfIsNoFreeSlot) {
     card.entry(12, 2).horseName = "Old Tom";
+    card.raceInfo(12).label = "12";
     EXPECT_FALSE(choose(4, {"12", "1", "2"}));
     EXPECT_EQ("Old Tom", card.entry(12, 2).horseName.text());
     EXPECT_EQ(0, card.heatPost(12, 2));
@@ -266,6 +267,15 @@ TEST_F(HeatTest, SelectionsOfTheSlotGoBeforeTheRanking) {
     card.raceOutcome(14, 3) = "9";
     RaceButton(14);
     EXPECT_EQ((Selections{"", "", "9", ""}), selections());
+}
+
+TEST_F(HeatTest, ItStaysAHeatWhenItsButtonIsCountedAmongTheRaces) {
+    EXPECT_TRUE(choose(4, {"13", "1", "2"}));
+    card.raceCount = 13; // as the selection sheet counts the buttons that show
+    EXPECT_TRUE(choose(7, {"13", "2", "3"}));
+    RaceButton(13);
+    EXPECT_EQ("Slow Bill", screen.raceView[13].text(3, 0));
+    EXPECT_EQ((Selections{"2", "3", "", ""}), selections()); // 58.6 - 0.6 and 60.2 - 0.4
 }
 
 TEST_F(HeatTest, LeavingAHeatByAnArrowStoresItsSelectionsUnderIt) {
