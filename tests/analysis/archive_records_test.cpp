@@ -243,6 +243,7 @@ TEST_F(ArchiveRecordsTest, OddsAreTheMorningLineAsANumber) {
         {" 9/5", " 1.80   9/5"},
         {" 8/3", " 2.67   8/3"}, // 2.66666... is cut to "2.666"
         {" 1/9", "  .11   1/9"}, // 0.1111... is cut to "0.111"
+        {"35/3", "11.66  35/3"}, // 11.6666... is cut to "11.66"
         {"3/12", " 1.50  3/12"}, // the last digit alone divides
         // clang-format on
     };

@@ -418,6 +418,7 @@ TEST_F(SummaryTest, BetsHitByTheExactTextsOfTheFinish) {
         {"padded fourth",         {"1", "2", "3", " 4"}, "15 16 17 18 19 22 23 24"},
         {"padded first of four",  {"  1", "2", "3", "4"}, ""},
         {"one horse four times",  {"1", "1", "1", "1"},  "16 18 19 24 28"},
+        {"2 first and fourth",    {"2", "1", "3", "2"},  "16 18 19 24 28"},
         {"no results",            {"", "", "", ""},      ""},
         // clang-format on
     };
