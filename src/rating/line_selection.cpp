@@ -75,14 +75,14 @@ void admitUnratedLine(const LineSearch& search) {
     if (search.line(1).HRSE_TM_4Q == "9.9" && search.window() == 1) ++search.window();
 }
 
+void tidyRating(Text& rating) { rating = formatted("##.0", "@@@@@", trimmed(rating)); }
+
 // Puts the ratings of slot 0 to the window's last into their print form. A second time would change nothing,
 // so each slot is done once. Slot 0 becomes five blanks.
 void tidyRatings(LineSearch& search) {
     for (; search.tidied < search.window(); ++search.tidied)
-        attempt([&] {
-            Text& rating = card.pastLine.write(search.race, search.entry, search.tidied + 1).rating;
-            rating = formatted("##.0", "@@@@@", trimmed(rating));
-        });
+        attempt(
+            [&] { tidyRating(card.pastLine.write(search.race, search.entry, search.tidied + 1).rating); });
 }
 
 // The lowest of three, the more recent of equals.

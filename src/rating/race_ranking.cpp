@@ -116,7 +116,10 @@ void fillNames(int race) {
     constexpr int nameWidth = 20;
     forEachPlace(rankedPlaces, [&](int place) {
         RaceEntry& entry = rankedEntry(race, place);
-        attempt([&] { entry.horseName = filledTo(entry.horseName, nameWidth); });
+        if (entry.horseName.size() <= nameWidth)
+            entry.horseName = filledTo(entry.horseName, nameWidth);
+        else
+            passOver();
         card.selection[{race, place}].selectionName = entry.horseName;
     });
 }
@@ -173,15 +176,16 @@ void clearPaddedParks() {
         });
 }
 
-void fillDrivers(int race) {
+void padDriver(Text& name) {
     constexpr int driverWidth = 15;
+    if (name.size() < driverWidth) name = filledTo(name, driverWidth);
+}
+
+void fillDrivers(int race) {
     forEachPlace(rankedPlaces, [&](int place) {
         const RaceEntry& entry = rankedEntry(race, place);
         card.selection[{race, place}].selectionDriver = driverText(entry);
-        attempt([&] {
-            Text& name = card.driverTable(entry.driverNumber).name;
-            if (name.size() < driverWidth) name = filledTo(name, driverWidth);
-        });
+        attempt([&] { padDriver(card.driverTable(entry.driverNumber).name); });
     });
 }
 

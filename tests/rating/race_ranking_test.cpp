@@ -194,6 +194,7 @@ TEST_F(RankRaceTest, ANameIsFilledToTwentyInTheEntryToo) {
     EXPECT_EQ("Twenty-One Characters", card.selection(race, 2).selectionName);
     EXPECT_EQ("Twenty-One Characters", card.entry(race, 5).horseName.text());
     EXPECT_EQ("Horse 1", card.entry(race, 1).horseName.text()); // not ranked
+    EXPECT_EQ(0u, journal.count());                             // long names are no damage
 }
 
 TEST_F(RankRaceTest, TheDriversOfTheRankedAreFilledToFifteen) {
