@@ -249,9 +249,7 @@ CardOptions oversizedCard() {
     return {.seed = 27, .races = 34, .entries = {21, 24}, .lines = {5, 34}, .drivers = 330, .trainers = 230};
 }
 
-Card generateCard(const CardOptions& options) {
-    return CardMaker{options}.make();
-}
+Card generateCard(const CardOptions& options) { return CardMaker{options}.make(); }
 
 void makeAlsoEligible(Race& race) {
     Entry& entry = race.entries.back();

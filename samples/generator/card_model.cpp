@@ -4,9 +4,7 @@ namespace samples {
 
 namespace {
 
-std::string twoDigits(unsigned value) {
-    return (value < 10 ? "0" : "") + std::to_string(value);
-}
+std::string twoDigits(unsigned value) { return (value < 10 ? "0" : "") + std::to_string(value); }
 
 } // namespace
 

@@ -34,13 +34,9 @@ Table tableOf(const Column<Record> (&columns)[count], const std::vector<Record>&
     return table;
 }
 
-std::string text(int value) {
-    return std::to_string(value);
-}
+std::string text(int value) { return std::to_string(value); }
 
-std::string textOrBlank(int value) {
-    return value == 0 ? std::string{} : std::to_string(value);
-}
+std::string textOrBlank(int value) { return value == 0 ? std::string{} : std::to_string(value); }
 
 // A whole number of the last decimal place as decimal text: 312 with three places is 0.312.
 std::string decimalText(int value, std::size_t places) {

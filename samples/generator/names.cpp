@@ -140,12 +140,8 @@ std::string horseName(Random& random) {
     return random.chance(50) ? std::string{random.pick(wholeNames)} : composedName(random);
 }
 
-std::string sireName(Random& random) {
-    return std::string{random.pick(sires)};
-}
+std::string sireName(Random& random) { return std::string{random.pick(sires)}; }
 
-std::string damName(Random& random) {
-    return composedName(random);
-}
+std::string damName(Random& random) { return composedName(random); }
 
 } // namespace samples

@@ -65,9 +65,7 @@ std::array<Fifths, 4> leaderTimes(Random& random, Fifths mileTime, int distance)
     return times;
 }
 
-int clampedPosition(int position, const PastLine& line) {
-    return std::clamp(position, 1, line.starters);
-}
+int clampedPosition(int position, const PastLine& line) { return std::clamp(position, 1, line.starters); }
 
 // From the post to the finish: early on the post tells, at the end the class of the horse.
 void drawPositions(Random& random, PastLine& line, int advantage) {
@@ -99,9 +97,7 @@ void drawParks(Random& random, PastLine& line) {
     }
 }
 
-Fifths fifthsBehind(const Call& call) {
-    return (call.behind + quartersInLength / 2) / quartersInLength;
-}
+Fifths fifthsBehind(const Call& call) { return (call.behind + quartersInLength / 2) / quartersInLength; }
 
 // The horse's own times from the leader's and the lengths. Where less or more than a quarter lies behind the
 // last call, the last quarter is its share of that.

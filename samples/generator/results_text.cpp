@@ -40,13 +40,9 @@ std::string money(Cents cents) {
     return grouped(cents / 100) + (rest.size() < 2 ? ".0" : ".") + rest;
 }
 
-std::string moneyOrBlank(Cents cents) {
-    return cents > 0 ? money(cents) : std::string{};
-}
+std::string moneyOrBlank(Cents cents) { return cents > 0 ? money(cents) : std::string{}; }
 
-std::string isoDate(Day day) {
-    return dateText(day).insert(6, 1, '-').insert(4, 1, '-');
-}
+std::string isoDate(Day day) { return dateText(day).insert(6, 1, '-').insert(4, 1, '-'); }
 
 std::string longDate(Day day) {
     const std::chrono::year_month_day date{day};
@@ -55,13 +51,9 @@ std::string longDate(Day day) {
            std::to_string(static_cast<int>(date.year()));
 }
 
-std::string title(const Card& card) {
-    return "Results for " + std::string{trackOf(card.track).name};
-}
+std::string title(const Card& card) { return "Results for " + std::string{trackOf(card.track).name}; }
 
-std::string gaitText(const Race& race) {
-    return race.gait == "TROT" ? "Trot" : "Pace";
-}
+std::string gaitText(const Race& race) { return race.gait == "TROT" ? "Trot" : "Pace"; }
 
 std::string columnFinisher(const Placing& placing) {
     return left(placing.entry->program, 3) + left(placing.entry->name, 25) +

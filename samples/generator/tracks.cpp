@@ -149,9 +149,7 @@ std::string editorRow(const Track& track) {
 
 } // namespace
 
-std::span<const Track> allTracks() {
-    return tracks;
-}
+std::span<const Track> allTracks() { return tracks; }
 
 const Track& trackOf(std::string_view key) {
     const auto* found = std::ranges::find(tracks, key, &Track::key);

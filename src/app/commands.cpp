@@ -1,6 +1,8 @@
 #include "app/commands.h"
 
+#include "analysis/archive_records.h"
 #include "analysis/driver_change.h"
+#include "analysis/summary.h"
 #include "app/frame.h"
 #include "core/failure.h"
 #include "core/race_card.h"
@@ -64,6 +66,7 @@ const Button* buttonOf(const std::array<Button, count>& buttons, const Arguments
 bool startIsThere(const Arguments&) { return screen.start.enabled; }
 bool fileListIsShown(const Arguments&) { return screen.fileList.visible; }
 bool driverListIsShown(const Arguments&) { return screen.driverList.visible; }
+bool recordIsThere(const Arguments&) { return screen.record.enabled; }
 bool isSelectionOrFinishBox(const Arguments& arguments) { return numberWithin(arguments, 0, 7); }
 bool isToteBox(const Arguments& arguments) { return numberWithin(arguments, 1, 11); }
 bool isLineButton(const Arguments& arguments) {
@@ -137,6 +140,10 @@ constexpr std::array commands{
     Command{"ViewCondensedProgram", "View Condensed  Program", Menu::navigation, Takes::nothing, "", run<ViewCondensedProgram>, MenuItem::ViewCondensedProgram},
     Command{"DriverList",      "Driver Ratings",    Menu::navigation, Takes::nothing, "", run<DriverList>, MenuItem::DriverList},
     Command{"NotePad",         "Results",           Menu::navigation, Takes::nothing, "", run<NotePad>, MenuItem::NotePad},
+
+    // What the selections earned
+    Command{"SelectionResults", "Selections & Results Summary", Menu::analysis, Takes::nothing, "", run<SelectionResults>, MenuItem::SelectionResults},
+    Command{"Record",          "Record",            Menu::none,       Takes::nothing, "", run<Record>, {}, recordIsThere},
 
     // Settings, tools and help
     Command{"ArchivesEditor",  "Archives Editor",   Menu::editor,     Takes::nothing, "", run<ArchivesEditor>, MenuItem::ArchivesEditor},

@@ -143,8 +143,7 @@ double classPoints(double todaysRating, double lineRating, double finish) {
     constexpr double smallestChange = 3.0;
     constexpr double beatenInBetterClass = 2.0;
     if (lineRating <= 0) return -noRatingCredit; // and is taken for a line of today's class
-    // Ratings are decimals: what they differ by is freed from the noise of binary fractions, so that 3 is 3.
-    const double rise = std::round((todaysRating - lineRating) * 1e6) / 1e6;
+    const double rise = todaysRating - lineRating;
     if (std::fabs(rise) < smallestChange) return 0;
     if (rise < 0) return finish <= 4 ? rise : beatenInBetterClass;
     return finish <= 3 ? rise / 2 : rise;

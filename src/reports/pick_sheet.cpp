@@ -91,9 +91,7 @@ std::array<TextView, picks> picksOf(int race) {
     return found;
 }
 
-bool isPick(TextView programNumber) {
-    return lenientNumber(programNumber) > 0;
-}
+bool isPick(TextView programNumber) { return lenientNumber(programNumber) > 0; }
 
 /// Writes the legs of one wager and tells how many tickets take every pick of every leg.
 double addLegs(ReportWriter& sheet, int firstRace, Integer legs) {

@@ -260,7 +260,7 @@ void LoadLine() {
     attempt(FillLineCells);
     attempt(NumberLine);
     attempt(RateLine);
-    attempt([] { loop.cells[38] = card.pastLine.read(cursor.race, cursor.entry, cursor.line).rating; });
+    loop.cells[38] = closedRating(cursor.lineValue);
     attempt(ShowLine);
     attempt(GetTextboxData2);
     ShowRaceButton();

@@ -17,9 +17,7 @@ constexpr Whole highFirst(TextView bytes) {
     return static_cast<Whole>(value);
 }
 
-constexpr bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
+constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 struct PlainNumber {
     bool isNumber = false;
@@ -54,9 +52,7 @@ PlainNumber plainNumberIn(TextView text) {
 }
 
 // Blanks, 00, and the stars that stand for a number too long for its field.
-constexpr bool isPadding(char c) {
-    return c == ' ' || c == '\0' || c == '*';
-}
+constexpr bool isPadding(char c) { return c == ' ' || c == '\0' || c == '*'; }
 
 TextView withoutPadding(TextView text) {
     while (!text.empty() && isPadding(text.front())) text.remove_prefix(1);

@@ -90,10 +90,11 @@ double postCharge(Course course, int post, int maxPosts) {
     return postCharges[static_cast<std::size_t>(std::min(post, lastRow))][course];
 }
 
-// Pars are seconds of a minute; one below 10 has left its minute out.
+// Pars are seconds of a minute; one below 10 has left its minute out. A blank one is none.
 Text parOf(TextView columns) {
-    const double seconds = lenientNumber(columns);
-    return seconds < 10 ? numberText(seconds + 60) : Text{trimmed(columns)};
+    const TextView par = trimmed(columns);
+    const double seconds = lenientNumber(par);
+    return !par.empty() && seconds < 10 ? numberText(seconds + 60) : Text{par};
 }
 
 Integer postLimitOf(TextView row) {

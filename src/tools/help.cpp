@@ -11,8 +11,6 @@ void About() {
     ports.message(about, "");
 }
 
-void Version() {
-    ports.message("Quillon Professional v3.1", "");
-}
+void Version() { ports.message("Quillon Professional v3.1", ""); }
 
 } // namespace quillon

@@ -32,24 +32,14 @@ void Reset() {
     ports.browse(address);
 }
 
-void USTA() {
-    ports.browse(trottingPage);
-}
+void USTA() { ports.browse(trottingPage); }
 
-void RTN() {
-    ports.browse(videoPage);
-}
+void RTN() { ports.browse(videoPage); }
 
-void Weather() {
-    ports.browse(weatherPage);
-}
+void Weather() { ports.browse(weatherPage); }
 
-void TRC() {
-    ports.browse(resultsPage);
-}
+void TRC() { ports.browse(resultsPage); }
 
-void QLR() {
-    ports.browse(revisionsPage);
-}
+void QLR() { ports.browse(revisionsPage); }
 
 } // namespace quillon

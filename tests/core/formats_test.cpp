@@ -30,7 +30,7 @@ TEST(NumberFormats, HalvesGoAwayFromZeroOnTheExactBinaryValue) {
     EXPECT_EQ("58.8", formatted("##.0", 58.75));
     EXPECT_EQ("78.0", formatted("##.0", 78.05 - 1e-13));
     EXPECT_EQ("78.0", formatted("##.0", 78.05)); // 78.05 is 78.0499999999999971578... in binary
-    EXPECT_EQ("1.0", formatted("##.0", 1.05));   // 1.05 is 1.0500000000000000444: above the half
+    EXPECT_EQ("1.1", formatted("##.0", 1.05));   // 1.05 is 1.0500000000000000444: above the half
     EXPECT_EQ("2.6", formatted("##.0", 2.65));   // 2.65 is 2.64999999999999991118: below it
     EXPECT_EQ("-58.3", formatted("##.0", -58.25));
     EXPECT_EQ("3", formatted("##", 2.5));

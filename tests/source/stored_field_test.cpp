@@ -155,9 +155,7 @@ TEST(StoredField, OrderedNumbersHaveTheHighestByteFirstAndTheSignTurned) {
     EXPECT_EQ("-29.5", read(FieldForm::orderedReal64, "\x3F\xC2\x7F\xFF\xFF\xFF\xFF\xFF"sv));
 }
 
-TEST(StoredField, AFieldThatLiesElsewhereIsEmpty) {
-    EXPECT_EQ("", read(FieldForm::unread, "        12"));
-}
+TEST(StoredField, AFieldThatLiesElsewhereIsEmpty) { EXPECT_EQ("", read(FieldForm::unread, "        12")); }
 
 } // namespace
 } // namespace quillon

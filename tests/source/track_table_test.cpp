@@ -129,7 +129,7 @@ TEST_F(TrackTableTest, AParBelowTenHasLeftItsMinuteOut) {
     EXPECT_EQ("10.0", par("10.0"));
     EXPECT_EQ("69.9", par(" 9.9")); // 9.9 + 60
     EXPECT_EQ("60.4", par("00.4")); // 0.4 + 60
-    EXPECT_EQ("60", par("    "));   // 0 + 60
+    EXPECT_EQ("", par("    "));     // a blank par is none
 }
 
 TEST_F(TrackTableTest, AnOddCourseSizeLosesItsBlanks) {

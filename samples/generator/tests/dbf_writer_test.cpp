@@ -71,9 +71,7 @@ struct CellCase {
     std::string_view cell, expected;
 };
 
-void PrintTo(const CellCase& row, std::ostream* out) {
-    *out << row.shows;
-}
+void PrintTo(const CellCase& row, std::ostream* out) { *out << row.shows; }
 
 class DbfCell : public testing::TestWithParam<CellCase> {};
 

@@ -87,9 +87,7 @@ struct ErrorCase {
     const char* message;
 };
 
-void PrintTo(const ErrorCase& row, std::ostream* out) {
-    *out << row.shows;
-}
+void PrintTo(const ErrorCase& row, std::ostream* out) { *out << row.shows; }
 
 class TableTextError : public testing::TestWithParam<ErrorCase> {};
 
