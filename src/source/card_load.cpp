@@ -42,7 +42,11 @@ struct LineLoop {
 };
 LineLoop loop;
 
-void TakeHorse() { loop.horse = trimmed(horseField("HN")); }
+void TakeHorse() {
+    loop.horse = trimmed(horseField("HN"));
+    loop.program = horseField("PROGRAM");
+    loop.post = horseField("PP");
+}
 
 void IndexHorses() {
     loop.lastRowOfHorse.clear();
