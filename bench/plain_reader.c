@@ -1,12 +1,13 @@
 /* Reads every field of the dBASE tables named on the command line, each into a text of its own without trailing
-   blanks, and prints the milliseconds of the quickest of many runs: the yardstick for the load of a card. */
+   blanks and numeric fields into numbers, and prints the milliseconds of the quickest of many runs: the yardstick
+   for the load of a card. */
 #define _POSIX_C_SOURCE 199309L
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
 #include <time.h>
 
-static unsigned long checksum;
+static double checksum;
 
 static unsigned number(const unsigned char* bytes, int count) {
     unsigned value = 0;
@@ -17,7 +18,7 @@ static unsigned number(const unsigned char* bytes, int count) {
 static void readTable(const char* path) {
     FILE* file = fopen(path, "rb");
     unsigned char head[32], fields[256][32], row[4096];
-    char text[256];
+    char text[256]; /* a field is at most 255 wide */
     unsigned rows, rowLength, fieldCount = 0;
     if (!file || fread(head, 1, 32, file) != 32) {
         fprintf(stderr, "%s is no table\n", path);
@@ -35,8 +36,8 @@ static void readTable(const char* path) {
             memcpy(text, row + start, width);
             start += width;
             while (width > 0 && text[width - 1] == ' ') --width;
-            text[width < 255 ? width : 255] = 0;
-            checksum += strlen(text);
+            text[width] = 0;
+            checksum += fields[field][11] == 'N' ? strtod(text, NULL) : (double)strlen(text);
         }
     }
     fclose(file);
@@ -53,5 +54,5 @@ int main(int count, char** paths) {
         if (taken < best) best = taken;
     }
     printf("%.3f\n", best);
-    return checksum == 0;
+    return checksum == 0.5;
 }

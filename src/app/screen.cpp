@@ -42,7 +42,11 @@ Text Grid::text(int row, int column) const {
 }
 
 void Grid::shade(int row, int from, int to, std::optional<Colour> background) {
-    for (int column = from; column <= to; ++column) (*this)(row, column).background = background;
+    check(row, from);
+    check(row, to);
+    const auto cells = cellsOf(row);
+    for (int column = from; column <= to; ++column)
+        cells[static_cast<std::size_t>(column)].background = background;
 }
 
 void Grid::bind(int rows, int columns, Source source) {

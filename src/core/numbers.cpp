@@ -11,25 +11,56 @@ namespace {
 
 constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
-// Where the number at the start of a text ends. The text begins behind sign and blanks.
-struct NumberSpan {
-    std::size_t length = 0;
-    bool hasDigits = false;
+// What a text begins with, behind its blanks: a number without an exponent.
+struct Leading {
+    double value = 0;
+    std::size_t length = 0; ///< characters up to the number's end, blanks in front included
+    bool isNumber = false;
 };
 
-NumberSpan numberSpan(TextView text) {
-    NumberSpan span;
+constexpr double tens[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                           1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
+// A number of more digits than fit an integer exactly, or with an exponent; infinite when it is beyond a
+// double.
+double converted(TextView digits) {
+    double value = 0;
+    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    return result.ec == std::errc::result_out_of_range ? std::numeric_limits<double>::infinity() : value;
+}
+
+// Nearly all numbers have few digits: those are read exactly in integers, with one division at the end.
+Leading leadingNumber(TextView text) {
+    const char* const begin = text.data();
+    const char* const end = begin + text.size();
+    const char* at = begin;
+    while (at != end && *at == blank) ++at;
+    const bool negative = at != end && *at == '-';
+    if (at != end && (*at == '-' || *at == '+')) ++at;
+
+    const char* const digitsBegin = at;
+    std::int64_t units = 0;
+    int digits = 0;
+    int decimals = 0;
     bool pointSeen = false;
-    for (const char c : text) {
-        if (c == '.' && !pointSeen)
+    constexpr int exactDigits = 15;
+    for (; at != end; ++at) {
+        if (isDigit(*at)) {
+            if (digits < exactDigits) units = units * 10 + (*at - '0');
+            ++digits;
+            decimals += pointSeen ? 1 : 0;
+        } else if (*at == '.' && !pointSeen) {
             pointSeen = true;
-        else if (isDigit(c))
-            span.hasDigits = true;
-        else
+        } else {
             break;
-        ++span.length;
+        }
     }
-    return span;
+
+    if (digits == 0) return {};
+    const double value = digits <= exactDigits
+                             ? static_cast<double>(units) / tens[decimals]
+                             : converted({digitsBegin, static_cast<std::size_t>(at - digitsBegin)});
+    return {negative ? -value : value, static_cast<std::size_t>(at - begin), true};
 }
 
 // The exponent behind a number's digits: its length, 0 where there is none.
@@ -42,40 +73,13 @@ std::size_t exponentLength(TextView text) {
     return at == firstDigit ? 0 : at;
 }
 
-// Converts digits that numberSpan() has vouched for.
-double converted(TextView digits) {
-    if (digits.size() <= 15) { // short texts, nearly all there are: exact in integers, one division
-        constexpr double tens[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                   1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-        std::int64_t whole = 0;
-        std::size_t decimals = 0;
-        bool plain = true;
-        bool pointSeen = false;
-        for (const char c : digits) {
-            if (isDigit(c)) {
-                whole = whole * 10 + (c - '0');
-                if (pointSeen) ++decimals;
-            } else if (c == '.') {
-                pointSeen = true;
-            } else {
-                plain = false;
-                break;
-            }
-        }
-        if (plain) return static_cast<double>(whole) / tens[decimals];
-    }
-    double value = 0;
-    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-    if (result.ec == std::errc::result_out_of_range) return std::numeric_limits<double>::infinity();
-    return value;
-}
-
-// Takes a sign off the front of the text; -1 for a minus.
-int takeSign(TextView& text) {
-    if (text.empty() || (text[0] != '-' && text[0] != '+')) return 1;
-    const int sign = text[0] == '-' ? -1 : 1;
-    text.remove_prefix(1);
-    return sign;
+// A number with an exponent, its sign and blanks in front of it.
+double withExponent(TextView text) {
+    text = trimmedLeft(text);
+    const bool negative = text[0] == '-';
+    if (negative || text[0] == '+') text.remove_prefix(1);
+    const double value = converted(text);
+    return negative ? -value : value;
 }
 
 // Whole thousandths as text, the way numberText() writes them.
@@ -95,23 +99,21 @@ Text thousandthsText(std::int64_t thousandths) {
 } // namespace
 
 double lenientNumber(TextView text) {
-    text = trimmedLeft(text);
-    const int sign = takeSign(text);
-    const NumberSpan span = numberSpan(text);
-    if (!span.hasDigits) return 0;
-    const double value = converted(text.substr(0, span.length));
-    return std::isfinite(value) ? sign * value : 0;
+    const double value = leadingNumber(text).value;
+    return std::isfinite(value) ? value : 0;
 }
 
 std::optional<double> numberIn(TextView text) {
-    text = trimmed(text);
-    const int sign = takeSign(text);
-    const NumberSpan span = numberSpan(text);
-    if (!span.hasDigits) return std::nullopt;
-    if (span.length + exponentLength(text.substr(span.length)) != text.size()) return std::nullopt;
-    const double value = converted(text);
-    if (!std::isfinite(value)) return std::nullopt;
-    return sign * value;
+    const Leading leading = leadingNumber(text);
+    if (!leading.isNumber) return std::nullopt;
+    double value = leading.value;
+    TextView rest = text.substr(leading.length);
+    if (const std::size_t exponent = exponentLength(rest); exponent > 0) {
+        value = withExponent(text.substr(0, leading.length + exponent));
+        rest.remove_prefix(exponent);
+    }
+    if (!trimmedLeft(rest).empty() || !std::isfinite(value)) return std::nullopt;
+    return value;
 }
 
 double strictNumber(TextView text) {

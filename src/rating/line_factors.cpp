@@ -298,17 +298,28 @@ bool isRounded(TextView figure) {
     return *point == '.' && isDigit(figure.back()) && std::all_of(figure.begin(), point, isDigit);
 }
 
+// Right-aligned anew, whatever blanks stand in front.
+void realign(Text& figure, std::size_t width) {
+    const std::size_t blanksNow = figure.find_first_not_of(blank);
+    const std::size_t characters = figure.size() - blanksNow;
+    const std::size_t blanksWanted = width > characters ? width - characters : 0;
+    if (blanksWanted > blanksNow)
+        figure.insert(0, blanksWanted - blanksNow, blank);
+    else
+        figure.erase(0, blanksNow - blanksWanted);
+}
+
 void putLineValueIn(Form form) {
     if (form == Form::asItStands) return;
-    constexpr int wideWidth = 7;
-    constexpr int narrowWidth = 5;
-    const TextView figure = trimmed(cursor.lineValue);
-    if (isRounded(figure))
-        cursor.lineValue = rightAligned(figure, form == Form::wide ? wideWidth : narrowWidth);
+    constexpr std::size_t wideWidth = 7;
+    constexpr std::size_t narrowWidth = 5;
+    Text& figure = cursor.lineValue;
+    if (isRounded(trimmedLeft(figure)))
+        realign(figure, form == Form::wide ? wideWidth : narrowWidth);
     else if (form == Form::wide)
-        cursor.lineValue = formatted("#####.0", "@@@@@@@", cursor.lineValue);
+        figure = formatted("#####.0", "@@@@@@@", figure);
     else
-        cursor.lineValue = formatted("###.0", "@@@@@", cursor.lineValue);
+        figure = formatted("###.0", "@@@@@", figure);
 }
 
 enum class Log { nothing, firstFigure, figure };

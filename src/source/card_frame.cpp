@@ -50,11 +50,12 @@ void SetRaceOffset() {
     sourceTables.lineRows.MoveFirst();
     sourceTables.horseRows.MoveFirst();
     ReadSourceLine();
+    ReadSourceHorse();
     const bool noLines = sourceTables.lineRows.Eof();
     const bool noHorses = sourceTables.horseRows.Eof();
     if (noLines && noHorses) return;
     const double firstLine = numberOf(sourceLine.TODAYSRACE);
-    const double firstHorse = numberOf(horseField("RACE"));
+    const double firstHorse = numberOf(sourceHorse.RACE);
     const double first = noLines ? firstHorse : noHorses ? firstLine : std::min(firstLine, firstHorse);
     card.raceOffset = toInteger(std::max(first, 1.0) - 1);
 }
@@ -153,13 +154,13 @@ Text entryUdr(const Driver& driver) { return formatted("#.#00", "@@@@@", driver.
 
 void ReadEntry() {
     const Step step{"ReadEntry"};
-    RaceEntry& entry = card.entry(raceIndex(horseField("RACE")), entryIndex(horseField("PP")));
-    const double driver = numberOf(horseField("DN"));
-    const double trainer = numberOf(horseField("TN"));
-    entry.horseName = horseField("HORSE_NAME");
-    entry.programNumber = aligned("@@@", horseField("PROGRAM"));
-    entry.morningOdds = aligned("@@@@", horseField("MORN_ODDS"));
-    entry.postPosition = aligned("@@@", horseField("PP"));
+    RaceEntry& entry = card.entry(raceIndex(sourceHorse.RACE), entryIndex(sourceHorse.PP));
+    const double driver = numberOf(sourceHorse.DN);
+    const double trainer = numberOf(sourceHorse.TN);
+    entry.horseName = sourceHorse.HORSE_NAME;
+    entry.programNumber = aligned("@@@", sourceHorse.PROGRAM);
+    entry.morningOdds = aligned("@@@@", sourceHorse.MORN_ODDS);
+    entry.postPosition = aligned("@@@", sourceHorse.PP);
     attempt([&] { entry.driverNumber = toInteger(driver); });
     attempt([&] { entry.trainerName = card.trainerTable(toInteger(trainer)); });
     attempt([&] { entry.driverName = card.driverTable(toInteger(driver)).name; });
@@ -169,7 +170,6 @@ void ReadEntry() {
 } // namespace
 
 Text raceField(TextView name) { return Text{trimmedRight(sourceTables.raceRows.field(name))}; }
-Text horseField(TextView name) { return Text{trimmedRight(sourceTables.horseRows.field(name))}; }
 
 Integer entryIndex(TextView post) {
     const double number = numberOf(post);
@@ -247,11 +247,13 @@ void ReadEntries() {
     const Step step{"ReadEntries"};
     TableCursor& rows = sourceTables.horseRows;
     for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
-        if (numberOf(horseField("RACE")) - card.raceOffset <= 0)
+        ReadSourceHorse();
+        if (numberOf(sourceHorse.RACE) - card.raceOffset <= 0)
             break; // a race in front of the card ends the entries
         attempt(ReadEntry);
     }
     rows.MoveFirst();
+    ReadSourceHorse();
 }
 
 } // namespace quillon

@@ -9,9 +9,6 @@ namespace quillon {
 /// A field of the current race row, without trailing blanks.
 Text raceField(TextView name);
 
-/// A field of the current horse row, without trailing blanks.
-Text horseField(TextView name);
-
 /// A horse's entry index: its post position, 0 for post 99. Fails beyond 16 bits.
 Integer entryIndex(TextView post);
 

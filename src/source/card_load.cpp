@@ -15,6 +15,9 @@
 #include "source/track_table.h"
 
 #include <algorithm>
+#include <array>
+#include <optional>
+#include <span>
 #include <unordered_map>
 
 namespace quillon {
@@ -31,30 +34,30 @@ constexpr const char* noFinalTime =
     "2:59.0"; // stands in for a horse without a time: slow enough to lose to any
 constexpr const char* noLeaderTime = "29";
 
+// The row that a line's cells are written to.
+struct LineRow {
+    std::span<Cell> row;
+    Text& operator[](std::size_t column) const { return row[column].text; }
+};
+
 // What the line loop keeps from line to line beside the cursor.
 struct LineLoop {
     std::unordered_map<Text, int> lastRowOfHorse; ///< the last row of the horse table with this HN
-    Text horse;                                   ///< HN, program number and post of the current horse row
-    Text program;
-    Text post;
+    std::optional<int> cardDay;                   ///< the card's date, by the current race row
     int daysFromCard = 0; ///< the line's date less the card's; an unreadable date leaves it as it was
-    std::array<Text, dataViewColumns> cells; ///< the line's row of the data view
+    LineRow cells;        ///< the line's row of the data view
 };
 LineLoop loop;
-
-void TakeHorse() {
-    loop.horse = trimmed(horseField("HN"));
-    loop.program = horseField("PROGRAM");
-    loop.post = horseField("PP");
-}
 
 void IndexHorses() {
     loop.lastRowOfHorse.clear();
     TableCursor& rows = sourceTables.horseRows;
-    for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext())
-        loop.lastRowOfHorse[Text{trimmed(horseField("HN"))}] = rows.row();
+    for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
+        ReadSourceHorse();
+        loop.lastRowOfHorse[Text{trimmed(sourceHorse.HN)}] = rows.row();
+    }
     rows.MoveFirst();
-    TakeHorse();
+    ReadSourceHorse();
 }
 
 Grid* dataViewOf(int race) {
@@ -68,12 +71,17 @@ void WriteHorseInView(int gap) {
     const Step step{"WriteHorseInView"};
     Grid* view = dataViewOf(cursor.race);
     if (view == nullptr) return;
-    const RaceEntry& entry = card.entry(raceIndex(horseField("RACE")), entryIndex(horseField("PP")));
+    const RaceEntry& entry = card.entry(raceIndex(sourceHorse.RACE), entryIndex(sourceHorse.PP));
     attempt([&] { (*view)(cursor.row, 0).text = entry.horseName; });
     attempt([&] {
         (*view)(cursor.row + 1, 0).text = entry.driverName + blanks(gap) + "(" + entry.driverUdr + ")";
     });
     attempt([&] { (*view)(cursor.row + 2, 0).text = entry.morningOdds; });
+}
+
+void TakeCardDay() {
+    loop.cardDay.reset();
+    attempt([] { loop.cardDay = dayNumber(raceField("BULLETDATE")); });
 }
 
 // The race table moves on one race: its conditions, label and button come up, also when none of its entries
@@ -83,6 +91,7 @@ void BeginRace() {
     sourceTables.raceRows.MoveNext();
     if (raceField("CARD_ID") >= "A") attempt([] { countUp(card.labelledRaces); });
     attempt(ReadConditions);
+    TakeCardDay();
 }
 
 // The race of the running line begins; races without lines in front of it are passed over.
@@ -104,15 +113,15 @@ void MoveToHorse() {
     const bool comesLater = found != loop.lastRowOfHorse.end() && found->second > rows.row();
     do {
         rows.MoveNext();
-        TakeHorse();
-    } while (comesLater && loop.horse != wanted);
+        ReadSourceHorse();
+    } while (comesLater && trimmed(sourceHorse.HN) != wanted);
 }
 
 // The line's date against the card's, and the counts of recent lines. Entry 0 counts under entry 1 here, and
 // stays 1 until the rating takes the post position again.
 void CountWindows() {
     const Step step{"CountWindows"};
-    attempt([] { loop.daysFromCard = dayNumber(sourceLine.DATE) - dayNumber(raceField("BULLETDATE")); });
+    if (loop.cardDay) attempt([] { loop.daysFromCard = dayNumber(sourceLine.DATE) - *loop.cardDay; });
     if (cursor.entry == 0) cursor.entry = 1;
     RaceEntry& entry = card.entry(cursor.race, cursor.entry);
     if (loop.daysFromCard >= -lastWindowDays) attempt([&] { countUp(entry.linesInLastWindow); });
@@ -198,9 +207,9 @@ void FillLineCells() {
     auto& cells = loop.cells;
     cells[1] = line.DATE;
     cells[2] = line.TODAYSRACE;
-    cells[3] = loop.program;
-    cells[4] = loop.post;
-    cells[5] = loop.horse;
+    cells[3] = sourceHorse.PROGRAM;
+    cells[4] = sourceHorse.PP;
+    cells[5] = sourceHorse.HN;
     cells[7] = line.TRACK == "M" ? "M1" : line.TRACK;
     cells[8] = line.DIST_MILES;
     cells[9] = line.COND;
@@ -217,8 +226,9 @@ void FillLineCells() {
     else
         FillNoCalls();
     cells[32] = line.HRSE_TM_4Q.size() == 2 ? line.HRSE_TM_4Q + ".0" : line.HRSE_TM_4Q;
-    cells[33] = hasFinalTime() ? line.HRSE_TM_FN : noCell;
-    cursor.horseFinal = lastFour(hasFinalTime() ? TextView{line.HRSE_TM_FN} : noFinalTime);
+    const bool hasTime = hasFinalTime();
+    cells[33] = hasTime ? line.HRSE_TM_FN : noCell;
+    cursor.horseFinal = lastFour(hasTime ? TextView{line.HRSE_TM_FN} : noFinalTime);
     cells[34] = line.FAV;
     attempt([&] { card.entry(cursor.race, cursor.entry).favMark = line.FAV; });
     attempt([&] { cells[35] = shownOdds(); });
@@ -232,14 +242,6 @@ void NumberLine() {
     loop.cells[39] = std::to_string(cursor.lineNumberInRace);
 }
 
-void ShowLine() {
-    const Step step{"ShowLine"};
-    Grid* view = dataViewOf(cursor.race);
-    if (view == nullptr) return;
-    const auto row = view->cellsOf(cursor.row);
-    for (std::size_t column = 1; column < loop.cells.size(); ++column) row[column].text = loop.cells[column];
-}
-
 void ShowRaceButton() {
     if (cursor.race < 1 || cursor.race > ratedRaces) return;
     Button& button = screen.raceButtons[static_cast<std::size_t>(cursor.race)];
@@ -248,24 +250,33 @@ void ShowRaceButton() {
     button.enabled = true;
 }
 
+// A line of a race without a view, or behind its last row, is filled in and stored all the same.
+void TakeRow() {
+    static std::array<Cell, dataViewColumns> outside;
+    Grid* view = dataViewOf(cursor.race);
+    const bool shown = view != nullptr && attempt([&] { loop.cells.row = view->cellsOf(cursor.row); });
+    if (shown) return;
+    outside.fill({});
+    loop.cells.row = outside;
+}
+
 void LoadLine() {
     const Step step{"LoadLine"};
-    loop.cells.fill({});
     attempt([] { cursor.race = currentRaceIndex(); });
-    if (loop.horse != trimmed(sourceLine.HN)) {
+    if (trimmed(sourceHorse.HN) != trimmed(sourceLine.HN)) {
         attempt(ChangeHorseName);
         cursor.line = 1;
         attempt([] { cursor.race = raceIndex(sourceLine.TODAYSRACE); });
-        attempt([] { cursor.entry = entryIndex(loop.post); });
+        attempt([] { cursor.entry = entryIndex(sourceHorse.PP); });
         cursor.shadedRows = 0;
     }
+    TakeRow();
     attempt(CountWindows);
     attempt(ShadeRow);
     attempt(FillLineCells);
     attempt(NumberLine);
     attempt(RateLine);
     loop.cells[38] = closedRating(cursor.lineValue);
-    attempt(ShowLine);
     attempt(GetTextboxData2);
     ShowRaceButton();
 }
@@ -274,6 +285,7 @@ void LoadLines() {
     const Step step{"LoadLines"};
     loop = {};
     IndexHorses();
+    TakeCardDay();
     cursor = {};
     cursor.row = 1;
     TableCursor& rows = sourceTables.lineRows;
@@ -314,16 +326,17 @@ void OpenTables() {
 
 void GetTextboxData2() {
     const Step step{"GetTextboxData2"};
-    for (int column = firstShadedColumn; column <= lastShadedColumn; ++column)
-        card.lineCells(card.totalLines, column) = loop.cells[static_cast<std::size_t>(column)];
+    const auto kept = card.lineCells.row(card.totalLines);
+    for (std::size_t column = firstShadedColumn; column <= lastShadedColumn; ++column)
+        kept[column] = loop.cells[column];
 }
 
 void ChangeHorseName() {
     const Step step{"ChangeHorseName"};
     const Integer outgoingRace = cursor.race;
-    const Text outgoingDriver = horseField("DN");
+    const Text outgoingDriver = sourceHorse.DN;
     cursor.wasFavourite.clear();
-    if (lenientNumber(horseField("RACE")) != lenientNumber(sourceLine.TODAYSRACE)) {
+    if (lenientNumber(sourceHorse.RACE) != lenientNumber(sourceLine.TODAYSRACE)) {
         cursor.lineNumberInRace = 0;
         if (!(lenientNumber(raceField("RACE")) > 0)) return;
         attempt(ChangeRace);

@@ -7,15 +7,23 @@ namespace quillon {
 
 SourceTables sourceTables;
 SourceLine sourceLine;
+SourceHorse sourceHorse;
 
 namespace {
 
-struct LineField {
+template <class Record>
+struct SourceField {
     const char* name;
-    Text SourceLine::*text;
+    Text Record::*text;
 };
 
-constexpr LineField lineFields[] = {
+constexpr SourceField<SourceHorse> horseFields[] = {
+    {"RACE", &SourceHorse::RACE},       {"HN", &SourceHorse::HN}, {"HORSE_NAME", &SourceHorse::HORSE_NAME},
+    {"PROGRAM", &SourceHorse::PROGRAM}, {"PP", &SourceHorse::PP}, {"MORN_ODDS", &SourceHorse::MORN_ODDS},
+    {"DN", &SourceHorse::DN},           {"TN", &SourceHorse::TN},
+};
+
+constexpr SourceField<SourceLine> lineFields[] = {
     {"TODAYSRACE", &SourceLine::TODAYSRACE},
     {"HN", &SourceLine::HN},
     {"DATE", &SourceLine::DATE},
@@ -52,32 +60,38 @@ constexpr LineField lineFields[] = {
     {"DN", &SourceLine::DN},
 };
 
-// The numbers of these fields in the table at hand: names are looked up once a table, not once a line.
-struct LineFieldNumbers {
-    std::uint64_t table = 0;
-    std::array<int, std::size(lineFields)> numbers{};
-};
+// Reads rows of a table into records. Names are looked up once a table, not once a row.
+template <class Record, std::size_t count>
+class RowReader {
+public:
+    explicit RowReader(const SourceField<Record> (&fields)[count]) : fields_(fields) {}
 
-const LineFieldNumbers& numbersIn(const TableCursor& table) {
-    static LineFieldNumbers known;
-    if (known.table != table.serial() || table.serial() == 0) {
-        known.table = table.serial();
-        for (std::size_t i = 0; i < std::size(lineFields); ++i)
-            known.numbers[i] = table.fieldNumber(lineFields[i].name);
+    void read(const TableCursor& rows, Record& record) {
+        if (table_ != rows.serial() || rows.serial() == 0) findFields(rows);
+        for (std::size_t i = 0; i < count; ++i) rows.trimmedFieldTo(record.*fields_[i].text, numbers_[i]);
     }
-    return known;
-}
+
+private:
+    void findFields(const TableCursor& rows) {
+        table_ = rows.serial();
+        for (std::size_t i = 0; i < count; ++i) numbers_[i] = rows.fieldNumber(fields_[i].name);
+    }
+
+    const SourceField<Record> (&fields_)[count];
+    std::uint64_t table_ = 0;
+    std::array<int, count> numbers_{};
+};
 
 } // namespace
 
 void ReadSourceLine() {
-    const TableCursor& rows = sourceTables.lineRows;
-    const auto& numbers = numbersIn(rows).numbers;
-    for (std::size_t i = 0; i < std::size(lineFields); ++i) {
-        Text& text = sourceLine.*lineFields[i].text;
-        rows.fieldTo(text, numbers[i]);
-        text.resize(trimmedRight(text).size());
-    }
+    static RowReader reader{lineFields};
+    reader.read(sourceTables.lineRows, sourceLine);
+}
+
+void ReadSourceHorse() {
+    static RowReader reader{horseFields};
+    reader.read(sourceTables.horseRows, sourceHorse);
 }
 
 } // namespace quillon

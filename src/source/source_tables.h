@@ -52,10 +52,26 @@ struct SourceLine {
     Text DN{};
 };
 
+/// The row of the horse table that the horse cursor is on, without trailing blanks, read once a horse.
+struct SourceHorse {
+    Text RACE{};
+    Text HN{};
+    Text HORSE_NAME{};
+    Text PROGRAM{};
+    Text PP{}; ///< post position; 99 for none
+    Text MORN_ODDS{};
+    Text DN{};
+    Text TN{};
+};
+
 extern SourceTables sourceTables;
 extern SourceLine sourceLine;
+extern SourceHorse sourceHorse;
 
 /// Takes the current row of the running-line table into `sourceLine`.
 void ReadSourceLine();
+
+/// Takes the current row of the horse table into `sourceHorse`.
+void ReadSourceHorse();
 
 } // namespace quillon

@@ -118,17 +118,11 @@ std::int32_t orderedInteger(TextView stored) {
     return static_cast<std::int32_t>(highFirst<std::uint32_t>(stored) ^ signBit);
 }
 
-// 00 behind a text is padding of a row that was never filled in.
-TextView withoutZeros(TextView text) {
-    while (!text.empty() && text.back() == '\0') text.remove_suffix(1);
-    return text;
-}
-
 } // namespace
 
 void readStored(FieldForm form, TextView stored, Text& text) {
     if (form == FieldForm::characters) {
-        text.assign(withoutZeros(stored));
+        text.assign(charactersIn(stored));
         return;
     }
     if (form == FieldForm::digits) {
@@ -137,7 +131,7 @@ void readStored(FieldForm form, TextView stored, Text& text) {
     }
     text.clear();
     switch (form) {
-    case FieldForm::date: text = trimmed(withoutZeros(stored)); break;
+    case FieldForm::date: text = trimmed(charactersIn(stored)); break;
     case FieldForm::logical: readLogical(stored[0], text); break;
     case FieldForm::integer32: text = std::to_string(lowFirst<std::int32_t>(stored)); break;
     case FieldForm::currency: readCurrency(lowFirst<std::int64_t>(stored), text); break;

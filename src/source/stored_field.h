@@ -23,6 +23,11 @@ enum class FieldForm {
     unread,           ///< always the empty text: what lies in another file, or outside the row
 };
 
+/// The characters that a field holds: 00 behind them is padding of a row that was never filled in.
+constexpr TextView charactersIn(TextView stored) {
+    return stored.substr(0, stored.find_last_not_of('\0') + 1);
+}
+
 /// A field's bytes as text, put in `text`. Of the forms with a width, that many bytes must be there.
 void readStored(FieldForm form, TextView stored, Text& text);
 

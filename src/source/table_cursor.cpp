@@ -81,7 +81,15 @@ int TableCursor::fieldNumber(TextView name) const {
 
 Text TableCursor::field(int number) const { return field(row_, number); }
 
-void TableCursor::fieldTo(Text& text, int number) const { readCell(text, row_, number); }
+void TableCursor::trimmedFieldTo(Text& text, int number) const {
+    const auto [form, bytes] = stored(row_, number);
+    if (form == FieldForm::characters) {
+        text.assign(trimmedRight(charactersIn(bytes)));
+        return;
+    }
+    readStored(form, bytes, text);
+    while (text.ends_with(blank)) text.pop_back();
+}
 
 int TableCursor::rowCount() const { return static_cast<int>(rows_.size()); }
 
@@ -94,18 +102,16 @@ TextView TableCursor::fieldName(int number) const {
 
 Text TableCursor::field(int row, int number) const {
     Text text;
-    readCell(text, row, number);
+    const auto [form, bytes] = stored(row, number);
+    readStored(form, bytes, text);
     return text;
 }
 
-void TableCursor::readCell(Text& text, int row, int number) const {
-    if (row < 1 || row > rowCount() || number < 1 || number > fieldCount()) {
-        text.clear();
-        return;
-    }
+TableCursor::StoredField TableCursor::stored(int row, int number) const {
+    if (row < 1 || row > rowCount() || number < 1 || number > fieldCount()) return {};
     const TableField& field = format_.fields[static_cast<std::size_t>(number) - 1];
     const std::size_t start = rows_[static_cast<std::size_t>(row) - 1] + field.start;
-    readStored(field.form, TextView{content_.data() + start, field.width}, text);
+    return {field.form, {content_.data() + start, field.width}};
 }
 
 int TableCursor::row() const { return row_; }

@@ -39,8 +39,8 @@ public:
     Text field(int number) const;
     Text field(TextView name) const { return field(fieldNumber(name)); }
 
-    /// The same, put in a text whose room is used again.
-    void fieldTo(Text& text, int number) const;
+    /// A field of the current row without trailing blanks, put in a text whose room is used again.
+    void trimmedFieldTo(Text& text, int number) const;
 
     /// The whole table, for the view bound to it: rows and fields count from 1. Empty outside.
     int rowCount() const;
@@ -64,7 +64,12 @@ private:
 
     void findRows();
     void tell(TextView damage) const;
-    void readCell(Text& text, int row, int number) const;
+
+    struct StoredField {
+        FieldForm form = FieldForm::unread;
+        TextView bytes{};
+    };
+    StoredField stored(int row, int number) const; ///< an unread one outside the table
 
     Text fileName_;
     Text content_; ///< the whole file

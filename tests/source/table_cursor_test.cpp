@@ -82,12 +82,12 @@ TEST_F(TableCursorTest, FieldNamesIgnoreCaseAndTheFirstOfTwoWins) {
     EXPECT_EQ(0, rows.fieldNumber("RACE2"));
 }
 
-TEST_F(TableCursorTest, AFieldIsPutInATextThatIsThere) {
+TEST_F(TableCursorTest, AFieldIsPutInATextThatIsThereWithoutItsTrailingBlanks) {
     const TableCursor rows = opened(entries());
     Text text = "something longer than a name";
-    rows.fieldTo(text, 2);
-    EXPECT_EQ("Ada       ", text);
-    rows.fieldTo(text, 0);
+    rows.trimmedFieldTo(text, 2);
+    EXPECT_EQ("Ada", text);
+    rows.trimmedFieldTo(text, 0);
     EXPECT_EQ("", text);
 }
 
