@@ -37,7 +37,7 @@ void changeDriver(RaceEntry& entry, Grid& view, int row) {
     attempt([&] { moveRating(entry, lenientNumber(view.text(row, raceColumn::udr)), lenientNumber(udr)); });
     entry.driverName = leftOf(choice, nameCharacters);
     entry.chosenDriver = entry.driverName;
-    entry.driverUdr = formatted("#.#00", "@@@@@", udr);
+    attempt([&] { entry.driverUdr = formatted("#.#00", "@@@@@", udr); });
     view(row, raceColumn::driver).text = entry.driverName;
     view(row, raceColumn::udr).text = udr;
     view(row, raceColumn::rating).text = entry.rating;

@@ -47,14 +47,19 @@ void rankAgain(int race, const Ranking& ranking, Posts posts) {
     attempt(SelectionSheet);
 }
 
-// The rating of the line in this row of the data view becomes its entry's.
+// The rating of the line in this row of the data view becomes its entry's. The past-performance view may
+// still hold another race's lines, so that the row may be empty here; entry 0 would be the head of the race
+// view.
 void takeLine(double row, const Ranking& ranking, Posts posts) {
     const int race = raceOnShow();
     if (race == 0) return;
     const Grid& lines = dataViewOf(race);
+    const Integer line = toInteger(row);
+    const Integer entry = toInteger(lenientNumber(lines.text(line, dataColumn::post)));
+    if (entry < 1) return;
     cursor.race = static_cast<Integer>(race);
-    cursor.row = toInteger(row);
-    cursor.entry = toInteger(lenientNumber(lines.text(cursor.row, dataColumn::post)));
+    cursor.row = line;
+    cursor.entry = entry;
     card.entry(race, cursor.entry).rating = lines.text(cursor.row, dataColumn::rating);
     attempt(CommandThree);
     rankAgain(race, ranking, posts);

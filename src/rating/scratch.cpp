@@ -102,8 +102,9 @@ void clearRow(Grid& view, int row) {
 // The entry that the row of the race view names by its post.
 void rateTakenOut(int race, int row) {
     Grid& view = raceViewOf(race);
-    const int index = toInteger(lenientNumber(view.text(row, raceColumn::post)));
-    attempt([&] { card.entry(race, index).rating = takenOut; });
+    attempt([&] {
+        card.entry(race, toInteger(lenientNumber(view.text(row, raceColumn::post)))).rating = takenOut;
+    });
     view(row, raceColumn::rating).text = takenOut;
 }
 

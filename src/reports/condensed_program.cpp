@@ -120,7 +120,8 @@ void addRace(ReportWriter& program, int race) {
     program.line("{}", Text(ruleWidth, '-'));
 }
 
-// The rule behind a race ends its page. Track, first race, headings, entries and selections stand out.
+// The rule behind a race ends its page. Track and first race stand out; headings, entries and selections do
+// so behind a dash.
 void printProgramLine(int number, TextView line) {
     constexpr int trackLine = 4;
     constexpr int firstRaceLine = 8;
@@ -128,11 +129,10 @@ void printProgramLine(int number, TextView line) {
         ports.printPage();
     } else if (number == trackLine || number == firstRaceLine) {
         ports.printLine(Text{line}, PrintStyle::emphasised);
-    } else if (line.starts_with("Date")) {
+    } else if (line.starts_with("Date") || line.starts_with("Sel") || contains(line, "Driver")) {
         ports.printLine(" - " + Text{line}, PrintStyle::emphasised);
     } else {
-        const bool standsOut = line.starts_with("Sel") || contains(line, "Driver");
-        ports.printLine(Text{line}, standsOut ? PrintStyle::emphasised : PrintStyle::plain);
+        ports.printLine(Text{line}, PrintStyle::plain);
     }
 }
 

@@ -110,6 +110,17 @@ TEST_F(DriverChangeTest, TheUdrHasTheEntrysFormInTheStoreOnly) {
     EXPECT_EQ("  .2", cell(2, 31));
 }
 
+TEST_F(DriverChangeTest, AUdrBeyondAllBoundsLeavesTheRestOfTheChangeStanding) {
+    enter({"60.0", "61.0"});
+    put("DriverList.txt", "Wild, W              1e99"); // begins with a 1: a driver of 0.300 or more
+    DriverColumn(2);
+    DriverChoice("Wild, W              1e99");
+    EXPECT_EQ(" .200", card.entry(race, 2).driverUdr); // can't be told in its form, and stays
+    EXPECT_EQ("1e99", cell(2, 31));
+    EXPECT_EQ("Wild, W        ", cell(2, 30));
+    EXPECT_EQ("60.0", cell(2, 32)); // 61.0 - 1.0
+}
+
 TEST_F(DriverChangeTest, ExitAndLinesWithoutADriverChangeNothing) {
     enter({"60.0", "61.0"});
     for (const char* line : {"EXIT", "                       ", ""}) {

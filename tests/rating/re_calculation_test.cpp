@@ -160,6 +160,18 @@ TEST_F(LineChoiceTest, OnlyTheFirstFifteenLinesHaveNumbers) {
     EXPECT_EQ("message: Line Number is incorrect.  Enter a Line Number between 5 and 19", shown[1]);
 }
 
+TEST_F(LineChoiceTest, ANumberThatIsNoLineOfTheRaceOnShowTakesNothing) {
+    // The past performances are those of another race, which had more lines: row 9 of this one is empty.
+    enter({"60.0", "61.0"});
+    screen.raceView[race](0, 32).text = "PR";
+    card.entry(race, 0).rating = "70.0";
+    screen.dataView[25](1, 39).text = "9";
+    Command3(1);
+    EXPECT_EQ("PR", cell(0, 32)); // the head of the view
+    EXPECT_EQ("70.0", ratingOf(0));
+    EXPECT_EQ("", screen.boxes[0].text);
+}
+
 TEST_F(LineChoiceTest, ButtonZeroClosesThePastPerformances) {
     screen.currentEntry = 2;
     Command3(0);

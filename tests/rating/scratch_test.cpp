@@ -180,6 +180,14 @@ TEST_F(ScratchTest, TheEntryOfTheRowIsTheOneItsPostNames) {
     EXPECT_EQ("99.9", ratingOf(3));
 }
 
+TEST_F(ScratchTest, ARowThatNamesNoEntryShowsTheRemovalAllTheSame) {
+    enter({"60.0", "61.0", "62.0"});
+    screen.raceView[race](2, 3).text = "99999"; // beyond a whole number of the system
+    remove(2);
+    EXPECT_EQ("99.9", cell(2, 32));
+    EXPECT_EQ("61.0", ratingOf(2));
+}
+
 struct EmptiedRow {
     Text PastLine::*cell;
     bool emptied;
