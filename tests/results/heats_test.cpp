@@ -203,6 +203,13 @@ TEST_F(HeatTest, TheLogOfAHeatIsShownByItsNumber) {
     EXPECT_EQ("NOTEPAD C:\\A Quillon PRO\\RACE(14).txt\r\n", contentOf("Archives.bat"));
 }
 
+TEST_F(HeatTest, TheLogIsShownThoughTheBatchFileCanNotBeWritten) {
+    std::filesystem::create_directories("Archives.bat/in the way");
+    answers = {"14"};
+    ViewHeat();
+    EXPECT_EQ("view: C:\\A Quillon PRO\\RACE(14).txt", shown.back());
+}
+
 TEST_F(HeatTest, ACancelShowsNoLog) {
     ViewHeat();
     EXPECT_EQ(1U, shown.size());

@@ -382,6 +382,12 @@ TEST_F(CloseTest, TheStoreStays) {
     EXPECT_EQ(9, card.raceCount);
 }
 
+TEST_F(CloseTest, RecordGoesWithTheCard) {
+    screen.record.enabled = true;
+    CloseRC();
+    EXPECT_FALSE(screen.record.enabled);
+}
+
 TEST_F(CloseTest, WithoutACardItClearsAndWritesNothing) {
     card.cardFileName = "";
     CloseRC();
