@@ -116,7 +116,10 @@ Text postText(int race, int entry) {
 void HeatWinner() {
     MenuState& item = screen.item(MenuItem::HeatWinner);
     item.checked = !item.checked;
-    for (int row = 1; row <= ratedEntries; ++row) screen.heatButtons.at(row).visible = item.checked;
+    for (int row = 1; row <= ratedEntries; ++row) {
+        Button& choice = screen.heatButtons.at(row);
+        choice.visible = choice.enabled = item.checked;
+    }
 }
 
 void HeatChoice(int row) {

@@ -8,6 +8,7 @@
 #include "core/files.h"
 #include "core/race_card.h"
 #include "results/board.h"
+#include "results/race_display.h"
 #include "store/card_file.h"
 
 #include <optional>
@@ -132,9 +133,7 @@ void CloseRC() {
     screen.boxTenVisible = false;
     screen.boxes.fill({});
 
-    screen.pastPerformanceOpen = false;
-    screen.pastPerformanceHeading.clear();
-    screen.currentEntry = 0;
+    ClosePastPerformances();
 }
 
 } // namespace quillon
