@@ -25,10 +25,10 @@ constexpr int superfectaCell = 9;
 
 /// The first "Results" line with a track that the track table knows is followed by the day, year first.
 bool columnsAreOfThisCard(TextView content) {
-    Text trackKey;
+    const Text trackKey = resultsTrackKey();
     LineReader lines{content};
     while (const auto line = lines.next()) {
-        if (!trackKey.empty() || !line->starts_with("Results")) continue;
+        if (!line->starts_with("Results")) continue;
         const auto day = lines.next();
         if (!day) break;
         const int year = placeOf("2", *day);
@@ -36,8 +36,8 @@ bool columnsAreOfThisCard(TextView content) {
         attempt([&] { date.year = midOf(*day, year, 4); });
         attempt([&] { date.month = midOf(*day, year + 5, 2); });
         attempt([&] { date.day = midOf(*day, year + 8, 2); });
-        trackKey = resultsTrackKey();
         if (!isOfThisCard(trackKey, date)) return false;
+        if (!trackKey.empty()) break;
     }
     return true;
 }

@@ -8,6 +8,7 @@
 #include "core/race_card.h"
 #include "rating/race_ranking.h"
 #include "rating/race_views.h"
+#include "reports/viewers.h"
 #include "results/board.h"
 
 #include <algorithm>
@@ -86,12 +87,6 @@ void logHeatEntry(int race, int post) {
     appendToFile(heatLog(std::to_string(race)), line);
 }
 
-/// Text files are shown through a batch file that names the viewer and the file.
-void viewText(const FilePlace& file) {
-    writeFile({Folder::working, "Archives.bat"}, "NOTEPAD " + shownPath(file) + Text{crLf});
-    ports.view(file);
-}
-
 bool hasSelections(int race) {
     for (int cell = 1; cell <= selectionBoxes; ++cell)
         if (!card.raceOutcome(race, cell).empty()) return true;
@@ -121,7 +116,10 @@ Text postText(int race, int entry) {
 void HeatWinner() {
     MenuState& item = screen.item(MenuItem::HeatWinner);
     item.checked = !item.checked;
-    for (int row = 1; row <= ratedEntries; ++row) screen.heatButtons.at(row).visible = item.checked;
+    for (int row = 1; row <= ratedEntries; ++row) {
+        Button& choice = screen.heatButtons.at(row);
+        choice.visible = choice.enabled = item.checked;
+    }
 }
 
 void HeatChoice(int row) {
@@ -161,7 +159,7 @@ void HeatChoice(int row) {
 void ViewHeat() {
     const Step step{"ViewHeat"};
     const auto number = ports.input("Enter Heat Race Number", "Heat Races");
-    if (number) viewText(heatLog(numberText(lenientNumber(*number))));
+    if (number) showInViewer(heatLog(numberText(lenientNumber(*number))));
 }
 
 bool isHeat(int race) {

@@ -75,12 +75,6 @@ int heldToButtons(double race) {
     return static_cast<int>(std::clamp(race, 1.0, static_cast<double>(lastButtonRace)));
 }
 
-/// The number that a text ends with, blanks behind it aside; 0 without one.
-double numberAtEnd(TextView text) {
-    text = trimmedRight(text);
-    return lenientNumber(text.substr(text.find_last_not_of("0123456789") + 1));
-}
-
 /// The colour that tells how old the line in this row is: the rows of an entry run from its latest line back.
 std::optional<Colour> shadeOfLine(const RaceEntry& entry, int row) {
     if (row <= entry.linesInLastWindow) return recentYellow;
@@ -133,6 +127,11 @@ void showBoard(int race) {
     screen.tote[0] = "RACE:  " + std::to_string(race);
     // The boxes change one by one, but a dead heat is looked at only when all of them are the new race's.
     TEXT_56();
+}
+
+double numberAtEnd(TextView text) {
+    text = trimmedRight(text);
+    return lenientNumber(text.substr(text.find_last_not_of("0123456789") + 1));
 }
 
 void showRace(int race) { show(race, allViews); }

@@ -17,6 +17,9 @@ void showRaceHeader(int race);
 /// ranking.
 void showBoard(int race);
 
+/// The number that a heading ends with, blanks behind it aside; 0 without one.
+double numberAtEnd(TextView text);
+
 /// Race `race` whole: label, heading, race view, buttons and board; the past lines of an entry close. Nothing
 /// is stored. Races 1 to 30; for others nothing happens.
 void showRace(int race);

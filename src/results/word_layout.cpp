@@ -25,8 +25,8 @@ constexpr int thirdsEnd = 7;
 
 /// The pass at work.
 struct WordPass {
-    bool withPools = false; ///< the pass that a user runs: doubles and picks, long Win payoffs
-    Text trackKey{};
+    bool withPools = false;         ///< the pass that a user runs: doubles and picks, long Win payoffs
+    std::optional<Text> trackKey{}; ///< looked up at the first "Results" line
     ResultsDate date{};
 };
 
@@ -241,10 +241,10 @@ void readPick(TextView line) {
 
 /// False when the text proves to be of another day or track.
 bool readLine(WordPass& pass, TextView line) {
-    if (pass.trackKey.empty() && line.starts_with("Results")) pass.trackKey = resultsTrackKey();
+    if (!pass.trackKey && line.starts_with("Results")) pass.trackKey = resultsTrackKey();
     if (pass.date.empty()) {
         readDate(pass.date, line);
-        if (!isOfThisCard(pass.trackKey, pass.date)) return false;
+        if (!isOfThisCard(pass.trackKey.value_or(""), pass.date)) return false;
     }
     if (contains(line, "Race:")) attempt([&] { cursor.race = toInteger(lenientNumber(midOf(line, 7, 3))); });
     for (const FinishLine& row : finishLines)

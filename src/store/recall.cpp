@@ -18,7 +18,8 @@
 namespace quillon {
 namespace {
 
-constexpr int heatPayCell = 20;   // a payoff there marks a dead heat
+constexpr int heatPayCell = 20; // a payoff there marks a dead heat
+constexpr int lastPayoffCell = 21;
 constexpr int fifthHorseCell = 9; // of a race's outcome
 constexpr int postColumn = 3;     // of a race view
 constexpr int programNumberColumn = 2;
@@ -40,9 +41,9 @@ TextView dateInName(TextView cardFileName) {
     return bar == 0 ? TextView{} : midOf(cardFileName, bar + 1, dateLength);
 }
 
-bool isSaved(int race, int entry) {
-    return race >= 1 && race <= ratedRaces && entry >= 1 && entry <= ratedEntries;
-}
+bool isSaved(int race) { return race >= 1 && race <= ratedRaces; }
+
+bool isSaved(int race, int entry) { return isSaved(race) && entry >= 1 && entry <= ratedEntries; }
 
 void ClearWindowCounts() {
     for (int race = 0; race < raceExtent; ++race)
@@ -51,6 +52,26 @@ void ClearWindowCounts() {
             entry.linesInLastWindow = 0;
             entry.linesInFiftyDays = 0;
         }
+}
+
+// The fields of a saved race that no file carries. Label and distance are in the joined text alone, and stay
+// as they are where that doesn't tell them.
+void forgetUnsaved(int race) {
+    RaceInfo& info = card.raceInfo[{race}];
+    info.ratingNote = 0;
+    info.label.clear();
+    info.distance.clear();
+    card.raceOutcome[{race, fifthHorseCell}].clear();
+    card.selection[{race, rankedPlaces}] = {};
+    for (int place = 1; place < rankedPlaces; ++place) card.selection[{race, place}].selectionPost.clear();
+}
+
+// A race that no file has room for.
+void forgetRace(int race) {
+    card.raceInfo[{race}] = {};
+    for (int cell = 1; cell <= fifthHorseCell; ++cell) card.raceOutcome[{race, cell}].clear();
+    for (int cell = 1; cell <= lastPayoffCell; ++cell) card.payoffRecord[{race, cell}].clear();
+    for (int place = 1; place <= rankedPlaces; ++place) card.selection[{race, place}] = {};
 }
 
 // The entry's fields that no file carries.
@@ -67,11 +88,10 @@ void forgetUnsaved(RaceEntry& entry) {
 void ForgetWhatNoFileCarries() {
     const Step step{"ForgetWhatNoFileCarries"};
     for (int race = 0; race < raceExtent; ++race) {
-        card.raceInfo[{race}].ratingNote = 0;
-        card.raceOutcome[{race, fifthHorseCell}].clear();
-        card.selection[{race, rankedPlaces}] = {};
-        for (int place = 1; place < rankedPlaces; ++place)
-            card.selection[{race, place}].selectionPost.clear();
+        if (isSaved(race))
+            forgetUnsaved(race);
+        else
+            forgetRace(race);
         for (int at = 0; at < entryExtent; ++at)
             if (isSaved(race, at))
                 forgetUnsaved(card.entry[{race, at}]);
@@ -207,12 +227,15 @@ void FillRaceViews() {
 
 void ShowRaceOne() {
     cursor.race = 1;
+    const bool laterRaceWasHeaded = numberAtEnd(screen.tote[0]) > 1;
     for (Button& button : screen.raceButtons) button.current = false;
     screen.raceButtons[1].current = true;
     screen.raceButtons[1].enabled = true;
     screen.header.track.visible = true;
     showRaceHeader(1);
     showBoard(1);
+    // The heading that a recall writes over that of a later race has always been in small letters.
+    if (laterRaceWasHeaded) screen.tote[0] = "Race:  " + screen.header.race;
 }
 
 } // namespace
@@ -236,6 +259,7 @@ void ChooseFile(const Text& fileName) {
     screen.fileList.visible = false;
     screen.item(MenuItem::ViewSummary).enabled = true;
     screen.start.enabled = true;
+    screen.record.enabled = false; // until the card's own summary
     card.raceCount = 0;
     ClearWindowCounts();
     attempt(ReadCardFile);

@@ -8,6 +8,7 @@
 #include "core/files.h"
 #include "core/race_card.h"
 #include "results/board.h"
+#include "results/race_display.h"
 #include "store/card_file.h"
 
 #include <optional>
@@ -118,6 +119,7 @@ void CloseRC() {
     for (int race = 1; race <= ratedRaces; ++race)
         screen.dataView[static_cast<std::size_t>(race)](0, 0).text.clear(); // "RACE " and the label
     for (Grid& view : screen.raceView) view.clear();
+    screen.record.enabled = false;
     screen.summary.clearAll();
     screen.profile.clearAll();
 
@@ -131,9 +133,7 @@ void CloseRC() {
     screen.boxTenVisible = false;
     screen.boxes.fill({});
 
-    screen.pastPerformanceOpen = false;
-    screen.pastPerformanceHeading.clear();
-    screen.currentEntry = 0;
+    ClosePastPerformances();
 }
 
 } // namespace quillon

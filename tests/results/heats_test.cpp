@@ -50,9 +50,10 @@ protected:
 using Selections = std::array<Text, 4>;
 
 TEST_F(HeatTest, TheMarkShowsAndHidesTheTwelveChoiceButtons) {
-    for (Button& button : screen.heatButtons) button.visible = false;
+    for (Button& button : screen.heatButtons) button = {.visible = false, .enabled = false};
     HeatWinner();
     EXPECT_TRUE(screen.item(MenuItem::HeatWinner).checked);
+    for (int row = 1; row <= 12; ++row) EXPECT_TRUE(screen.heatButtons.at(row).enabled) << row;
     for (int row = 1; row <= 12; ++row) EXPECT_TRUE(screen.heatButtons.at(row).visible) << row;
     EXPECT_FALSE(screen.heatButtons[0].visible);
     HeatWinner();
@@ -201,6 +202,13 @@ TEST_F(HeatTest, TheLogOfAHeatIsShownByItsNumber) {
                                         "view: C:\\A Quillon PRO\\RACE(14).txt"}),
               shown);
     EXPECT_EQ("NOTEPAD C:\\A Quillon PRO\\RACE(14).txt\r\n", contentOf("Archives.bat"));
+}
+
+TEST_F(HeatTest, TheLogIsShownThoughTheBatchFileCanNotBeWritten) {
+    std::filesystem::create_directories("Archives.bat/in the way");
+    answers = {"14"};
+    ViewHeat();
+    EXPECT_EQ("view: C:\\A Quillon PRO\\RACE(14).txt", shown.back());
 }
 
 TEST_F(HeatTest, ACancelShowsNoLog) {

@@ -104,6 +104,13 @@ TEST_F(RecallTest, AChoiceHidesTheListAndTurnsTheStartButton) {
     EXPECT_EQ("M1_20260314.pmd", card.cardFileName);
 }
 
+TEST_F(RecallTest, RecordWaitsForTheChosenCardsOwnSummary) {
+    saveAndStartAnew();
+    screen.record.enabled = true; // the summary of a card before it
+    recall();
+    EXPECT_FALSE(screen.record.enabled);
+}
+
 // ---- the race views ----
 
 TEST_F(RecallTest, AnEntryComesBackIntoItsRow) {
@@ -248,6 +255,21 @@ TEST_F(RecallTest, RaceOnesBoardIsShown) {
     EXPECT_EQ("9.40", screen.tote[9]);
     EXPECT_EQ("11.40", screen.tote[11]);
     EXPECT_EQ(" 5", screen.refunds);
+}
+
+TEST_F(RecallTest, AHeadingOfALaterRaceIsRewrittenInSmallLetters) {
+    const struct {
+        const char* before;
+        const char* after;
+    } cases[] = {
+        {"RACE:  5", "Race:  1"}, {"RACE:  12", "Race:  1"}, {"RACE:  1", "RACE:  1"}, {"", "RACE:  1"}};
+    named(1, 1);
+    saveAndStartAnew();
+    for (const auto& row : cases) {
+        screen.tote[0] = row.before;
+        recall();
+        EXPECT_EQ(row.after, screen.tote[0]) << row.before;
+    }
 }
 
 TEST_F(RecallTest, EntryButtonsShowRaceOnesProgramNumbers) {
@@ -570,6 +592,33 @@ TEST_F(RecallTest, NothingOfTheCardBeforeItPassesForTheRecalledCards) {
     EXPECT_EQ(0, card.stretchLength);
     EXPECT_EQ(0, card.maxPosts);
     EXPECT_EQ(0, card.totalLines);
+}
+
+TEST_F(RecallTest, ARaceThatTheRecalledCardHasNotKeepsNothingOfTheCardBeforeIt) {
+    named(1, 1);
+    card.raceInfo(1) = {.trackCode = "M1", .raceLabelDistance = "11"};
+    saveAndStartAnew();
+    const std::string saved = contentOf(cardPath);
+
+    card.raceInfo(12).label = "12"; // its label and distance are in the joined text alone, which is empty
+    card.raceInfo(12).distance = "1";
+    for (const int race : {0, 24}) { // and no file has these races
+        card.raceInfo(race).label = "24";
+        card.raceOutcome(race, 1) = "5";
+        card.payoffRecord(race, 9) = "812.40";
+        card.selection(race, 1).selectionName = "Of The Card Before";
+    }
+    recall();
+    EXPECT_EQ("", card.raceInfo(12).label);
+    EXPECT_EQ("", card.raceInfo(12).distance);
+    for (const int race : {0, 24}) {
+        EXPECT_EQ("", card.raceInfo(race).label) << race;
+        EXPECT_EQ("", card.raceOutcome(race, 1)) << race;
+        EXPECT_EQ("", card.payoffRecord(race, 9)) << race;
+        EXPECT_EQ("", card.selection(race, 1).selectionName) << race;
+    }
+    Save();
+    EXPECT_EQ(saved, contentOf(cardPath));
 }
 
 TEST_F(RecallTest, DeadHeatCountersAreNotBegunAnew) {

@@ -382,6 +382,24 @@ TEST_F(CloseTest, TheStoreStays) {
     EXPECT_EQ(9, card.raceCount);
 }
 
+TEST_F(CloseTest, TheFrameOfPastLinesCloses) {
+    screen.pastPerformanceOpen = true;
+    screen.dataViewVisible[pastPerformanceView] = true;
+    screen.currentEntry = 4;
+    screen.pastPerformanceHeading = "4  Some Horse";
+    CloseRC();
+    EXPECT_FALSE(screen.pastPerformanceOpen);
+    EXPECT_FALSE(screen.dataViewVisible[pastPerformanceView]);
+    EXPECT_EQ(0, screen.currentEntry);
+    EXPECT_EQ("", screen.pastPerformanceHeading);
+}
+
+TEST_F(CloseTest, RecordGoesWithTheCard) {
+    screen.record.enabled = true;
+    CloseRC();
+    EXPECT_FALSE(screen.record.enabled);
+}
+
 TEST_F(CloseTest, WithoutACardItClearsAndWritesNothing) {
     card.cardFileName = "";
     CloseRC();
