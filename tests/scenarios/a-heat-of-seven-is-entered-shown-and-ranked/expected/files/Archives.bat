@@ -1,0 +1,1 @@
+NOTEPAD C:\A Quillon PRO\RACE(14).txt
