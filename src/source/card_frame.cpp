@@ -38,8 +38,8 @@ void NumberRaceRows() {
         const bool firstRow = raceIndexOfRow.empty();
         index += firstRow || number <= before ? 1 : number - before;
         before = number;
-        constexpr double outOfBounds = 32000;
-        raceIndexOfRow.push_back(static_cast<int>(std::min(index, outOfBounds)));
+        constexpr double beyond16Bits = 100000; // fails wherever it is used
+        raceIndexOfRow.push_back(static_cast<int>(std::min(index, beyond16Bits)));
     }
     rows.MoveFirst();
 }
@@ -59,6 +59,12 @@ void SetRaceOffset() {
     card.raceOffset = toInteger(std::max(first, 1.0) - 1);
 }
 
+// A race that can have a label and a track code. Fails for those behind, which have the rest of a RaceInfo.
+RaceInfo& labelledRace(int race) {
+    if (race >= labelExtent) fail("race " + std::to_string(race) + " is beyond those with a label");
+    return card.raceInfo(race);
+}
+
 // "1A" for the lettered races that lead the card, the bare number from the first race without a letter on.
 void LabelRaces() {
     const Step step{"LabelRaces"};
@@ -68,16 +74,11 @@ void LabelRaces() {
         const Text letter = raceField("CARD_ID");
         leading = leading && !letter.empty();
         if (leading) attempt([] { countUp(card.labelledRaces); });
-        attempt(
-            [&] { card.raceInfo(currentRaceIndex()).label = raceField("RACE") + (leading ? letter : ""); });
+        attempt([&] {
+            labelledRace(currentRaceIndex()).label = raceField("RACE") + (leading ? letter : Text{});
+        });
     }
     rows.MoveFirst();
-}
-
-// The track code of the race row as the track table has it.
-Text trackKeyOfRow() {
-    const Text track{trimmed(raceField("TRACK"))};
-    return track == "M" ? "M1" : track;
 }
 
 void NameCard() {
@@ -96,15 +97,13 @@ void SetTracks() {
     const Step step{"SetTracks"};
     TableCursor& rows = sourceTables.raceRows;
     for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
-        RaceInfo* race = nullptr;
-        attempt([&] { race = &card.raceInfo(currentRaceIndex()); });
-        if (race == nullptr) continue;
-        race->trackCode = trackKeyOfRow();
-        const TrackRecord* track = trackTable().first(race->trackCode);
+        const Text key = trackKeyOf(raceField("TRACK"));
+        attempt([&] { labelledRace(currentRaceIndex()).trackCode = key; });
+        const TrackRecord* track = trackTable().first(key);
         if (track == nullptr) continue;
         card.trackSize = track->courseSize;
         card.stretchLength = track->stretchLength;
-        race->trackInfo = track->trackLine;
+        attempt([&] { card.raceInfo(currentRaceIndex()).trackInfo = track->trackLine; });
     }
     rows.MoveFirst();
     screen.header.trackInfo = card.raceInfo(1).trackInfo;
@@ -121,7 +120,8 @@ void SetRaceCount() {
 Text normalisedUdr(Text udr) {
     if (udr.size() == 3) udr += "00";
     if (udr.size() == 4) udr += "0";
-    udr = formatted(".###", "@@@@", udr);
+    attempt([&] { udr = formatted(".###", udr); });
+    udr = aligned("@@@@", udr);
     return lenientNumber(udr) > 0 ? udr : ".000";
 }
 
@@ -153,17 +153,7 @@ Text entryUdr(const Driver& driver) { return formatted("#.#00", "@@@@@", driver.
 
 void ReadEntry() {
     const Step step{"ReadEntry"};
-    RaceEntry& entry = card.entry(raceIndex(horseField("RACE")), entryIndex(horseField("PP")));
-    const double driver = numberOf(horseField("DN"));
-    const double trainer = numberOf(horseField("TN"));
-    entry.horseName = horseField("HORSE_NAME");
-    entry.programNumber = aligned("@@@", horseField("PROGRAM"));
-    entry.morningOdds = aligned("@@@@", horseField("MORN_ODDS"));
-    entry.postPosition = aligned("@@@", horseField("PP"));
-    attempt([&] { entry.driverNumber = toInteger(driver); });
-    attempt([&] { entry.trainerName = card.trainerTable(toInteger(trainer)); });
-    attempt([&] { entry.driverName = card.driverTable(toInteger(driver)).name; });
-    attempt([&] { entry.driverUdr = entryUdr(card.driverTable(toInteger(driver))); });
+    takeHorseRow(card.entry(raceIndex(horseField("RACE")), entryIndex(horseField("PP"))));
 }
 
 } // namespace
@@ -176,17 +166,32 @@ Integer entryIndex(TextView post) {
     return number == noPost ? Integer{0} : toInteger(number);
 }
 
+void takeHorseRow(RaceEntry& entry) {
+    const double driver = numberOf(horseField("DN"));
+    const double trainer = numberOf(horseField("TN"));
+    entry.horseName = horseField("HORSE_NAME");
+    entry.programNumber = aligned("@@@", horseField("PROGRAM"));
+    entry.morningOdds = aligned("@@@@", horseField("MORN_ODDS"));
+    entry.postPosition = aligned("@@@", horseField("PP"));
+    attempt([&] { entry.driverNumber = toInteger(driver); });
+    attempt([&] { entry.trainerName = card.trainerTable(toInteger(trainer)); });
+    attempt([&] { entry.driverName = card.driverTable(toInteger(driver)).name; });
+    attempt([&] { entry.driverUdr = entryUdr(card.driverTable(toInteger(driver))); });
+}
+
 Integer raceIndex(TextView race) { return toInteger(numberOf(race) - card.raceOffset); }
 
 Integer currentRaceIndex() {
-    if (sourceTables.raceRows.Eof()) fail("behind the last race of the card");
-    return toInteger(raceIndexOfRow[static_cast<std::size_t>(sourceTables.raceRows.row() - 1)]);
+    const auto row = static_cast<std::size_t>(sourceTables.raceRows.row());
+    if (row > raceIndexOfRow.size()) fail("behind the last race of the card");
+    return toInteger(raceIndexOfRow[row - 1]);
 }
 
 bool laterRaceRow(Integer race) {
-    const auto behind = raceIndexOfRow.begin() +
-                        std::min(sourceTables.raceRows.row(), static_cast<int>(raceIndexOfRow.size()));
-    return std::find(behind, raceIndexOfRow.end(), race) != raceIndexOfRow.end();
+    const auto row = static_cast<std::ptrdiff_t>(sourceTables.raceRows.row());
+    const auto rows = static_cast<std::ptrdiff_t>(raceIndexOfRow.size());
+    const auto behind = raceIndexOfRow.begin() + std::min(row, rows); // they never fall from row to row
+    return std::binary_search(behind, raceIndexOfRow.end(), race);
 }
 
 void FrameCard() {
