@@ -38,8 +38,8 @@ void NumberRaceRows() {
         const bool firstRow = raceIndexOfRow.empty();
         index += firstRow || number <= before ? 1 : number - before;
         before = number;
-        constexpr double outOfBounds = 32000;
-        raceIndexOfRow.push_back(static_cast<int>(std::min(index, outOfBounds)));
+        constexpr double beyond16Bits = 100000; // fails wherever it is used
+        raceIndexOfRow.push_back(static_cast<int>(std::min(index, beyond16Bits)));
     }
     rows.MoveFirst();
 }
@@ -60,6 +60,12 @@ void SetRaceOffset() {
     card.raceOffset = toInteger(std::max(first, 1.0) - 1);
 }
 
+// A race that can have a label and a track code. Fails for those behind, which have the rest of a RaceInfo.
+RaceInfo& labelledRace(int race) {
+    if (race >= labelExtent) fail("race " + std::to_string(race) + " is beyond those with a label");
+    return card.raceInfo(race);
+}
+
 // "1A" for the lettered races that lead the card, the bare number from the first race without a letter on.
 void LabelRaces() {
     const Step step{"LabelRaces"};
@@ -69,16 +75,11 @@ void LabelRaces() {
         const Text letter = raceField("CARD_ID");
         leading = leading && !letter.empty();
         if (leading) attempt([] { countUp(card.labelledRaces); });
-        attempt(
-            [&] { card.raceInfo(currentRaceIndex()).label = raceField("RACE") + (leading ? letter : ""); });
+        attempt([&] {
+            labelledRace(currentRaceIndex()).label = raceField("RACE") + (leading ? letter : Text{});
+        });
     }
     rows.MoveFirst();
-}
-
-// The track code of the race row as the track table has it.
-Text trackKeyOfRow() {
-    const Text track{trimmed(raceField("TRACK"))};
-    return track == "M" ? "M1" : track;
 }
 
 void NameCard() {
@@ -97,15 +98,13 @@ void SetTracks() {
     const Step step{"SetTracks"};
     TableCursor& rows = sourceTables.raceRows;
     for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
-        RaceInfo* race = nullptr;
-        attempt([&] { race = &card.raceInfo(currentRaceIndex()); });
-        if (race == nullptr) continue;
-        race->trackCode = trackKeyOfRow();
-        const TrackRecord* track = trackTable().first(race->trackCode);
+        const Text key = trackKeyOf(raceField("TRACK"));
+        attempt([&] { labelledRace(currentRaceIndex()).trackCode = key; });
+        const TrackRecord* track = trackTable().first(key);
         if (track == nullptr) continue;
         card.trackSize = track->courseSize;
         card.stretchLength = track->stretchLength;
-        race->trackInfo = track->trackLine;
+        attempt([&] { card.raceInfo(currentRaceIndex()).trackInfo = track->trackLine; });
     }
     rows.MoveFirst();
     screen.header.trackInfo = card.raceInfo(1).trackInfo;
@@ -122,7 +121,8 @@ void SetRaceCount() {
 Text normalisedUdr(Text udr) {
     if (udr.size() == 3) udr += "00";
     if (udr.size() == 4) udr += "0";
-    udr = formatted(".###", "@@@@", udr);
+    attempt([&] { udr = formatted(".###", udr); });
+    udr = aligned("@@@@", udr);
     return lenientNumber(udr) > 0 ? udr : ".000";
 }
 
@@ -154,7 +154,19 @@ Text entryUdr(const Driver& driver) { return formatted("#.#00", "@@@@@", driver.
 
 void ReadEntry() {
     const Step step{"ReadEntry"};
-    RaceEntry& entry = card.entry(raceIndex(sourceHorse.RACE), entryIndex(sourceHorse.PP));
+    takeHorseRow(card.entry(raceIndex(sourceHorse.RACE), entryIndex(sourceHorse.PP)));
+}
+
+} // namespace
+
+Text raceField(TextView name) { return Text{trimmedRight(sourceTables.raceRows.field(name))}; }
+
+Integer entryIndex(TextView post) {
+    const double number = numberOf(post);
+    return number == noPost ? Integer{0} : toInteger(number);
+}
+
+void takeHorseRow(RaceEntry& entry) {
     const double driver = numberOf(sourceHorse.DN);
     const double trainer = numberOf(sourceHorse.TN);
     entry.horseName = sourceHorse.HORSE_NAME;
@@ -167,26 +179,19 @@ void ReadEntry() {
     attempt([&] { entry.driverUdr = entryUdr(card.driverTable(toInteger(driver))); });
 }
 
-} // namespace
-
-Text raceField(TextView name) { return Text{trimmedRight(sourceTables.raceRows.field(name))}; }
-
-Integer entryIndex(TextView post) {
-    const double number = numberOf(post);
-    return number == noPost ? Integer{0} : toInteger(number);
-}
-
 Integer raceIndex(TextView race) { return toInteger(numberOf(race) - card.raceOffset); }
 
 Integer currentRaceIndex() {
-    if (sourceTables.raceRows.Eof()) fail("behind the last race of the card");
-    return toInteger(raceIndexOfRow[static_cast<std::size_t>(sourceTables.raceRows.row() - 1)]);
+    const auto row = static_cast<std::size_t>(sourceTables.raceRows.row());
+    if (row > raceIndexOfRow.size()) fail("behind the last race of the card");
+    return toInteger(raceIndexOfRow[row - 1]);
 }
 
 bool laterRaceRow(Integer race) {
-    const auto behind = raceIndexOfRow.begin() +
-                        std::min(sourceTables.raceRows.row(), static_cast<int>(raceIndexOfRow.size()));
-    return std::find(behind, raceIndexOfRow.end(), race) != raceIndexOfRow.end();
+    const auto row = static_cast<std::ptrdiff_t>(sourceTables.raceRows.row());
+    const auto rows = static_cast<std::ptrdiff_t>(raceIndexOfRow.size());
+    const auto behind = raceIndexOfRow.begin() + std::min(row, rows); // they never fall from row to row
+    return std::binary_search(behind, raceIndexOfRow.end(), race);
 }
 
 void FrameCard() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/numbers.h"
+#include "core/race_card.h"
 #include "core/text.h"
 
 namespace quillon {
@@ -11,6 +12,10 @@ Text raceField(TextView name);
 
 /// A horse's entry index: its post position, 0 for post 99. Fails beyond 16 bits.
 Integer entryIndex(TextView post);
+
+/// The current horse row's cells in an entry's forms, with its driver and trainer by name. A cell that fails
+/// stays as it was.
+void takeHorseRow(RaceEntry& entry);
 
 /// The race index of a horse's RACE or a line's TODAYSRACE. Fails beyond 16 bits.
 Integer raceIndex(TextView race);

@@ -65,18 +65,20 @@ Grid* dataViewOf(int race) {
     return &screen.dataView[static_cast<std::size_t>(race)];
 }
 
-// Name, driver and morning line of the horse in column 0, in the first three rows of its lines. Rows of the
-// next entry overwrite those of an entry with fewer than three lines.
+// Name, driver and morning line of the horse row in column 0, in the first three rows of its lines. Rows of
+// the next entry overwrite those of an entry with fewer than three lines. The horse row is asked and not the
+// entry, since horses without a post share theirs.
 void WriteHorseInView(int gap) {
     const Step step{"WriteHorseInView"};
     Grid* view = dataViewOf(cursor.race);
-    if (view == nullptr) return;
-    const RaceEntry& entry = card.entry(raceIndex(sourceHorse.RACE), entryIndex(sourceHorse.PP));
-    attempt([&] { (*view)(cursor.row, 0).text = entry.horseName; });
+    if (view == nullptr || sourceTables.horseRows.Eof()) return;
+    RaceEntry horse;
+    takeHorseRow(horse);
+    attempt([&] { (*view)(cursor.row, 0).text = horse.horseName; });
     attempt([&] {
-        (*view)(cursor.row + 1, 0).text = entry.driverName + blanks(gap) + "(" + entry.driverUdr + ")";
+        (*view)(cursor.row + 1, 0).text = horse.driverName + blanks(gap) + "(" + horse.driverUdr + ")";
     });
-    attempt([&] { (*view)(cursor.row + 2, 0).text = entry.morningOdds; });
+    attempt([&] { (*view)(cursor.row + 2, 0).text = horse.morningOdds; });
 }
 
 void TakeCardDay() {
@@ -94,19 +96,9 @@ void BeginRace() {
     TakeCardDay();
 }
 
-// The race of the running line begins; races without lines in front of it are passed over.
-void ChangeRace() {
-    const Step step{"ChangeRace"};
-    const Integer race = raceIndex(sourceLine.TODAYSRACE);
-    do BeginRace();
-    while (laterRaceRow(race));
-    cursor.race = race;
-    cursor.row = 1;
-}
-
-// Forward to the horse of the line; the entries passed over are first-time starters. A line of no later horse
-// moves one row, as any change of horse does.
-void MoveToHorse() {
+// Forward to the horse of the line; the entries passed over are first-time starters. False where no later
+// horse is the line's: the cursor moves one row then.
+bool moveToHorse() {
     TableCursor& rows = sourceTables.horseRows;
     const Text wanted{trimmed(sourceLine.HN)};
     const auto found = loop.lastRowOfHorse.find(wanted);
@@ -115,6 +107,17 @@ void MoveToHorse() {
         rows.MoveNext();
         ReadSourceHorse();
     } while (comesLater && trimmed(sourceHorse.HN) != wanted);
+    return comesLater;
+}
+
+// The next race begins: that of the horse row where the line has its horse, so that races without lines are
+// passed over.
+void changeRace(bool lineHasItsHorse) {
+    const auto reached = [&] { return !lineHasItsHorse || !laterRaceRow(raceIndex(sourceHorse.RACE)); };
+    do BeginRace();
+    while (!holdsOrFails(reached));
+    attempt([] { cursor.race = raceIndex(sourceLine.TODAYSRACE); });
+    cursor.row = 1;
 }
 
 // The line's date against the card's, and the counts of recent lines. Entry 0 counts under entry 1 here, and
@@ -132,19 +135,23 @@ void CountWindows() {
 // whatever its age, and the second test may turn a row that the first made yellow.
 void ShadeRow() {
     const Step step{"ShadeRow"};
-    const RaceEntry& entry = card.entry(cursor.race, cursor.entry);
     Grid* view = dataViewOf(cursor.race);
     const auto shade = [&](Colour colour) {
         attempt([] { countUp(cursor.shadedRows); });
         if (view == nullptr) return;
         attempt([&] { view->shade(cursor.row, firstShadedColumn, lastShadedColumn, colour); });
     };
-    if (cursor.shadedRows <= entry.linesInLastWindow)
+    const auto isRecent = [] {
+        return cursor.shadedRows <= card.entry(cursor.race, cursor.entry).linesInLastWindow;
+    };
+    const auto isInFiftyDays = [] {
+        return cursor.shadedRows <= card.entry(cursor.race, cursor.entry).linesInFiftyDays;
+    };
+    if (holdsOrFails(isRecent))
         shade(recentYellow);
-    else if (cursor.shadedRows <= entry.linesInFiftyDays)
+    else if (holdsOrFails(isInFiftyDays))
         shade(olderCyan);
-    if (cursor.shadedRows > entry.linesInLastWindow && cursor.shadedRows <= entry.linesInFiftyDays)
-        shade(olderCyan);
+    if (holdsOrFails([&] { return !isRecent() && isInFiftyDays(); })) shade(olderCyan);
 }
 
 Text lastFour(TextView text) { return Text{rightOf(text, 4)}; }
@@ -213,7 +220,7 @@ void FillLineCells() {
     cells[7] = line.TRACK == "M" ? "M1" : line.TRACK;
     cells[8] = line.DIST_MILES;
     cells[9] = line.COND;
-    cells[10] = numberText(lenientNumber(line.PURSE) * 1000);
+    attempt([&] { cells[10] = numberText(lenientNumber(line.PURSE) * 1000); });
     cells[11] = line.CLASS;
     cells[12] = lenientNumber(line.CR) > 0 ? line.CR : "NA";
     cells[13] = line.LEAD_TM_1Q;
@@ -315,6 +322,9 @@ void OpenTables() {
     sourceTables.lineRows.open("RUNLINHR.DBF");
     sourceTables.driverRows.open("DRIVERHR.DBF");
     sourceTables.trainerRows.open("TRAINRHR.DBF");
+}
+
+void ShowLineTable() {
     screen.dataView[lineTableView].bind(
         sourceTables.lineRows.rowCount(), sourceTables.lineRows.fieldCount() + 1,
         [](int row, int column) { return sourceTables.lineRows.field(row, column); });
@@ -335,16 +345,17 @@ void ChangeHorseName() {
     const Step step{"ChangeHorseName"};
     const Integer outgoingRace = cursor.race;
     const Text outgoingDriver = sourceHorse.DN;
+    const bool raceEnds = lenientNumber(sourceHorse.RACE) != lenientNumber(sourceLine.TODAYSRACE);
     cursor.wasFavourite.clear();
-    if (lenientNumber(sourceHorse.RACE) != lenientNumber(sourceLine.TODAYSRACE)) {
-        cursor.lineNumberInRace = 0;
-        if (!(lenientNumber(raceField("RACE")) > 0)) return;
-        attempt(ChangeRace);
-    }
+    if (raceEnds) cursor.lineNumberInRace = 0;
+    if (raceEnds && !(lenientNumber(raceField("RACE")) > 0)) return;
     attempt([&] {
         card.entry(outgoingRace, cursor.entry).driverNumber = toInteger(lenientNumber(outgoingDriver));
     });
-    MoveToHorse();
+    const bool found = moveToHorse();
+    // A line that names a wrong race, of a horse in the race at hand, must not move the card on.
+    const bool raceAtHand = found && lenientNumber(sourceHorse.RACE) == lenientNumber(raceField("RACE"));
+    if (raceEnds && !raceAtHand) changeRace(found);
     constexpr int gapBeforeUdr = 3;
     attempt([] { WriteHorseInView(gapBeforeUdr); });
 }
@@ -355,6 +366,7 @@ void Start() {
     OpenTables();
     if (sourceTables.raceRows.Eof()) return;
 
+    ShowLineTable();
     readTrackTable();
     FrameCard();
     attempt(ReadDrivers);
@@ -362,7 +374,7 @@ void Start() {
     attempt(ReadEntries);
     attempt(ShowFirstHorse);
     LoadLines();
-    attempt(appendDiagnosticLog);
+    if (sourceTables.lineRows.rowCount() > 0) attempt(appendDiagnosticLog);
     SelectLines();
     PrintWidths();
     CloseLoad();
