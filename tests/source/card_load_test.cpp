@@ -805,6 +805,7 @@ TEST_F(CardLoadTest, ALineFillsItsRow) {
     EXPECT_EQ("8.5", card.pastLine.read(1, 13, 1).PURSE);
     EXPECT_EQ("M", card.pastLine.read(1, 13, 1).TRACK); // raw in the store
     EXPECT_EQ("*", card.entry(1, 13).favMark);
+    EXPECT_EQ("Date", cell(1, 0, 1)); // the heads stay
     EXPECT_EQ("", card.lineCells(2, 0));
     EXPECT_EQ("", card.lineCells(2, 40));
 }
