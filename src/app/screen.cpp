@@ -18,6 +18,7 @@ void Grid::check(int row, int column) const {
 
 std::span<Cell> Grid::cellsOf(int row) {
     check(row, 0);
+    if (isMade(row)) fail("row " + std::to_string(row) + " of the view is made from a file");
     ++version_;
     auto& cells = cells_[static_cast<std::size_t>(row)];
     if (cells.empty()) cells.resize(static_cast<std::size_t>(columnCount_));
@@ -32,8 +33,18 @@ Cell& Grid::operator()(int row, int column) {
 const Cell& Grid::read(int row, int column) const {
     static const Cell none;
     check(row, column);
+    if (isMade(row)) return madeCell(row, column);
     const auto& cells = cells_[static_cast<std::size_t>(row)];
     return cells.empty() ? none : cells[static_cast<std::size_t>(column)];
+}
+
+const Cell& Grid::madeCell(int row, int column) const {
+    if (lookedAt_ != row) {
+        madeCells_.assign(static_cast<std::size_t>(columnCount_), {});
+        make_(row, madeCells_);
+        lookedAt_ = row;
+    }
+    return madeCells_[static_cast<std::size_t>(column)];
 }
 
 Text Grid::text(int row, int column) const {
@@ -50,6 +61,7 @@ void Grid::shade(int row, int from, int to, std::optional<Colour> background) {
 }
 
 void Grid::bind(int rows, int columns, Source source) {
+    letGoOfMadeRows();
     rowCount_ = rows + 1;
     columnCount_ = columns;
     cells_.assign(static_cast<std::size_t>(rowCount_), {});
@@ -57,7 +69,24 @@ void Grid::bind(int rows, int columns, Source source) {
     ++version_;
 }
 
+void Grid::makeRows(int first, int count, RowMaker make) {
+    cells_.resize(static_cast<std::size_t>(first));
+    rowCount_ = first + count;
+    make_ = std::move(make);
+    lookedAt_ = 0;
+    ++version_;
+}
+
+void Grid::letGoOfMadeRows() {
+    if (!make_) return;
+    make_ = nullptr;
+    rowCount_ = static_cast<int>(cells_.size());
+    lookedAt_ = 0;
+    madeCells_.clear();
+}
+
 void Grid::clear() {
+    letGoOfMadeRows();
     for (std::size_t row = 1; row < cells_.size(); ++row) cells_[row].clear();
     source_ = nullptr;
     ++version_;

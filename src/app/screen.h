@@ -52,7 +52,8 @@ public:
     /// All cells of a row, to be written. Fails outside the bounds.
     std::span<Cell> cellsOf(int row);
 
-    /// The cell as it stands, an empty one where nothing was written. Fails outside the bounds.
+    /// The cell as it stands, an empty one where nothing was written. Fails outside the bounds. A cell of a
+    /// made row stands until another row is looked at.
     const Cell& read(int row, int column) const;
 
     /// The text of a cell: of a bound view what its table holds, else the cell's own. Fails outside the
@@ -67,7 +68,13 @@ public:
     using Source = std::function<Text(int row, int column)>;
     void bind(int rows, int columns, Source source);
 
-    /// Empties every cell but those of the head row, and lets go of a bound table.
+    /// Rows that are made when they are looked at, for tables too long to be held: `make` fills the cells of
+    /// a row, all empty before, and must not fail. The `count` rows from `first` on take the place of all
+    /// rows there were from there on. They can't be written.
+    using RowMaker = std::function<void(int row, std::span<Cell> cells)>;
+    void makeRows(int first, int count, RowMaker make);
+
+    /// Empties every cell but those of the head row, and lets go of a bound table and of made rows.
     void clear();
     void clearAll(); ///< the head row too
 
@@ -76,9 +83,15 @@ public:
 
 private:
     void check(int row, int column) const;
+    bool isMade(int row) const { return make_ && row >= static_cast<int>(cells_.size()); }
+    const Cell& madeCell(int row, int column) const;
+    void letGoOfMadeRows();
 
     std::vector<std::vector<Cell>> cells_; ///< a row without cells was never written
     Source source_;
+    RowMaker make_;            ///< of the rows behind `cells_`
+    mutable int lookedAt_ = 0; ///< the made row that stands in `madeCells_`; 0 none
+    mutable std::vector<Cell> madeCells_;
     int rowCount_ = 0;
     int columnCount_ = 0;
     std::uint64_t version_ = 0;
@@ -104,6 +117,7 @@ struct Label {
 struct ChoiceList {
     std::vector<Text> lines{};
     bool visible = false;
+    Text caption{}; ///< of the button that the list hangs from, where it has one
 };
 
 struct MenuState {
@@ -225,9 +239,12 @@ struct Screen {
     int driverRow = 0;   ///< row of the race view that the driver list was opened for
     Text driverChoice{}; ///< the line picked in it
     ChoiceList raceList{};
+    Text profileFilter{}; ///< tracks of the betting profile that is asked for
     ChoiceList marginList{};
     ChoiceList oddsList{};
     ChoiceList maxOddsList{};
+    Integer marginChoice = 0; ///< whole points from which S1 stood out; 50 is any margin
+    Text oddsChoice{};        ///< morning line of S1 in the stars profile
 
     Grid summary{};
     Grid profile{};

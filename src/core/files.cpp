@@ -20,69 +20,8 @@
 #endif
 
 namespace quillon {
-namespace {
 
 namespace fs = std::filesystem;
-
-constexpr TextView programFolder = "A Quillon PRO";
-
-struct FolderName {
-    Folder folder;
-    TextView name;
-};
-
-constexpr std::array folderNames{
-    FolderName{Folder::sourceTables, "TrackMaster ExE Files"},
-    FolderName{Folder::raceCards, "Race Cards"},
-    FolderName{Folder::archives, "Archives"},
-    FolderName{Folder::results, "Results"},
-    FolderName{Folder::selections, "Selections"},
-    FolderName{Folder::selections2, "Selections2"},
-    FolderName{Folder::programs, "Programs"},
-    FolderName{Folder::entries, "Entries"},
-    FolderName{Folder::drivers, "Drivers"},
-};
-
-TextView nameOf(Folder folder) {
-    for (const FolderName& row : folderNames)
-        if (row.folder == folder) return row.name;
-    return "";
-}
-
-// Names are Windows-1252 bytes inside; on disk every system here takes Unicode.
-fs::path pathOf(TextView name) {
-    const std::string utf8 = toUtf8(name);
-    return fs::path{std::u8string{utf8.begin(), utf8.end()}};
-}
-
-Text nameOn(const fs::path& path) {
-    const std::u8string name = path.filename().u8string();
-    return fromUtf8({reinterpret_cast<const char*>(name.data()), name.size()});
-}
-
-void checkFileName(TextView name) {
-    const bool control = std::any_of(name.begin(), name.end(), [](char c) { return c >= 0 && c < ' '; });
-    const bool leadsElsewhere = name.find_first_of("/\\:") != TextView::npos || name == "." || name == "..";
-    constexpr std::size_t longestName = 200;
-    if (name.empty() || control || leadsElsewhere || name.size() > longestName)
-        fail("\"" + Text{name.substr(0, 60)} + "\" is no file name");
-}
-
-// The entry of a folder that has this name in any case.
-std::optional<fs::path> foundIgnoringCase(const fs::path& folder, TextView name) {
-    std::error_code error;
-    for (fs::directory_iterator at{folder, error}, end; !error && at != end; at.increment(error)) {
-        if (sameIgnoringCase(nameOn(at->path()), name)) return at->path();
-    }
-    return std::nullopt;
-}
-
-fs::path childIgnoringCase(const fs::path& folder, TextView name) {
-    std::error_code error;
-    const fs::path plain = folder.empty() ? pathOf(name) : folder / pathOf(name);
-    if (fs::exists(plain, error)) return plain;
-    return foundIgnoringCase(folder.empty() ? fs::path{"."} : folder, name).value_or(plain);
-}
 
 // A file handle of the system, so that what was written can be flushed to the disk.
 class DiskFile {
@@ -156,6 +95,68 @@ bool DiskFile::close() {
 
 #endif
 
+namespace {
+
+constexpr TextView programFolder = "A Quillon PRO";
+
+struct FolderName {
+    Folder folder;
+    TextView name;
+};
+
+constexpr std::array folderNames{
+    FolderName{Folder::sourceTables, "TrackMaster ExE Files"},
+    FolderName{Folder::raceCards, "Race Cards"},
+    FolderName{Folder::archives, "Archives"},
+    FolderName{Folder::results, "Results"},
+    FolderName{Folder::selections, "Selections"},
+    FolderName{Folder::selections2, "Selections2"},
+    FolderName{Folder::programs, "Programs"},
+    FolderName{Folder::entries, "Entries"},
+    FolderName{Folder::drivers, "Drivers"},
+};
+
+TextView nameOf(Folder folder) {
+    for (const FolderName& row : folderNames)
+        if (row.folder == folder) return row.name;
+    return "";
+}
+
+// Names are Windows-1252 bytes inside; on disk every system here takes Unicode.
+fs::path pathOf(TextView name) {
+    const std::string utf8 = toUtf8(name);
+    return fs::path{std::u8string{utf8.begin(), utf8.end()}};
+}
+
+Text nameOn(const fs::path& path) {
+    const std::u8string name = path.filename().u8string();
+    return fromUtf8({reinterpret_cast<const char*>(name.data()), name.size()});
+}
+
+void checkFileName(TextView name) {
+    const bool control = std::any_of(name.begin(), name.end(), [](char c) { return c >= 0 && c < ' '; });
+    const bool leadsElsewhere = name.find_first_of("/\\:") != TextView::npos || name == "." || name == "..";
+    constexpr std::size_t longestName = 200;
+    if (name.empty() || control || leadsElsewhere || name.size() > longestName)
+        fail("\"" + Text{name.substr(0, 60)} + "\" is no file name");
+}
+
+// The entry of a folder that has this name in any case.
+std::optional<fs::path> foundIgnoringCase(const fs::path& folder, TextView name) {
+    std::error_code error;
+    for (fs::directory_iterator at{folder, error}, end; !error && at != end; at.increment(error)) {
+        if (sameIgnoringCase(nameOn(at->path()), name)) return at->path();
+    }
+    return std::nullopt;
+}
+
+fs::path childIgnoringCase(const fs::path& folder, TextView name) {
+    std::error_code error;
+    const fs::path plain = folder.empty() ? pathOf(name) : folder / pathOf(name);
+    if (fs::exists(plain, error)) return plain;
+    return foundIgnoringCase(folder.empty() ? fs::path{"."} : folder, name).value_or(plain);
+}
+
 bool endsWithoutLineEnd(const fs::path& path) {
     std::ifstream file{path, std::ios::binary | std::ios::ate};
     if (!file || file.tellg() <= 0) return false;
@@ -227,6 +228,25 @@ Text readFile(const FilePlace& place) {
     fail(shownPath(place) + " can't be read");
 }
 
+FilePieces::FilePieces(const FilePlace& place) {
+    const fs::path path = pathOnDisk(place);
+    std::error_code error;
+    if (fs::is_regular_file(path, error)) file_.open(path, std::ios::binary | std::ios::ate);
+    const auto size = file_.is_open() ? static_cast<std::streamoff>(file_.tellg()) : -1;
+    if (size < 0) fail(shownPath(place) + " can't be read");
+    size_ = static_cast<std::uint64_t>(size);
+}
+
+TextView FilePieces::read(std::uint64_t start, std::size_t count) {
+    const std::uint64_t left = start < size_ ? size_ - start : 0;
+    count = static_cast<std::size_t>(std::min<std::uint64_t>(count, left));
+    if (piece_.size() < count) piece_.resize(count);
+    file_.clear();
+    file_.seekg(static_cast<std::streamoff>(start));
+    file_.read(piece_.data(), static_cast<std::streamsize>(count));
+    return {piece_.data(), static_cast<std::size_t>(file_.gcount())};
+}
+
 void makeFolder(Folder folder) {
     const fs::path path = folderOnDisk(folder);
     if (path.empty()) return;
@@ -235,25 +255,48 @@ void makeFolder(Folder folder) {
     if (!fs::is_directory(path, error)) fail("the folder " + shownPath({folder, ""}) + " can't be made");
 }
 
-PreparedFile::PreparedFile(const FilePlace& place, TextView content)
-    : target_(pathOnDisk(place)), temporary_(target_) {
+PreparedFile::PreparedFile(const FilePlace& place) : target_(pathOnDisk(place)), temporary_(target_) {
     temporary_ += ".quillon-new";
-    DiskFile file{temporary_, DiskFile::Mode::rewrite};
-    const bool written = file.isOpen() && file.write(content) && file.flush() && file.close();
-    if (written) return;
-    file.close();
-    std::error_code error;
-    fs::remove(temporary_, error);
-    fail(shownPath(place) + " can't be written");
+    file_ = std::make_unique<DiskFile>(temporary_, DiskFile::Mode::rewrite);
+    if (!file_->isOpen()) fail(shownPath(place) + " can't be written");
+}
+
+PreparedFile::PreparedFile(const FilePlace& place, TextView content) : PreparedFile(place) {
+    write(content);
+    finish();
 }
 
 PreparedFile::~PreparedFile() {
+    if (file_) file_->close();
     if (temporary_.empty()) return;
     std::error_code error;
     fs::remove(temporary_, error);
 }
 
+void PreparedFile::write(TextView piece) {
+    constexpr std::size_t mostGathered = 1U << 18;
+    if (gathered_.size() + piece.size() > mostGathered) writeGathered();
+    if (piece.size() < mostGathered)
+        gathered_ += piece;
+    else if (!file_->write(piece))
+        fail(nameOn(target_) + " can't be written");
+}
+
+void PreparedFile::writeGathered() {
+    if (!file_->write(gathered_)) fail(nameOn(target_) + " can't be written");
+    gathered_.clear();
+}
+
+void PreparedFile::finish() {
+    if (!file_) return;
+    writeGathered();
+    const bool written = file_->flush() && file_->close();
+    if (!written) fail(nameOn(target_) + " can't be written");
+    file_.reset();
+}
+
 void PreparedFile::putInPlace() {
+    finish();
     std::error_code error;
     fs::rename(temporary_, target_, error);
     if (error) fail(nameOn(target_) + " can't be replaced");

@@ -8,7 +8,10 @@
 
 #include "core/text.h"
 
+#include <cstdint>
 #include <filesystem>
+#include <fstream>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -54,6 +57,23 @@ std::optional<Text> fileContent(const FilePlace& place);
 /// The whole file; fails when it can't be opened or read.
 Text readFile(const FilePlace& place);
 
+/// A file read piece by piece: for one that may be too long to be held in memory.
+class FilePieces {
+public:
+    /// Opens the file. Fails when it can't be.
+    explicit FilePieces(const FilePlace& place);
+
+    std::uint64_t size() const { return size_; } ///< bytes, when it was opened
+
+    /// The bytes from `start` on, as many as there are up to `count`. They stand until the next call.
+    TextView read(std::uint64_t start, std::size_t count);
+
+private:
+    std::ifstream file_;
+    std::uint64_t size_ = 0;
+    Text piece_;
+};
+
 /// Creates the folder where it is missing. Fails when it can't be.
 void makeFolder(Folder folder);
 
@@ -62,24 +82,36 @@ void makeFolder(Folder folder);
 /// created. Fails with the old file untouched.
 void writeFile(const FilePlace& place, TextView content);
 
-/// A file written beside its place and flushed, but not yet put there: for files that must be replaced
-/// together.
+class DiskFile;
+
+/// A file written beside its place, but not yet put there: for files that must be replaced together, and for
+/// those too long to be held in memory. The folder must be there.
 class PreparedFile {
 public:
-    /// Writes the content beside the place. The folder must be there. Fails when it can't be written.
+    /// Writes the whole content and flushes it. Fails when it can't be written.
     PreparedFile(const FilePlace& place, TextView content);
+    /// Begins a file that is written piece by piece. Fails when it can't be made.
+    explicit PreparedFile(const FilePlace& place);
     ~PreparedFile(); ///< takes the temporary file away if it was not put in place
     PreparedFile(const PreparedFile&) = delete;
     PreparedFile& operator=(const PreparedFile&) = delete;
 
-    /// Renames it over the old file. Fails when it can't be.
+    /// Adds a piece; small ones are gathered. Fails when it can't be written.
+    void write(TextView piece);
+
+    /// Flushes what was written and renames the file over the old one. Fails when it can't be.
     void putInPlace();
 
 private:
     friend void putInPlaceTogether(PreparedFile& first, PreparedFile& second);
 
+    void writeGathered();
+    void finish(); ///< everything on the disk and the file closed
+
     std::filesystem::path target_;
     std::filesystem::path temporary_;
+    std::unique_ptr<DiskFile> file_; ///< none once it is finished
+    Text gathered_;
 };
 
 /// Puts both in place, or neither: when the second file can't be replaced, the first gets its old content

@@ -55,6 +55,42 @@ TEST_F(CardTest, PreparedFilesAreGoneUnlessPutInPlace) {
     EXPECT_FALSE(exists("Stars.txt.quillon-new"));
 }
 
+TEST_F(CardTest, AFileGrowsPieceByPieceBesideTheOldOne) {
+    put("HRA.txt", "old");
+    const Text longPiece(1U << 19, 'x'); // longer than what is gathered before it is written
+    {
+        PreparedFile file{{Folder::working, "HRA.txt"}};
+        file.write("first ");
+        file.write(longPiece);
+        file.write(" last");
+        EXPECT_EQ("old", contentOf("HRA.txt"));
+        file.putInPlace();
+    }
+    EXPECT_EQ("first " + longPiece + " last", contentOf("HRA.txt"));
+    {
+        PreparedFile file{{Folder::working, "HRA.txt"}};
+        file.write("given up");
+    }
+    EXPECT_EQ("first " + longPiece + " last", contentOf("HRA.txt"));
+    EXPECT_FALSE(exists("HRA.txt.quillon-new"));
+}
+
+TEST_F(CardTest, AFileIsReadInPieces) {
+    put("HRA.ini", "0123456789");
+    FilePieces file{{Folder::working, "hra.INI"}};
+    EXPECT_EQ(10u, file.size());
+    EXPECT_EQ("789", file.read(7, 100));
+    EXPECT_EQ("0123", file.read(0, 4));
+    EXPECT_EQ("", file.read(10, 4));
+    EXPECT_EQ("", file.read(99, 4));
+    put("HRA.ini", "0123"); // another program cuts it short meanwhile
+    EXPECT_EQ("23", file.read(2, 8));
+    EXPECT_EQ("", file.read(6, 4));
+    EXPECT_FALSE(attempt([] { FilePieces{{Folder::working, "missing.ini"}}; }));
+    std::filesystem::create_directory("folder.ini");
+    EXPECT_FALSE(attempt([] { FilePieces{{Folder::working, "folder.ini"}}; }));
+}
+
 TEST_F(CardTest, FilesPutInPlaceTogetherAreBothNewOrBothOld) {
     put("HRA.ini", "old");
     std::filesystem::create_directories("Stars5.ini/in the way");

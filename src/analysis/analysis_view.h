@@ -1,0 +1,11 @@
+// The views of the analysis take the place of the race panels, one at a time.
+#pragma once
+
+#include "app/screen.h"
+
+namespace quillon {
+
+/// Shows this view and the way back to the main screen.
+void showAnalysisView(bool Screen::*view);
+
+} // namespace quillon

@@ -1,0 +1,78 @@
+#include "analysis/profile_cards.h"
+
+#include "core/failure.h"
+#include "core/formats.h"
+
+#include <algorithm>
+
+namespace quillon {
+namespace {
+
+constexpr std::size_t s1WithAll = firstSuperfecta;     ///< "S1/2-3-4"
+constexpr std::size_t allFour = firstSuperfecta + 1;   ///< "S1-2-3-4"
+constexpr std::size_t s2WithAll = firstSuperfecta + 2; ///< "S2-1/3-4"
+
+void markWins(std::span<Cell> cells, const ArchivedCard& card) {
+    for (std::size_t bet = 0; bet < firstSuperfecta; ++bet)
+        if (wonItsBets(card, bet)) cells[static_cast<std::size_t>(profileBets[bet].column)].bold = true;
+}
+
+// A superfecta's sum stands in its own form, but for the one of all four that won the card's bets: it stays
+// as the archive has it.
+Text superfectaCell(TextView line, const ArchivedCard& card, std::size_t bet) {
+    constexpr double tickets = 4;
+    const TextView sum = cellIn(line, archivePlaces::sums[bet]);
+    if (bet == allFour && card.sums[bet] / tickets >= card.races * raceBet) return Text{sum};
+    return formatted("######.00", sum);
+}
+
+} // namespace
+
+void fillCard(std::span<Cell> cells, TextView line) {
+    constexpr int shownRaces = 3;
+    const ArchivedCard card = archivedCardOf(line);
+    const auto text = [&](int column) -> Text& { return cells[static_cast<std::size_t>(column)].text; };
+    text(profileColumn::card) = cellIn(line, archivePlaces::key);
+    text(profileColumn::races) = cellIn(line, archivePlaces::races);
+    int column = profileColumn::firstWins;
+    for (const Places& wins : archivePlaces::wins) text(column++) = cellIn(line, wins);
+    for (std::size_t bet = 0; bet < firstSuperfecta; ++bet)
+        text(profileBets[bet].column) = formatted("######.00", "@@@@@@@@@", returnOf(card, bet));
+    for (const std::size_t bet : {s1WithAll, allFour, s2WithAll})
+        text(profileBets[bet].column) = superfectaCell(line, card, bet);
+    text(profileColumn::superfectaRaces) = rightOf(line, shownRaces);
+}
+
+void CardRows::add(TextView line) {
+    if (!line.empty())
+        starts_.push_back(end_);
+    else if (starts_.empty())
+        emptyAhead_ = true;
+    end_ += line.size() + crLf.size();
+}
+
+void CardRows::make(int row, std::span<Cell> cells) {
+    const auto card = static_cast<std::size_t>(row - profileRow::firstCard);
+    const std::uint64_t end = card + 1 < starts_.size() ? starts_[card + 1] : end_;
+    attempt([&] {
+        LineReader lines{linesAt(starts_[card], end)};
+        const TextView line = lines.next().value_or("");
+        const bool writtenOver = lines.next().has_value();
+        fillCard(cells, writtenOver ? "" : line);
+        markWins(cells, archivedCardOf(line)); // what won stays marked
+    });
+}
+
+// Reads a good piece behind what is asked for as well, since the rows are mostly looked at one after another.
+TextView CardRows::linesAt(std::uint64_t start, std::uint64_t end) {
+    constexpr std::uint64_t blockSize = 1U << 16;
+    const auto length = static_cast<std::size_t>(end - start);
+    if (start < blockStart_ || end > blockStart_ + block_.size()) {
+        FilePieces copy{workingCopy()};
+        block_ = copy.read(start, std::max(blockSize, end - start));
+        blockStart_ = start;
+    }
+    return TextView{block_}.substr(std::min<std::size_t>(start - blockStart_, block_.size()), length);
+}
+
+} // namespace quillon

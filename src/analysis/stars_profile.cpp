@@ -1,0 +1,287 @@
+#include "analysis/stars_profile.h"
+
+#include "analysis/analysis_view.h"
+#include "analysis/archive_scan.h"
+#include "app/screen.h"
+#include "core/failure.h"
+#include "core/formats.h"
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <utility>
+
+namespace quillon {
+namespace {
+
+constexpr double raceBet = 12;
+constexpr Integer allMargins = 50;
+constexpr TextView allOdds = "ALL Odds";
+constexpr TextView exitRow = "EXIT";
+
+// clang-format off
+struct MarginRow { TextView text; Integer margin; };
+constexpr std::array marginRows{
+    MarginRow{"$",     1},
+    MarginRow{"$$",    2},
+    MarginRow{"$$$",   3},
+    MarginRow{"$$$$",  4},
+    MarginRow{"$$$$$", 5},
+    MarginRow{"ALL Margins", allMargins},
+};
+
+constexpr std::array<TextView, 18> oddsRows{
+    "1/1", "6/5", "7/5", "8/5", "9/5", "2/1", "5/2", "3/1", "7/2", "4/1", "9/2",
+    "5/1", "6/1", "7/1", "8/1", "9/1", "10/1", allOdds,
+};
+
+constexpr std::array<TextView, 8> heads{
+    "Track/Date", "Race", "Margin", "Odds $", "Odds", "Bet", "PayOff", "Win",
+};
+
+// Where the view and the filter read a record. Both read a place beside the record's own here and there: of race
+// 12 they see the 2, of a margin of 10.3 the 0.3.
+namespace starPlaces {
+constexpr Places cardLabel  { 1, 15};
+constexpr Places race       {17,  2};
+constexpr Places margin     {26,  4};
+constexpr Places marginMark {26,  3};
+constexpr Places decimalOdds{35,  5};
+constexpr Places shownOdds  {40,  5};
+constexpr Places odds       {41,  4};
+constexpr Places bet        {51,  6};
+constexpr Places shownPayoff{60,  5};
+constexpr Places payoff     {60,  6};
+} // namespace starPlaces
+// clang-format on
+
+FilePlace starsPlace() { return {Folder::working, "Stars5.ini"}; }
+
+/// A row of the view: what it shows in front of the record, and its win mark.
+struct StarRow {
+    TextView label;
+    TextView record;
+    Text win;
+};
+
+/// The lines that the view shows; its rows are made of them when they are looked at.
+struct StarTable {
+    Text content;
+    std::vector<StarRow> rows{};
+};
+
+void fillRow(std::span<Cell> cells, const StarRow& row) {
+    const auto at = [&](Places places) { return cellIn(row.record, places); };
+    cells[0].text = row.label;
+    cells[1].text = formatted("##", at(starPlaces::race));
+    cells[2].text = formatted("###.#", at(starPlaces::margin));
+    cells[3].text = at(starPlaces::decimalOdds);
+    cells[4].text = trimmed(at(starPlaces::shownOdds));
+    cells[5].text = trimmed(at(starPlaces::bet));
+    cells[6].text = Text{at(starPlaces::shownPayoff)} + "0"; // the last digit is behind the places read
+    cells[7].text = row.win;
+}
+
+void clearTable() {
+    screen.stars.bind(0, static_cast<int>(heads.size()), nullptr);
+    for (std::size_t column = 0; column < heads.size(); ++column)
+        screen.stars(0, static_cast<int>(column)).text = heads[column];
+}
+
+void showTable(const std::shared_ptr<StarTable>& table) {
+    clearTable();
+    screen.stars.makeRows(1, static_cast<int>(table->rows.size()), [table](int row, std::span<Cell> cells) {
+        fillRow(cells, table->rows[static_cast<std::size_t>(row) - 1]);
+    });
+}
+
+/// The win mark of a line is its last character; short ones leave it as it is.
+void takeWin(Text& win, TextView line) {
+    constexpr std::size_t shortLine = 50;
+    if (line.size() > shortLine) win = rightOf(line, 1);
+}
+
+bool isCardHeading(TextView line) { return !line.empty() && leftOf(line, 1) >= "A"; }
+
+/// Goes through the lines of the stars file. False when the user cancels.
+template <class Visit>
+bool eachLine(TextView content, Visit visit) {
+    LongWork work{content.size()};
+    LineReader lines{content};
+    while (const auto line = lines.next()) {
+        if (!work.goesOn(line->size() + crLf.size())) return false;
+        visit(*line);
+    }
+    return true;
+}
+
+double marginOf(TextView record) {
+    constexpr double level = 0.01; // the text 9.9 was once the residue of a level pair
+    if (cellIn(record, starPlaces::marginMark) == "9.9") return level;
+    return lenientNumber(cellIn(record, starPlaces::margin));
+}
+
+bool passes(TextView record) {
+    const double margin = marginOf(record);
+    const Integer least = screen.marginChoice;
+    if (least != allMargins && !(margin >= least && margin < least + 1)) return false;
+    return screen.oddsChoice == allOdds || screen.oddsChoice == trimmed(cellIn(record, starPlaces::odds));
+}
+
+struct StarSums {
+    int races = 0;
+    int wins = 0;
+    double returned = 0;
+};
+
+/// The walk of Profile5 over the lines.
+struct StarFilter {
+    StarTable& table;
+    StarSums sums{};
+    TextView cardLabel{}; ///< waits for a race of the card that passes
+    Text win{};
+
+    void take(TextView line);
+    void addRow(TextView record);
+};
+
+void StarFilter::take(TextView line) {
+    if (isCardHeading(line)) {
+        cardLabel = cellIn(line, starPlaces::cardLabel);
+        return;
+    }
+    takeWin(win, line);
+    if (!passes(line)) return;
+    addRow(line);
+    ++sums.races;
+    const double payoff = lenientNumber(cellIn(line, starPlaces::payoff));
+    if (payoff <= 0) return;
+    ++sums.wins;
+    sums.returned += payoff;
+}
+
+// The label that stands in the row above already stays waiting.
+void StarFilter::addRow(TextView record) {
+    const TextView above = table.rows.empty() ? heads[0] : table.rows.back().label;
+    table.rows.push_back({"", record, win});
+    if (cardLabel != above) table.rows.back().label = std::exchange(cardLabel, {});
+}
+
+/// Wins in per cent of the races, as they are shown: next to never all of them, and few wins twice.
+Text winPercentage(const StarSums& sums) {
+    constexpr int shownCharacters = 4;
+    double percentage = quotient(sums.wins, sums.races) * 100;
+    if (percentage >= 99)
+        percentage = 95;
+    else if (percentage <= 5)
+        percentage *= 2;
+    return Text{leftOf(numberText(percentage), shownCharacters)};
+}
+
+Text dollars(double amount) { return formatted("######.00", "$@@@@@@@@@", amount); }
+
+Text returnOnBets(double net, double bets) {
+    constexpr int shownCharacters = 5;
+    return Text{leftOf(numberText(quotient(net, bets) * 100), shownCharacters)};
+}
+
+Text averagePayoff(const StarSums& sums) {
+    constexpr int shownCharacters = 6;
+    return Text{leftOf(numberText(quotient(sums.returned, sums.wins)), shownCharacters)};
+}
+
+/// Where there is nothing to divide by, a field keeps its text.
+void fillFields(const StarSums& sums) {
+    auto& field = screen.starsFields;
+    const double bets = sums.races * raceBet;
+    const double net = lenientNumber(formatted("######.00", sums.returned - bets)); // as it is shown
+    field[1] = numberText(sums.races);
+    field[2] = numberText(sums.wins);
+    attempt([&] { field[3] = formatted("###.0", "@@@@@%", winPercentage(sums)); });
+    attempt([&] { field[4] = dollars(bets); });
+    attempt([&] { field[5] = dollars(sums.returned); });
+    attempt([&] { field[6] = dollars(net); });
+    attempt([&] { field[7] = formatted("###.0", "@@@@@%", returnOnBets(net, bets)); });
+    attempt([&] { field[8] = formatted("###.00", "$@@@@@", averagePayoff(sums)); });
+}
+
+// --- The lists --------------------------------------------------------------------------------------------
+
+constexpr TextView marginCaption = "Margin";
+constexpr TextView oddsCaption = "Odds";
+constexpr TextView maxOddsCaption = "Max Odds";
+
+void addOddsRows(ChoiceList& list) {
+    list.lines.assign(oddsRows.begin(), oddsRows.end());
+    list.lines.emplace_back(exitRow);
+}
+
+void openLists() {
+    screen.marginList = {.visible = true, .caption = Text{marginCaption}};
+    for (const MarginRow& row : marginRows) screen.marginList.lines.emplace_back(row.text);
+    screen.marginList.lines.emplace_back(exitRow);
+    screen.oddsList = {.caption = Text{oddsCaption}};
+    screen.maxOddsList = {.caption = Text{maxOddsCaption}};
+    addOddsRows(screen.oddsList);
+    addOddsRows(screen.maxOddsList);
+    screen.marginChoice = 0;
+    screen.oddsChoice.clear();
+}
+
+/// Puts a choice on the list's button. False for a text that is no row of the list.
+bool take(ChoiceList& list, TextView row, TextView caption) {
+    if (std::find(list.lines.begin(), list.lines.end(), row) == list.lines.end()) return false;
+    const bool leaves = row == exitRow;
+    list.caption = leaves ? caption : row;
+    if (leaves) list.visible = false;
+    return true;
+}
+
+} // namespace
+
+void Star() {
+    const Step step{"Star"};
+    openLists();
+    screen.starsFields.fill({});
+    clearTable();
+    showAnalysisView(&Screen::starsVisible);
+    const auto table = std::make_shared<StarTable>(StarTable{readFile(starsPlace())});
+    Text win;
+    const bool whole = eachLine(table->content, [&](TextView line) {
+        takeWin(win, line);
+        table->rows.push_back({cellIn(line, starPlaces::cardLabel), line, win});
+    });
+    if (whole) showTable(table);
+}
+
+void MarginChoice(const Text& row) {
+    const Step step{"MarginChoice"};
+    if (!take(screen.marginList, row, marginCaption)) return;
+    for (const MarginRow& choice : marginRows)
+        if (choice.text == row) screen.marginChoice = choice.margin;
+    screen.oddsList.visible = true;
+}
+
+void OddsChoice(const Text& row) {
+    const Step step{"OddsChoice"};
+    if (!take(screen.oddsList, row, oddsCaption)) return;
+    if (row != exitRow) screen.oddsChoice = trimmed(row);
+    screen.maxOddsList.visible = true;
+}
+
+void MaxOddsChoice(const Text& row) {
+    const Step step{"MaxOddsChoice"};
+    if (take(screen.maxOddsList, row, maxOddsCaption) && row != exitRow) Profile5();
+}
+
+void Profile5() {
+    const Step step{"Profile5"};
+    clearTable();
+    const auto table = std::make_shared<StarTable>(StarTable{readFile(starsPlace())});
+    StarFilter filter{*table};
+    if (!eachLine(table->content, [&](TextView line) { filter.take(line); })) return;
+    showTable(table);
+    fillFields(filter.sums);
+}
+
+} // namespace quillon
