@@ -1,8 +1,13 @@
 #include "app/commands.h"
 
 #include "analysis/archive_records.h"
+#include "analysis/betting_profiles.h"
 #include "analysis/driver_change.h"
+#include "analysis/pick_results.h"
+#include "analysis/profile_report.h"
+#include "analysis/stars_profile.h"
 #include "analysis/summary.h"
+#include "analysis/tracks_profile.h"
 #include "app/frame.h"
 #include "core/failure.h"
 #include "core/race_card.h"
@@ -64,8 +69,12 @@ const Button* buttonOf(const std::array<Button, count>& buttons, const Arguments
 }
 
 bool startIsThere(const Arguments&) { return screen.start.enabled; }
-bool fileListIsShown(const Arguments&) { return screen.fileList.visible; }
-bool driverListIsShown(const Arguments&) { return screen.driverList.visible; }
+
+template <ChoiceList Screen::*list>
+bool listIsShown(const Arguments&) {
+    return (screen.*list).visible;
+}
+
 bool recordIsThere(const Arguments&) { return screen.record.enabled; }
 bool isSelectionOrFinishBox(const Arguments& arguments) { return numberWithin(arguments, 0, 7); }
 bool isToteBox(const Arguments& arguments) { return numberWithin(arguments, 1, 11); }
@@ -97,7 +106,7 @@ constexpr std::array commands{
     Command{"Start",           "Start",             Menu::none,       Takes::nothing, "", run<Start>, {}, startIsThere},
     Command{"NewRC",           "New Race Card",     Menu::file,       Takes::nothing, "", run<NewRC>, MenuItem::NewRC},
     Command{"RecallRaceCard",  "Recall Race Card",  Menu::file,       Takes::nothing, "", run<RecallRaceCard>, MenuItem::RecallRaceCard},
-    Command{"ChooseFile",      "",                  Menu::none,       Takes::text, "TEXT", run<ChooseFile>, {}, fileListIsShown},
+    Command{"ChooseFile",      "",                  Menu::none,       Takes::text, "TEXT", run<ChooseFile>, {}, listIsShown<&Screen::fileList>},
     Command{"Save",            "Save Race Card",    Menu::file,       Takes::nothing, "", run<Save>, MenuItem::Save},
     Command{"CloseRC",         "Close Race Card",   Menu::file,       Takes::nothing, "", run<CloseRC>, MenuItem::CloseRC},
     Command{"PrintSummary",    "Print",             Menu::file,       Takes::nothing, "", run<PrintSummary>, MenuItem::PrintSummary},
@@ -124,7 +133,7 @@ constexpr std::array commands{
     Command{"Command3",        "",                  Menu::none,       Takes::number, "n", run<Command3>, {}, isLineButton},
     Command{"Command7",        "Race Editor",       Menu::none,       Takes::nothing, "", run<Command7>, {}},
     Command{"DriverColumn",    "",                  Menu::none,       Takes::number, "row", run<DriverColumn>, {}},
-    Command{"DriverChoice",    "",                  Menu::none,       Takes::text, "TEXT", run<DriverChoice>, {}, driverListIsShown},
+    Command{"DriverChoice",    "",                  Menu::none,       Takes::text, "TEXT", run<DriverChoice>, {}, listIsShown<&Screen::driverList>},
 
     // Heats and results
     Command{"HeatWinner",      "Heat Winner ",      Menu::tools,      Takes::nothing, "", run<HeatWinner>, MenuItem::HeatWinner},
@@ -144,6 +153,22 @@ constexpr std::array commands{
     // What the selections earned
     Command{"SelectionResults", "Selections & Results Summary", Menu::analysis, Takes::nothing, "", run<SelectionResults>, MenuItem::SelectionResults},
     Command{"Record",          "Record",            Menu::none,       Takes::nothing, "", run<Record>, {}, recordIsThere},
+
+    Command{"ALL",             "All Tracks",        Menu::profiles,   Takes::nothing, "", run<ALL>, MenuItem::ALL},
+    Command{"Select",          "Select Track",      Menu::profiles,   Takes::nothing, "", run<Select>, MenuItem::Select},
+    Command{"SelectTrack",     "",                  Menu::none,       Takes::text, "TEXT", run<SelectTrack>, {}, listIsShown<&Screen::trackList>},
+    Command{"HALF",            "1/2",               Menu::profiles,   Takes::nothing, "", run<HALF>, MenuItem::HALF},
+    Command{"FIVE",            "5/8",               Menu::profiles,   Takes::nothing, "", run<FIVE>, MenuItem::FIVE},
+    Command{"Seven",           "7/8",               Menu::profiles,   Takes::nothing, "", run<Seven>, MenuItem::Seven},
+    Command{"MILE",            "1.M",               Menu::profiles,   Takes::nothing, "", run<MILE>, MenuItem::MILE},
+    Command{"QUARTER",         "1.Q",               Menu::profiles,   Takes::nothing, "", run<QUARTER>, MenuItem::QUARTER},
+    Command{"Print2",          "Print ",            Menu::file,       Takes::nothing, "", run<Print2>, MenuItem::Print2},
+    Command{"Star",            "Stars",             Menu::analysis,   Takes::nothing, "", run<Star>, MenuItem::Star},
+    Command{"MarginChoice",    "",                  Menu::none,       Takes::text, "TEXT", run<MarginChoice>, {}, listIsShown<&Screen::marginList>},
+    Command{"OddsChoice",      "",                  Menu::none,       Takes::text, "TEXT", run<OddsChoice>, {}, listIsShown<&Screen::oddsList>},
+    Command{"MaxOddsChoice",   "",                  Menu::none,       Takes::text, "TEXT", run<MaxOddsChoice>, {}, listIsShown<&Screen::maxOddsList>},
+    Command{"Track_Profile",   "Tracks Profile",    Menu::analysis,   Takes::nothing, "", run<Track_Profile>, MenuItem::Track_Profile},
+    Command{"Pick3Results",    "Pick 3-4-5-6  Results", Menu::analysis, Takes::nothing, "", run<Pick3Results>, MenuItem::Pick3Results},
 
     // Settings, tools and help
     Command{"ArchivesEditor",  "Archives Editor",   Menu::editor,     Takes::nothing, "", run<ArchivesEditor>, MenuItem::ArchivesEditor},
