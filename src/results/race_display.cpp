@@ -148,6 +148,7 @@ void Next() {
     const Step step{"Next"};
     const int shown = raceOnShow();
     if (shown == 0) return;
+    leaveLastRace();
     if (shown + 1 > card.raceCount) {
         attempt([&] { cursor.race = toInteger(card.labelledRaces + card.raceCount); });
         return;
@@ -162,6 +163,7 @@ void Previous() {
     const Step step{"Previous"};
     const int shown = raceOnShow();
     if (shown == 0) return;
+    leaveLastRace();
     attempt(Get_Textbox_Data);
     if (shown == 1) {
         cursor.race = 1;

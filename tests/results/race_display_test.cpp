@@ -232,7 +232,7 @@ TEST_F(RaceDisplayTest, NextStoresTheBoardAndShowsTheRaceBehind) {
     EXPECT_EQ(cellText(8, 5), screen.boxes[4].text);
 }
 
-TEST_F(RaceDisplayTest, NextAtTheLastRaceStoresAndShowsNothing) {
+TEST_F(RaceDisplayTest, NextAtTheLastRaceStoresAndShowsNothingButEndsTheHeatChoice) {
     card.labelledRaces = 3;
     RaceButton(12);
     TypeBox(4, "9");
@@ -241,7 +241,7 @@ TEST_F(RaceDisplayTest, NextAtTheLastRaceStoresAndShowsNothing) {
     EXPECT_EQ("12", screen.header.race);
     EXPECT_EQ(cellText(12, 5), card.raceOutcome(12, 5));
     EXPECT_EQ("9", screen.boxes[4].text);
-    EXPECT_TRUE(screen.item(MenuItem::HeatWinner).checked);
+    EXPECT_FALSE(screen.item(MenuItem::HeatWinner).checked);
     EXPECT_EQ(15, cursor.race); // 3 lettered races and 12
 }
 
