@@ -4,9 +4,12 @@
 #include "card_tables.h"
 #include "core/journal.h"
 #include "source/card_load.h"
+#include "tracks.h"
 #include "working_folder.h"
 
 #include <benchmark/benchmark.h>
+
+#include <fstream>
 
 namespace quillon::bench {
 namespace {
@@ -17,6 +20,7 @@ void StartOnTheLargestCard(benchmark::State& state) {
         state.SkipWithError("the tables can't be written");
         return;
     }
+    std::ofstream{"TrackEditor.ini", std::ios::binary} << samples::trackEditorText();
     for ([[maybe_unused]] auto run : state) {
         state.PauseTiming();
         journal.clear();

@@ -84,7 +84,9 @@ Text TableCursor::field(int number) const { return field(row_, number); }
 void TableCursor::trimmedFieldTo(Text& text, int number) const {
     const auto [form, bytes] = stored(row_, number);
     if (form == FieldForm::characters) {
-        text.assign(trimmedRight(charactersIn(bytes)));
+        std::size_t length = bytes.size();
+        while (length > 0 && (bytes[length - 1] == blank || bytes[length - 1] == '\0')) --length;
+        text.assign(bytes.data(), length);
         return;
     }
     readStored(form, bytes, text);
