@@ -20,16 +20,12 @@ using std::string_view_literals::operator""sv;
 // Commands that no scenario uses yet. A name leaves the list with its first scenario; none comes in.
 // clang-format off
 constexpr std::array notYetInScenarios{
-    "Start"sv, "NewRC"sv, "RecallRaceCard"sv, "Save"sv, "CloseRC"sv, "Exit_QL"sv, "MainScreen"sv,
-    "CloseWindow"sv, "ChooseFile"sv, "RaceButton"sv, "Next"sv, "Previous"sv, "RaceList"sv, "EntryButton"sv,
-    "Box"sv, "Tote"sv, "Refunds"sv, "Cell"sv, "Command4"sv, "Command3"sv, "Command7"sv, "HeatWinner"sv,
-    "ViewHeat"sv, "HeatChoice"sv, "AutoRecord"sv, "EBET"sv, "Entries"sv, "ViewSummary"sv,
+    "NewRC"sv, "Exit_QL"sv, "MainScreen"sv, "CloseWindow"sv, "Entries"sv, "ViewSummary"sv,
     "Pick3Selections"sv, "ViewCondensedProgram"sv, "PrintCondensedProgram"sv, "DriverList"sv, "NotePad"sv,
-    "PrintSummary"sv, "Print2"sv, "TestResults"sv, "ArchivesEditor"sv, "TrackEditor"sv, "EXE"sv,
-    "SelectionResults"sv, "Record"sv, "ALL"sv, "HALF"sv, "FIVE"sv, "Seven"sv, "MILE"sv, "QUARTER"sv,
-    "Select"sv, "SelectTrack"sv, "Star"sv, "MarginChoice"sv, "OddsChoice"sv, "MaxOddsChoice"sv,
-    "Track_Profile"sv, "Pick3Results"sv, "DriverColumn"sv, "DriverChoice"sv, "Diagnostic"sv, "About"sv,
-    "Version"sv, "Reset"sv, "USTA"sv, "RTN"sv, "Weather"sv, "TRC"sv, "QLR"sv,
+    "PrintSummary"sv, "Print2"sv, "TestResults"sv, "ArchivesEditor"sv, "TrackEditor"sv, "EXE"sv, "ALL"sv,
+    "HALF"sv, "FIVE"sv, "Seven"sv, "MILE"sv, "QUARTER"sv, "Select"sv, "SelectTrack"sv, "Star"sv,
+    "MarginChoice"sv, "OddsChoice"sv, "MaxOddsChoice"sv, "Track_Profile"sv, "Pick3Results"sv,
+    "Diagnostic"sv, "About"sv, "Version"sv, "Reset"sv, "USTA"sv, "RTN"sv, "Weather"sv, "TRC"sv, "QLR"sv,
 };
 // clang-format on
 
