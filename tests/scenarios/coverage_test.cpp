@@ -22,8 +22,8 @@ using std::string_view_literals::operator""sv;
 constexpr std::array notYetInScenarios{
     "NewRC"sv, "Exit_QL"sv, "MainScreen"sv, "CloseWindow"sv, "Entries"sv, "ViewSummary"sv,
     "Pick3Selections"sv, "ViewCondensedProgram"sv, "PrintCondensedProgram"sv, "DriverList"sv, "NotePad"sv,
-    "PrintSummary"sv, "Print2"sv, "TestResults"sv, "ArchivesEditor"sv, "TrackEditor"sv, "EXE"sv, "Record"sv,
-    "ALL"sv, "HALF"sv, "FIVE"sv, "Seven"sv, "MILE"sv, "QUARTER"sv, "Select"sv, "SelectTrack"sv, "Star"sv,
+    "PrintSummary"sv, "Print2"sv, "TestResults"sv, "ArchivesEditor"sv, "TrackEditor"sv, "EXE"sv, "ALL"sv,
+    "HALF"sv, "FIVE"sv, "Seven"sv, "MILE"sv, "QUARTER"sv, "Select"sv, "SelectTrack"sv, "Star"sv,
     "MarginChoice"sv, "OddsChoice"sv, "MaxOddsChoice"sv, "Track_Profile"sv, "Pick3Results"sv, "About"sv,
     "Version"sv, "Reset"sv, "USTA"sv, "RTN"sv, "Weather"sv, "TRC"sv, "QLR"sv,
 };
