@@ -140,7 +140,8 @@ void fillCounts(const Totals& totals, int cards) {
 
 /// Win, place, show, exactas and trifectas: the bet of every race counts.
 void fillBet(const Totals& totals, std::size_t bet) {
-    const auto [column, head, factor] = profileBets[bet];
+    const int column = profileBets[bet].column;
+    const double factor = profileBets[bet].factor;
     const double sum = totals.card.sums[bet];
     const double totalBet = totals.card.races * raceBet;
     attempt([&] { cellText(profileRow::winAmount, column) = winForm(sum); });
@@ -172,7 +173,8 @@ Text superfectaRoi(const SuperfectaAccount& account, std::size_t bet) {
 /// The superfectas' net profit leaves out what the last card read, the oldest, returned: the bets of a card
 /// are counted before its returns.
 void fillSuperfecta(const Totals& totals, std::size_t bet) {
-    const auto [column, head, factor] = profileBets[bet];
+    const int column = profileBets[bet].column;
+    const double factor = profileBets[bet].factor;
     const double sum = totals.card.sums[bet];
     const SuperfectaAccount& divided = totals.dividedAccount;
     attempt([&] { cellText(profileRow::winAmount, column) = winForm(sum); });

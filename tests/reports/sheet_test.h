@@ -49,6 +49,7 @@ protected:
     /// Ranks a race by ratings alone: S1 has program number 11, S2 12, and so on.
     static void rankByRatings(int race, const std::vector<Text>& ratings, const Text& oddsOfS1 = " 7/2") {
         std::vector<Row> rows;
+        rows.reserve(ratings.size());
         for (const Text& rating : ratings)
             rows.push_back({.pn = std::to_string(11 + rows.size()), .ml = oddsOfS1, .pr = rating});
         rank(race, rows);

@@ -174,9 +174,6 @@ struct Leg {
     int race;
     int slot;
     const char* winner;
-    friend bool operator==(const Leg& left, const Leg& right) {
-        return left.race == right.race && left.slot == right.slot && TextView{left.winner} == right.winner;
-    }
 };
 
 struct PoolRow {
@@ -200,6 +197,7 @@ protected:
     }
     static std::vector<std::string> named(const std::vector<Leg>& legs) {
         std::vector<std::string> all;
+        all.reserve(legs.size());
         for (const Leg& leg : legs)
             all.push_back(std::to_string(leg.race) + "," + std::to_string(leg.slot) + "=" + leg.winner);
         return all;

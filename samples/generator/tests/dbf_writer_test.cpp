@@ -10,7 +10,6 @@ namespace {
 
 using samples::Table;
 using samples::tableBytes;
-using samples::TableForm;
 using namespace std::string_literals;
 using namespace std::string_view_literals;
 
