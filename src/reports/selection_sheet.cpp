@@ -148,7 +148,10 @@ void addRace(ReportWriter& sheet, ReportWriter& stars, int race, Integer& odds) 
     sheet.line(purseLine, info.purse, info.classText);
     sheet.line("{}", info.wagering);
     sheet.line(sheetHeading);
-    attempt([&] { odds = wholeOdds(rankedRow(race, 1).ml); });
+    if (contains(rankedRow(race, 1).ml, "/"))
+        attempt([&] { odds = wholeOdds(rankedRow(race, 1).ml); });
+    else
+        passOver(); // nobody was rated
     WinPct();
     sheet.line("{}", betMark(margin));
     addRanking(sheet, race);
