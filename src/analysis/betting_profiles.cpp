@@ -141,13 +141,13 @@ void fillCounts(const Totals& totals, int cards) {
 /// Win, place, show, exactas and trifectas: the bet of every race counts.
 void fillBet(const Totals& totals, std::size_t bet) {
     const int column = profileBets[bet].column;
-    const double factor = profileBets[bet].factor;
     const double sum = totals.card.sums[bet];
+    const double won = sum * profileBets[bet].factor;
     const double totalBet = totals.card.races * raceBet;
     attempt([&] { cellText(profileRow::winAmount, column) = winForm(sum); });
-    attempt([&] { cellText(profileRow::adjustedWin, column) = winForm(sum * factor); });
+    attempt([&] { cellText(profileRow::adjustedWin, column) = winForm(won); });
     cellText(profileRow::totalBet, column) = numberText(totalBet);
-    attempt([&] { cellText(profileRow::netProfit, column) = winForm(sum * factor - totalBet); });
+    attempt([&] { cellText(profileRow::netProfit, column) = winForm(won - totalBet); });
     attempt([&] {
         cellText(profileRow::roi, column) = formatted(
             "###.0%", "@@@@@@",
@@ -174,17 +174,16 @@ Text superfectaRoi(const SuperfectaAccount& account, std::size_t bet) {
 /// are counted before its returns.
 void fillSuperfecta(const Totals& totals, std::size_t bet) {
     const int column = profileBets[bet].column;
-    const double factor = profileBets[bet].factor;
     const double sum = totals.card.sums[bet];
-    const SuperfectaAccount& divided = totals.dividedAccount;
+    const double won = sum * profileBets[bet].factor;
     attempt([&] { cellText(profileRow::winAmount, column) = winForm(sum); });
-    attempt([&] { cellText(profileRow::adjustedWin, column) = winForm(sum * factor); });
+    attempt([&] { cellText(profileRow::adjustedWin, column) = winForm(won); });
     attempt([&] { cellText(profileRow::totalBet, column) = superfectaForm(totals.account.races * raceBet); });
     attempt([&] { cellText(profileRow::netProfit, column) = superfectaNet(totals.account, bet); });
-    attempt([&] { cellText(profileRow::roi, column) = superfectaRoi(divided, bet); });
+    attempt([&] { cellText(profileRow::roi, column) = superfectaRoi(totals.dividedAccount, bet); });
 }
 
-/// Wins of S1 to S4 in per cent of all races; behind the bets' first column the sum of what is shown of them.
+/// Wins of S1 to S4 in per cent of all races, and behind them the sum of the percentages as shown.
 void fillPercentages(const Totals& totals) {
     constexpr int shownCharacters = 4;
     double sum = 0;

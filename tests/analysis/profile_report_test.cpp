@@ -11,7 +11,8 @@ using ProfileReportTest = ProfileTest;
 // clang-format off
 const Text heading =
     "              "
-    " Races    S1    S2    S3    S4       Win     Place      Show      E1/2      E1-2    E1/2-3    E1-2-3  E1-2-3-4"
+    " Races    S1    S2    S3    S4"
+    "       Win     Place      Show      E1/2      E1-2    E1/2-3    E1-2-3  E1-2-3-4"
     "    T1/2-3  T1/2-3-4    T1-2-3  S1/2-3-4  S2-1/3-4  S1-2-3-4\r\n";
 const Text fiveCounts(30, ' ');
 const Text shift(30, ' ');      // in place of column 1

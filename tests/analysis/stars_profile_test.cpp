@@ -34,10 +34,13 @@ protected:
         attempt([] { MaxOddsChoice("1/1"); }); // takes no part in the filter
     }
 
+    static constexpr std::size_t heads = 8;
+
     static Text cell(int row, int column) { return screen.stars.text(row, column); }
     static std::vector<Text> row(int row) {
-        std::vector<Text> texts;
-        for (int column = 0; column < screen.stars.columns(); ++column) texts.push_back(cell(row, column));
+        std::vector<Text> texts(heads);
+        for (int column = 0; column < static_cast<int>(heads); ++column)
+            texts[static_cast<std::size_t>(column)] = cell(row, column);
         return texts;
     }
     static std::vector<Text> fields() { return {screen.starsFields.begin() + 1, screen.starsFields.end()}; }
