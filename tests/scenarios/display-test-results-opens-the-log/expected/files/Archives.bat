@@ -1,0 +1,1 @@
+NOTEPAD TEST.txt

@@ -1,0 +1,1 @@
+NOTEPAD C:\A Quillon PRO\Drivers\DTN_20260314.pmd2

@@ -1,0 +1,1 @@
+NOTEPAD Todays Results.txt

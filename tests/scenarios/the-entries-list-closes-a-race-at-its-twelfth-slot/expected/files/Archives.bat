@@ -1,0 +1,1 @@
+NOTEPAD C:\A Quillon PRO\Entries\DTN_20260314.txt

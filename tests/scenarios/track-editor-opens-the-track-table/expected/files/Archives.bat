@@ -1,0 +1,1 @@
+NOTEPAD TrackEditor.ini

@@ -1,0 +1,1 @@
+NOTEPAD Webpage.ini

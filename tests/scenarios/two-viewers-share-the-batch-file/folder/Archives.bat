@@ -1,0 +1,1 @@
+NOTEPAD C:\A Quillon PRO\Somewhere\else\altogether.txt
