@@ -128,9 +128,13 @@ TextView trackIn(TextView line) { return trimmed(cellIn(line, archivePlaces::tra
 constexpr std::size_t blockSize = 1U << 18;
 
 std::optional<TextView> LinesForwards::next() {
-    if (const auto line = block_.next()) return line;
-    loadBlock();
-    return block_.next();
+    auto line = block_.next();
+    if (!line) {
+        loadBlock();
+        line = block_.next();
+    }
+    if (line) lineStart_ = loadedStart_ + static_cast<std::uint64_t>(line->data() - loaded_);
+    return line;
 }
 
 // Takes the whole lines that begin the rest of the file, or all of it.
@@ -142,6 +146,8 @@ void LinesForwards::loadBlock() {
         lines = isRest ? block : block.substr(0, block.rfind('\n') + 1);
         if (isRest) break;
     }
+    loadedStart_ = start_;
+    loaded_ = lines.data();
     start_ += lines.size();
     block_ = LineReader{lines};
 }
@@ -171,6 +177,17 @@ void LinesBackwards::loadBlock() {
     end_ = start;
     LineReader reader{block};
     while (const auto line = reader.next()) lines_.push_back(*line);
+}
+
+TextView PiecesAhead::read(std::uint64_t start, std::size_t count) {
+    constexpr std::size_t ahead = 1U << 16;
+    if (start < blockStart_ || start + count > blockStart_ + block_.size()) {
+        FilePieces file{place_};
+        block_ = file.read(start, std::max(ahead, count));
+        blockStart_ = start;
+    }
+    const auto behind = static_cast<std::size_t>(start - blockStart_);
+    return TextView{block_}.substr(behind, count);
 }
 
 bool LongWork::goesOn(std::uint64_t part) {

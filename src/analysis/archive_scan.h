@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace quillon {
@@ -57,14 +58,18 @@ public:
     /// The next line without its end, or nothing at the end of the file. It stands until the next call.
     std::optional<TextView> next();
 
-    std::uint64_t size() const { return file_.size(); } ///< bytes of the file
+    std::uint64_t size() const { return file_.size(); }    ///< bytes of the file
+    std::uint64_t lineStart() const { return lineStart_; } ///< where the line given last begins in the file
 
 private:
     void loadBlock();
 
     FilePieces file_;
     std::uint64_t start_ = 0; ///< of what was not loaded yet
+    std::uint64_t loadedStart_ = 0;
+    const char* loaded_ = nullptr; ///< first byte of the block
     LineReader block_{TextView{}};
+    std::uint64_t lineStart_ = 0;
 };
 
 /// The same from the last to the first.
@@ -84,6 +89,22 @@ private:
     FilePieces file_;
     std::uint64_t end_;           ///< of what was not loaded yet
     std::vector<TextView> lines_; ///< of the block, those not given yet
+};
+
+/// Pieces of a file by their places, for views whose rows are mostly looked at one after another: a good
+/// piece behind what is asked for is read as well.
+class PiecesAhead {
+public:
+    explicit PiecesAhead(FilePlace place) : place_(std::move(place)) {}
+
+    /// The bytes from `start` on, as many as there are up to `count`. They stand until the next call. Fails
+    /// when the file can't be read.
+    TextView read(std::uint64_t start, std::size_t count);
+
+private:
+    FilePlace place_;
+    Text block_; ///< the part of the file that was looked at last
+    std::uint64_t blockStart_ = 0;
 };
 
 /// Tells the user how far a walk over many lines is, and whether he wants it to go on.

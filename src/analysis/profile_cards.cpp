@@ -3,8 +3,6 @@
 #include "core/failure.h"
 #include "core/formats.h"
 
-#include <algorithm>
-
 namespace quillon {
 namespace {
 
@@ -21,9 +19,10 @@ void markWins(std::span<Cell> cells, const ArchivedCard& card) {
 // as the archive has it.
 Text superfectaCell(TextView line, const ArchivedCard& card, std::size_t bet) {
     constexpr double tickets = 4;
-    const TextView sum = cellIn(line, archivePlaces::sums[bet]);
-    if (bet == allFour && card.sums[bet] / tickets >= card.races * raceBet) return Text{sum};
-    return formatted("######.00", sum);
+    Text sum{cellIn(line, archivePlaces::sums[bet])};
+    const bool won = bet == allFour && card.sums[bet] / tickets >= card.races * raceBet;
+    if (!won) attempt([&] { sum = formatted("######.00", sum); });
+    return sum;
 }
 
 } // namespace
@@ -55,24 +54,12 @@ void CardRows::make(int row, std::span<Cell> cells) {
     const auto card = static_cast<std::size_t>(row - profileRow::firstCard);
     const std::uint64_t end = card + 1 < starts_.size() ? starts_[card + 1] : end_;
     attempt([&] {
-        LineReader lines{linesAt(starts_[card], end)};
+        LineReader lines{copy_.read(starts_[card], static_cast<std::size_t>(end - starts_[card]))};
         const TextView line = lines.next().value_or("");
         const bool writtenOver = lines.next().has_value();
         fillCard(cells, writtenOver ? "" : line);
         markWins(cells, archivedCardOf(line)); // what won stays marked
     });
-}
-
-// Reads a good piece behind what is asked for as well, since the rows are mostly looked at one after another.
-TextView CardRows::linesAt(std::uint64_t start, std::uint64_t end) {
-    constexpr std::uint64_t blockSize = 1U << 16;
-    const auto length = static_cast<std::size_t>(end - start);
-    if (start < blockStart_ || end > blockStart_ + block_.size()) {
-        FilePieces copy{workingCopy()};
-        block_ = copy.read(start, std::max(blockSize, end - start));
-        blockStart_ = start;
-    }
-    return TextView{block_}.substr(std::min<std::size_t>(start - blockStart_, block_.size()), length);
 }
 
 } // namespace quillon

@@ -94,13 +94,10 @@ public:
     void make(int row, std::span<Cell> cells);
 
 private:
-    TextView linesAt(std::uint64_t start, std::uint64_t end);
-
     std::vector<std::uint64_t> starts_; ///< of the cards' lines in the copy
     std::uint64_t end_ = 0;             ///< of the copy
     bool emptyAhead_ = false;
-    Text block_; ///< the part of the copy that was looked at last
-    std::uint64_t blockStart_ = 0;
+    PiecesAhead copy_{workingCopy()};
 };
 
 } // namespace quillon

@@ -8,6 +8,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <deque>
+#include <limits>
 #include <memory>
 #include <utility>
 
@@ -57,29 +60,39 @@ constexpr Places payoff     {60,  6};
 
 FilePlace starsPlace() { return {Folder::working, "Stars5.ini"}; }
 
-/// A row of the view: what it shows in front of the record, and its win mark.
+constexpr std::uint64_t noLabel = std::numeric_limits<std::uint64_t>::max();
+constexpr char noWin = '\0';
+
+/// A row of the view by what it is made of.
 struct StarRow {
-    TextView label;
-    TextView record;
-    Text win;
+    std::uint64_t record = 0;      ///< where its line begins in the file
+    std::uint64_t label = noLabel; ///< and the line that it shows in front
+    char win = noWin;
 };
 
-/// The lines that the view shows; its rows are made of them when they are looked at.
+/// The rows of the view. A file may have millions of lines, so a row is read when it is looked at.
 struct StarTable {
-    Text content;
-    std::vector<StarRow> rows{};
+    std::deque<StarRow> rows{}; ///< grows without moving
+    PiecesAhead file{starsPlace()};
 };
 
-void fillRow(std::span<Cell> cells, const StarRow& row) {
-    const auto at = [&](Places places) { return cellIn(row.record, places); };
-    cells[0].text = row.label;
+/// A line as far as it is shown.
+Text lineAt(PiecesAhead& file, std::uint64_t start) {
+    constexpr int shownPlaces = starPlaces::shownPayoff.first + starPlaces::shownPayoff.width - 1;
+    return Text{LineReader{file.read(start, shownPlaces)}.next().value_or("")};
+}
+
+void fillRow(std::span<Cell> cells, const StarRow& row, PiecesAhead& file) {
+    if (row.label != noLabel) cells[0].text = cellIn(lineAt(file, row.label), starPlaces::cardLabel);
+    const Text record = lineAt(file, row.record);
+    const auto at = [&](Places places) { return cellIn(record, places); };
     cells[1].text = formatted("##", at(starPlaces::race));
-    cells[2].text = formatted("###.#", at(starPlaces::margin));
+    attempt([&] { cells[2].text = formatted("###.#", at(starPlaces::margin)); });
     cells[3].text = at(starPlaces::decimalOdds);
     cells[4].text = trimmed(at(starPlaces::shownOdds));
     cells[5].text = trimmed(at(starPlaces::bet));
     cells[6].text = Text{at(starPlaces::shownPayoff)} + "0"; // the last digit is behind the places read
-    cells[7].text = row.win;
+    if (row.win != noWin) cells[7].text = row.win;
 }
 
 void clearTable() {
@@ -91,26 +104,27 @@ void clearTable() {
 void showTable(const std::shared_ptr<StarTable>& table) {
     clearTable();
     screen.stars.makeRows(1, static_cast<int>(table->rows.size()), [table](int row, std::span<Cell> cells) {
-        fillRow(cells, table->rows[static_cast<std::size_t>(row) - 1]);
+        attempt([&] { fillRow(cells, table->rows[static_cast<std::size_t>(row) - 1], table->file); });
     });
 }
 
 /// The win mark of a line is its last character; short ones leave it as it is.
-void takeWin(Text& win, TextView line) {
+void takeWin(char& win, TextView line) {
     constexpr std::size_t shortLine = 50;
-    if (line.size() > shortLine) win = rightOf(line, 1);
+    if (line.size() > shortLine) win = line.back();
 }
 
 bool isCardHeading(TextView line) { return !line.empty() && leftOf(line, 1) >= "A"; }
 
-/// Goes through the lines of the stars file. False when the user cancels.
+/// Goes through the lines of the stars file and where they begin. False when the user cancels. Fails when the
+/// file can't be read.
 template <class Visit>
-bool eachLine(TextView content, Visit visit) {
-    LongWork work{content.size()};
-    LineReader lines{content};
+bool eachLine(Visit visit) {
+    LinesForwards lines{starsPlace()};
+    LongWork work{lines.size()};
     while (const auto line = lines.next()) {
         if (!work.goesOn(line->size() + crLf.size())) return false;
-        visit(*line);
+        visit(*line, lines.lineStart());
     }
     return true;
 }
@@ -138,21 +152,24 @@ struct StarSums {
 struct StarFilter {
     StarTable& table;
     StarSums sums{};
-    TextView cardLabel{}; ///< waits for a race of the card that passes
-    Text win{};
+    Text cardLabel{}; ///< waits for a race of the card that passes
+    std::uint64_t cardStart = noLabel;
+    Text labelAbove{heads[0]}; ///< what the row above shows
+    char win = noWin;
 
-    void take(TextView line);
-    void addRow(TextView record);
+    void take(TextView line, std::uint64_t start);
+    void addRow(std::uint64_t record);
 };
 
-void StarFilter::take(TextView line) {
+void StarFilter::take(TextView line, std::uint64_t start) {
     if (isCardHeading(line)) {
         cardLabel = cellIn(line, starPlaces::cardLabel);
+        cardStart = start;
         return;
     }
     takeWin(win, line);
     if (!passes(line)) return;
-    addRow(line);
+    addRow(start);
     ++sums.races;
     const double payoff = lenientNumber(cellIn(line, starPlaces::payoff));
     if (payoff <= 0) return;
@@ -161,10 +178,11 @@ void StarFilter::take(TextView line) {
 }
 
 // The label that stands in the row above already stays waiting.
-void StarFilter::addRow(TextView record) {
-    const TextView above = table.rows.empty() ? heads[0] : table.rows.back().label;
-    table.rows.push_back({"", record, win});
-    if (cardLabel != above) table.rows.back().label = std::exchange(cardLabel, {});
+void StarFilter::addRow(std::uint64_t record) {
+    const bool isNew = cardLabel != labelAbove;
+    const bool shows = isNew && !cardLabel.empty();
+    table.rows.push_back({record, shows ? cardStart : noLabel, win});
+    labelAbove = isNew ? std::exchange(cardLabel, {}) : Text{};
 }
 
 /// Wins in per cent of the races, as they are shown: next to never all of them, and few wins twice.
@@ -245,11 +263,11 @@ void Star() {
     screen.starsFields.fill({});
     clearTable();
     showAnalysisView(&Screen::starsVisible);
-    const auto table = std::make_shared<StarTable>(StarTable{readFile(starsPlace())});
-    Text win;
-    const bool whole = eachLine(table->content, [&](TextView line) {
+    const auto table = std::make_shared<StarTable>();
+    char win = noWin;
+    const bool whole = eachLine([&](TextView line, std::uint64_t start) {
         takeWin(win, line);
-        table->rows.push_back({cellIn(line, starPlaces::cardLabel), line, win});
+        table->rows.push_back({start, start, win});
     });
     if (whole) showTable(table);
 }
@@ -277,9 +295,9 @@ void MaxOddsChoice(const Text& row) {
 void Profile5() {
     const Step step{"Profile5"};
     clearTable();
-    const auto table = std::make_shared<StarTable>(StarTable{readFile(starsPlace())});
+    const auto table = std::make_shared<StarTable>();
     StarFilter filter{*table};
-    if (!eachLine(table->content, [&](TextView line) { filter.take(line); })) return;
+    if (!eachLine([&](TextView line, std::uint64_t start) { filter.take(line, start); })) return;
     showTable(table);
     fillFields(filter.sums);
 }

@@ -1,5 +1,6 @@
 #include "analysis/summary.h"
 
+#include "analysis/analysis_view.h"
 #include "analysis/archive_records.h"
 #include "analysis/todays_results.h"
 #include "app/screen.h"
@@ -123,11 +124,8 @@ int lastRace() { return std::min<int>(card.raceCount, lastRow); }
 void openView() {
     screen.item(MenuItem::NewRC).enabled = false;
     screen.item(MenuItem::RecallRaceCard).enabled = false;
-    screen.item(MenuItem::MainScreen).visible = true;
     screen.item(MenuItem::PrintSummary).visible = true;
-    screen.racePanelsVisible = false;
-    screen.profileVisible = screen.tracksVisible = screen.picksVisible = false;
-    screen.summaryVisible = true;
+    showAnalysisView(&Screen::summaryVisible);
 }
 
 // Track and date by place: the date is what stands in front of the last four characters, so that a ".pmd2"

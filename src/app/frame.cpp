@@ -6,6 +6,8 @@
 #include "core/failure.h"
 
 #include <array>
+#include <filesystem>
+#include <system_error>
 
 namespace quillon {
 namespace {
@@ -34,7 +36,8 @@ constexpr std::array newCardItems{
 
 void HideSourceFile(const char* name) {
     const FilePlace place{Folder::sourceTables, name};
-    if (!std::filesystem::exists(pathOnDisk(place))) fail(Text{name} + " is not there to be hidden");
+    std::error_code error;
+    if (!std::filesystem::exists(pathOnDisk(place), error)) fail(Text{name} + " is not there to be hidden");
     ports.hide(place);
 }
 

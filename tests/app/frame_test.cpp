@@ -26,6 +26,18 @@ TEST_F(FrameTest, TablesThatAreNotThereAreNotHidden) {
     EXPECT_TRUE(journalTells("RACESHR.DBF is not there"));
 }
 
+TEST_F(FrameTest, ATableThatLeadsNowhereStopsNothing) {
+    StartUp();
+    const std::filesystem::path folder = "A Quillon PRO/TrackMaster ExE Files";
+    std::filesystem::create_directories(folder);
+    std::error_code error;
+    std::filesystem::create_symlink("RACESHR.DBF", folder / "RACESHR.DBF", error);
+    if (error) GTEST_SKIP() << "no links on this disk";
+    NewRC();
+    EXPECT_EQ((std::vector<std::string>{"run: FileManager.exe", "end"}), shown);
+    EXPECT_TRUE(journalTells("RACESHR.DBF is not there"));
+}
+
 TEST_F(FrameTest, ClosingTheWindowAsksAndExitDoesNot) {
     CloseWindow();
     answers = {"Yes"};
