@@ -180,19 +180,20 @@ void fillSuperfecta(const Totals& totals, std::size_t bet) {
     attempt([&] { cellText(profileRow::adjustedWin, column) = winForm(won); });
     attempt([&] { cellText(profileRow::totalBet, column) = superfectaForm(totals.account.races * raceBet); });
     attempt([&] { cellText(profileRow::netProfit, column) = superfectaNet(totals.account, bet); });
+    if (totals.dividedAccount.races == 0) return passOver(); // no card had a superfecta yet
     attempt([&] { cellText(profileRow::roi, column) = superfectaRoi(totals.dividedAccount, bet); });
 }
 
 /// Wins of S1 to S4 in per cent of all races, and behind them the sum of the percentages as shown.
 void fillPercentages(const Totals& totals) {
     constexpr int shownCharacters = 4;
+    const double races = totals.card.races;
     double sum = 0;
     int column = profileColumn::firstWins;
     for (const double wins : totals.card.wins) {
-        attempt([&] {
+        if (races != 0)
             cellText(profileRow::percentages, column) =
-                Text{leftOf(numberText(quotient(wins * 100, totals.card.races)), shownCharacters)} + "%";
-        });
+                Text{leftOf(numberText(wins * 100 / races), shownCharacters)} + "%";
         sum += numberAt(profileRow::percentages, column);
         ++column;
     }

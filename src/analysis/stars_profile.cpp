@@ -215,12 +215,12 @@ void fillFields(const StarSums& sums) {
     const double net = lenientNumber(formatted("######.00", sums.returned - bets)); // as it is shown
     field[1] = numberText(sums.races);
     field[2] = numberText(sums.wins);
-    attempt([&] { field[3] = formatted("###.0", "@@@@@%", winPercentage(sums)); });
+    if (sums.races > 0) attempt([&] { field[3] = formatted("###.0", "@@@@@%", winPercentage(sums)); });
     attempt([&] { field[4] = dollars(bets); });
     attempt([&] { field[5] = dollars(sums.returned); });
     attempt([&] { field[6] = dollars(net); });
-    attempt([&] { field[7] = formatted("###.0", "@@@@@%", returnOnBets(net, bets)); });
-    attempt([&] { field[8] = formatted("###.00", "$@@@@@", averagePayoff(sums)); });
+    if (sums.races > 0) attempt([&] { field[7] = formatted("###.0", "@@@@@%", returnOnBets(net, bets)); });
+    if (sums.wins > 0) attempt([&] { field[8] = formatted("###.00", "$@@@@@", averagePayoff(sums)); });
 }
 
 // --- The lists --------------------------------------------------------------------------------------------

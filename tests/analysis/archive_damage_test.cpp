@@ -4,6 +4,7 @@
 #include "analysis/betting_profiles.h"
 #include "analysis/stars_profile.h"
 #include "analysis/summary.h"
+#include "core/journal.h"
 #include "support/card_test.h"
 
 #include <vector>
@@ -49,6 +50,27 @@ TEST_F(ArchiveDamageTest, ASuperfectaBeyondItsFormatStaysAsTheArchiveHasIt) {
     EXPECT_EQ("  2", profile(11, 20));
     EXPECT_TRUE(screen.profile.read(11, 6).bold);   // 30.00 times 6 is above 10 times 12
     EXPECT_FALSE(screen.profile.read(11, 10).bold); // times 3 it is not
+}
+
+// A track without a card, a card without a superfecta and races without a winner are no damage.
+TEST_F(ArchiveDamageTest, NothingToDivideByIsNoFault) {
+    put("HRA.ini", "   M1_20260314 10    0    0    0    0" + Text(11 * 9 + 3 * 10, ' ') + "  0\r\n");
+    put("Stars5.ini", starLine("   5.3"));
+    ALL();
+    EXPECT_EQ("", profile(6, 17));
+    screen.profileFilter = "LEX";
+    Profile2();
+    EXPECT_EQ("0 Race Cards", profile(9, 0));
+    EXPECT_EQ("", profile(10, 2));
+    Star();
+    for (const char* odds : {"5/2", "1/1"}) {
+        MarginChoice("ALL Margins");
+        OddsChoice(odds);
+        MaxOddsChoice(odds);
+        EXPECT_EQ("", screen.starsFields[8]) << odds;
+    }
+    EXPECT_EQ("-100.0%", screen.starsFields[7]); // of the race at 5/2
+    EXPECT_EQ(0U, journal.count());
 }
 
 TEST_F(ArchiveDamageTest, RowsOfAStarsFileThatIsGoneAreEmpty) {
