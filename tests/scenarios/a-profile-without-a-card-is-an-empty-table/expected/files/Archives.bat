@@ -1,0 +1,1 @@
+NOTEPAD Profile Results.txt
