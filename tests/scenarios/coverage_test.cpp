@@ -4,30 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
 #include <fstream>
 #include <set>
 #include <string>
-#include <string_view>
 
 namespace quillon {
 namespace {
 
 namespace fs = std::filesystem;
-using std::string_view_literals::operator""sv;
-
-// Commands that no scenario uses yet. A name leaves the list with its first scenario; none comes in.
-// clang-format off
-constexpr std::array notYetInScenarios{
-    "NewRC"sv, "Exit_QL"sv, "MainScreen"sv, "CloseWindow"sv, "Entries"sv, "ViewSummary"sv,
-    "Pick3Selections"sv, "ViewCondensedProgram"sv, "PrintCondensedProgram"sv, "DriverList"sv, "NotePad"sv,
-    "PrintSummary"sv, "Print2"sv, "TestResults"sv, "ArchivesEditor"sv, "TrackEditor"sv, "EXE"sv, "Record"sv,
-    "ALL"sv, "HALF"sv, "FIVE"sv, "Seven"sv, "MILE"sv, "QUARTER"sv, "Select"sv, "SelectTrack"sv, "Star"sv,
-    "MarginChoice"sv, "OddsChoice"sv, "MaxOddsChoice"sv, "Track_Profile"sv, "Pick3Results"sv, "About"sv,
-    "Version"sv, "Reset"sv, "USTA"sv, "RTN"sv, "Weather"sv, "TRC"sv, "QLR"sv,
-};
-// clang-format on
 
 // The first word of every line of every script.
 std::set<std::string> namesInScripts() {
@@ -42,21 +27,10 @@ std::set<std::string> namesInScripts() {
     return names;
 }
 
-bool isListed(std::string_view name) {
-    return std::find(notYetInScenarios.begin(), notYetInScenarios.end(), name) != notYetInScenarios.end();
-}
-
 TEST(Scenarios, UseEachCommand) {
     const auto names = namesInScripts();
     for (const Command& command : commandTable())
-        EXPECT_TRUE(names.count(command.name) > 0 || isListed(command.name))
-            << command.name << " is in no script";
-}
-
-TEST(Scenarios, UseNoCommandThatIsListedAsUnused) {
-    const auto names = namesInScripts();
-    for (const std::string_view name : notYetInScenarios)
-        EXPECT_EQ(0U, names.count(std::string{name})) << name << " is in a script: take it off the list";
+        EXPECT_EQ(1U, names.count(command.name)) << command.name << " is in no script";
 }
 
 } // namespace
