@@ -1,0 +1,129 @@
+#include "desktop/cell_table_model.h"
+
+#include "desktop/shown_text.h"
+
+#include <QBrush>
+#include <QFont>
+
+#include <algorithm>
+#include <utility>
+
+namespace quillon {
+namespace {
+
+// White is what the system paints a cell with to take a light off it; in a dark theme that is the theme's
+// own.
+bool isShaded(const Cell& cell) { return cell.background && *cell.background != white; }
+
+QVariant foreground(const Cell& cell) {
+    if (cell.foreground) return QBrush{shown(*cell.foreground)};
+    if (isShaded(cell)) return QBrush{legibleOn(shown(*cell.background))};
+    return {};
+}
+
+QVariant font(const Cell& cell) {
+    if (!cell.bold) return {};
+    QFont bold;
+    bold.setBold(true);
+    return bold;
+}
+
+int alignment(Qt::AlignmentFlag side) { return (side | Qt::AlignVCenter).toInt(); }
+
+bool hasText(const Grid& grid, int row) {
+    for (int column = 0; column < grid.columns(); ++column)
+        if (!grid.text(row, column).empty()) return true;
+    return false;
+}
+
+} // namespace
+
+void CellTableModel::show(const Grid* grid, const CellRange& range) {
+    beginResetModel();
+    grid_ = grid;
+    range_ = range;
+    version_ = grid ? grid->version() : 0;
+    rows_ = rowsOnShow();
+    endResetModel();
+}
+
+void CellTableModel::refresh() {
+    if (grid_ && grid_->version() != version_) show(grid_, range_);
+}
+
+void CellTableModel::setRightAligned(int first, int last) {
+    firstRight_ = first;
+    lastRight_ = last;
+}
+
+void CellTableModel::setEditing(std::function<bool(int, int)> mayEdit,
+                                std::function<void(int, int, const Text&)> edit) {
+    mayEdit_ = std::move(mayEdit);
+    edit_ = std::move(edit);
+}
+
+int CellTableModel::rowsOnShow() const {
+    if (!grid_) return 0;
+    int last = grid_->rows() - 1;
+    if (range_.lastRow >= 0) last = std::min(last, range_.lastRow);
+    while (tailHidden_ && last >= range_.firstRow && !hasText(*grid_, last)) --last;
+    return std::max(0, last - range_.firstRow + 1);
+}
+
+int CellTableModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
+
+int CellTableModel::columnCount(const QModelIndex& parent) const {
+    if (parent.isValid() || !grid_) return 0;
+    int last = grid_->columns() - 1;
+    if (range_.lastColumn >= 0) last = std::min(last, range_.lastColumn);
+    return std::max(0, last - range_.firstColumn + 1);
+}
+
+QVariant CellTableModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid() || !grid_) return {};
+    const int row = tableRow(index);
+    const int column = tableColumn(index);
+    if (row >= grid_->rows() || column >= grid_->columns()) return {}; // changed, and not taken up yet
+    const auto cell = [&]() -> const Cell& { return grid_->read(row, column); };
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole: return shown(grid_->text(row, column));
+    case Qt::BackgroundRole:
+        return isShaded(cell()) ? QVariant{QBrush{shown(*cell().background)}} : QVariant{};
+    case Qt::ForegroundRole: return foreground(cell());
+    case Qt::FontRole: return font(cell());
+    case Qt::TextAlignmentRole:
+        return alignment(column >= firstRight_ && column <= lastRight_ ? Qt::AlignRight : Qt::AlignLeft);
+    default: return {};
+    }
+}
+
+QVariant CellTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (!grid_ || orientation != Qt::Horizontal) return {};
+    const int column = range_.firstColumn + section;
+    if (column >= grid_->columns() || grid_->rows() == 0) return {};
+    switch (role) {
+    case Qt::DisplayRole: return shown(grid_->text(0, column));
+    case Qt::ForegroundRole: return foreground(grid_->read(0, column));
+    case Qt::TextAlignmentRole: return alignment(Qt::AlignLeft);
+    default: return {};
+    }
+}
+
+Qt::ItemFlags CellTableModel::flags(const QModelIndex& index) const {
+    const Qt::ItemFlags plain = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    const bool editable = mayEdit_ && mayEdit_(tableRow(index), tableColumn(index));
+    return editable ? plain | Qt::ItemIsEditable : plain;
+}
+
+bool CellTableModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (!index.isValid() || role != Qt::EditRole || !edit_) return false;
+    const int row = tableRow(index);
+    const int column = tableColumn(index);
+    const Text text = typed(value.toString());
+    if (text == grid_->text(row, column)) return false; // looked at, not changed
+    edit_(row, column, text);
+    return true;
+}
+
+} // namespace quillon

@@ -1,0 +1,230 @@
+#include "desktop/main_window.h"
+
+#include "core/race_card.h"
+#include "desktop/analysis_panel.h"
+#include "desktop/board_panel.h"
+#include "desktop/choice_dialog.h"
+#include "desktop/desktop_ports.h"
+#include "desktop/empty_panel.h"
+#include "desktop/fault_journal_dialog.h"
+#include "desktop/find_bar.h"
+#include "desktop/header_panel.h"
+#include "desktop/menus.h"
+#include "desktop/overview_panel.h"
+#include "desktop/past_lines_panel.h"
+#include "desktop/race_bar.h"
+#include "desktop/race_list_panel.h"
+#include "desktop/race_panel.h"
+#include "desktop/shown_text.h"
+#include "desktop/stars_window.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QSettings>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace quillon {
+
+MainWindow::MainWindow(Appearance& appearance, QWidget* parent)
+    : QMainWindow{parent}, appearance_{appearance}, ports_{new DesktopPorts{*this, appearance}} {
+    setObjectName("MainWindow");
+    buildPages();
+    buildDocks();
+    buildMenus();
+    stars_ = new StarsWindow{runner_, appearance_, this};
+    choices_ = new ChoiceDialog{runner_, appearance_, this};
+    connect(&runner_, &CommandRunner::ran, this, &MainWindow::refresh);
+    connect(&runner_, &CommandRunner::ran, this, &MainWindow::takeUpEnd, Qt::QueuedConnection);
+    resize(appearance_.pixels(theScreen.width), appearance_.pixels(theScreen.height));
+    restoreLook();
+    refresh();
+}
+
+MainWindow::~MainWindow() { delete ports_; }
+
+void MainWindow::buildPages() {
+    auto* centre = new QWidget{this};
+    auto* column = new QVBoxLayout{centre};
+    column->setContentsMargins(6, 4, 6, 2);
+    column->setSpacing(4);
+    raceBar_ = new RaceBar{runner_, appearance_, centre};
+    pages_ = new QStackedWidget{centre};
+    find_ = new FindBar{centre};
+    column->addWidget(raceBar_);
+    column->addWidget(pages_, 1);
+    column->addWidget(find_);
+
+    racePage_ = new QWidget{pages_};
+    auto* race = new QVBoxLayout{racePage_};
+    race->setContentsMargins(0, 0, 0, 0);
+    race->setSpacing(4);
+    header_ = new HeaderPanel{appearance_, racePage_};
+    race_ = new RacePanel{runner_, appearance_, racePage_};
+    board_ = new BoardPanel{runner_, appearance_, racePage_};
+    pastLines_ = new PastLinesPanel{runner_, appearance_, racePage_};
+    race->addWidget(header_);
+    race->addWidget(race_);
+    race->addWidget(board_);
+    race->addWidget(pastLines_, 1);
+
+    analysis_ = new AnalysisPanel{runner_, appearance_, pages_};
+    overview_ = new OverviewPanel{runner_, appearance_, pages_};
+    empty_ = new EmptyPanel{runner_, appearance_, pages_};
+    for (QWidget* page : {racePage_, static_cast<QWidget*>(analysis_), static_cast<QWidget*>(overview_),
+                          static_cast<QWidget*>(empty_)})
+        pages_->addWidget(page);
+    setCentralWidget(centre);
+    statusBar(); // hints of the menus
+}
+
+void MainWindow::buildDocks() {
+    auto* dock = new QDockWidget{tr("Races"), this};
+    dock->setObjectName("RaceListDock");
+    dock->setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+    raceList_ = new RaceListPanel{runner_, appearance_, dock};
+    dock->setWidget(raceList_);
+    addDockWidget(Qt::LeftDockWidgetArea, dock);
+    dock->hide();
+}
+
+void MainWindow::buildMenus() {
+    menus_ = new Menus{*menuBar(), runner_, this};
+    buildViewMenu();
+    buildHelpMenu();
+}
+
+void MainWindow::buildViewMenu() {
+    auto* view = new QMenu{tr("&View"), this};
+    view->setToolTipsVisible(true);
+    menuBar()->insertMenu(menus_->menu(Menu::tools)->menuAction(), view);
+    const auto add = [&](const QString& text, const QList<QKeySequence>& keys, const QString& hint,
+                         auto&& slot) {
+        QAction* action = view->addAction(text);
+        action->setShortcuts(keys);
+        action->setStatusTip(hint);
+        connect(action, &QAction::triggered, this, slot);
+        return action;
+    };
+    overviewAction_ = add(tr("Card &Overview"), {QKeySequence{"F4"}}, tr("All races of the card at a glance"),
+                          [this](bool wanted) { showOverview(wanted); });
+    overviewAction_->setObjectName("Overview");
+    overviewAction_->setCheckable(true);
+    QAction* list = findChild<QDockWidget*>("RaceListDock")->toggleViewAction();
+    list->setText(tr("Race &List"));
+    list->setShortcut(QKeySequence{"F3"});
+    list->setStatusTip(tr("The list of the card's races; a double click opens one"));
+    view->addAction(list);
+    view->addSeparator();
+    add(tr("&Find..."), {QKeySequence::Find}, tr("Find a text in the table"), [this] { find_->open(); });
+    add(tr("Find &Next"), {QKeySequence{"Ctrl+G"}}, tr("Find the text once more"),
+        [this] { find_->findNext(); });
+    view->addSeparator();
+    add(tr("Zoom &In"), {QKeySequence{"Ctrl++"}, QKeySequence{"Ctrl+="}}, tr("Larger"),
+        [this] { appearance_.zoomBy(1); });
+    add(tr("Zoom &Out"), {QKeySequence{"Ctrl+-"}}, tr("Smaller"), [this] { appearance_.zoomBy(-1); });
+    add(tr("&Normal Size"), {QKeySequence{"Ctrl+0"}}, tr("As large as designed"),
+        [this] { appearance_.setZoom(100); });
+    view->addSeparator();
+
+    struct ThemeItem {
+        Theme theme;
+        const char* name;
+        const char* caption;
+    };
+    constexpr std::array themes{ThemeItem{Theme::system, "ThemeSystem", "As the &Desktop"},
+                                ThemeItem{Theme::light, "ThemeLight", "&Light"},
+                                ThemeItem{Theme::dark, "ThemeDark", "&Dark"}};
+    QMenu* themeMenu = view->addMenu(tr("&Theme"));
+    auto* group = new QActionGroup{this};
+    for (const ThemeItem& item : themes) {
+        QAction* action = themeMenu->addAction(tr(item.caption));
+        action->setObjectName(item.name);
+        action->setCheckable(true);
+        action->setChecked(item.theme == appearance_.theme());
+        group->addAction(action);
+        connect(action, &QAction::triggered, this,
+                [this, theme = item.theme] { appearance_.setTheme(theme); });
+    }
+}
+
+void MainWindow::buildHelpMenu() {
+    QMenu* help = menus_->menu(Menu::help);
+    help->addSeparator();
+    QAction* journal = help->addAction(tr("&Fault Journal..."));
+    journal->setObjectName("FaultJournal");
+    journal->setStatusTip(tr("What was passed over in tables and files since the start"));
+    connect(journal, &QAction::triggered, this, [this] {
+        if (!journal_) journal_ = new FaultJournalDialog{appearance_, this};
+        journal_->refresh();
+        journal_->show();
+        journal_->raise();
+        journal_->activateWindow();
+    });
+}
+
+QWidget* MainWindow::pageWanted() const {
+    const bool showsTable = theScreen.summaryVisible || theScreen.profileVisible || theScreen.tracksVisible ||
+                            theScreen.picksVisible;
+    if (showsTable) return analysis_;
+    if (card.raceCount == 0) return empty_;
+    return overviewWanted_ ? static_cast<QWidget*>(overview_) : racePage_;
+}
+
+void MainWindow::showOverview(bool wanted) {
+    overviewWanted_ = wanted;
+    refresh();
+}
+
+void MainWindow::refresh() {
+    setWindowTitle(shown(theScreen.caption));
+    menus_->refresh();
+    raceBar_->refresh();
+    header_->refresh();
+    race_->refresh();
+    board_->refresh();
+    pastLines_->refresh();
+    analysis_->refresh();
+    overview_->refresh();
+    empty_->refresh();
+    raceList_->refresh();
+    stars_->refresh();
+    choices_->refresh();
+    overviewAction_->setEnabled(card.raceCount > 0);
+    overviewAction_->setChecked(overviewWanted_);
+    pages_->setCurrentWidget(pageWanted());
+}
+
+void MainWindow::takeUpEnd() {
+    if (ports_->ended()) close();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!ports_->ended()) runner_.run("CloseWindow");
+    if (!ports_->ended()) return event->ignore();
+    keepLook();
+    event->accept();
+    stars_->close();
+    QApplication::quit();
+}
+
+void MainWindow::restoreLook() {
+    const QSettings settings;
+    appearance_.setZoom(settings.value("zoom", appearance_.zoom()).toInt());
+    restoreGeometry(settings.value("geometry").toByteArray());
+    restoreState(settings.value("state").toByteArray());
+}
+
+void MainWindow::keepLook() const {
+    QSettings settings;
+    settings.setValue("geometry", saveGeometry());
+    settings.setValue("state", saveState());
+    settings.setValue("zoom", appearance_.zoom());
+    settings.setValue("theme", static_cast<int>(appearance_.theme()));
+}
+
+} // namespace quillon

@@ -1,0 +1,82 @@
+// The window: it renders the screen and sends back commands with an index. No rule of racing lives here.
+#pragma once
+
+#include "desktop/appearance.h"
+#include "desktop/command_runner.h"
+
+#include <QMainWindow>
+#include <QStackedWidget>
+
+namespace quillon {
+
+class AnalysisPanel;
+class BoardPanel;
+class ChoiceDialog;
+class DesktopPorts;
+class EmptyPanel;
+class FaultJournalDialog;
+class FindBar;
+class HeaderPanel;
+class Menus;
+class OverviewPanel;
+class PastLinesPanel;
+class RaceBar;
+class RaceListPanel;
+class RacePanel;
+class StarsWindow;
+
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit MainWindow(Appearance& appearance, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    CommandRunner& runner() { return runner_; }
+    Menus& menus() { return *menus_; }
+    DesktopPorts& outside() { return *ports_; }
+
+    /// Draws everything that the screen holds now.
+    void refresh();
+
+    bool overviewShown() const { return overviewWanted_; }
+    void showOverview(bool wanted);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void buildPages();
+    void buildDocks();
+    void buildMenus();
+    void buildViewMenu();
+    void buildHelpMenu();
+    void restoreLook();
+    void keepLook() const;
+    void takeUpEnd();
+    QWidget* pageWanted() const;
+
+    Appearance& appearance_;
+    CommandRunner runner_;
+    DesktopPorts* ports_ = nullptr;
+    Menus* menus_ = nullptr;
+    RaceBar* raceBar_ = nullptr;
+    HeaderPanel* header_ = nullptr;
+    RacePanel* race_ = nullptr;
+    BoardPanel* board_ = nullptr;
+    PastLinesPanel* pastLines_ = nullptr;
+    AnalysisPanel* analysis_ = nullptr;
+    OverviewPanel* overview_ = nullptr;
+    EmptyPanel* empty_ = nullptr;
+    RaceListPanel* raceList_ = nullptr;
+    StarsWindow* stars_ = nullptr;
+    ChoiceDialog* choices_ = nullptr;
+    FaultJournalDialog* journal_ = nullptr;
+    FindBar* find_ = nullptr;
+    QStackedWidget* pages_ = nullptr;
+    QWidget* racePage_ = nullptr;
+    QAction* overviewAction_ = nullptr;
+    bool overviewWanted_ = false;
+};
+
+} // namespace quillon

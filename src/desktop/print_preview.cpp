@@ -1,0 +1,1 @@
+#include "desktop/print_preview.h"

@@ -1,0 +1,34 @@
+// The row above everything: the Start button, the arrows, and a button for each race.
+#pragma once
+
+#include "desktop/appearance.h"
+#include "desktop/command_runner.h"
+
+#include <QPushButton>
+#include <QToolButton>
+#include <QWidget>
+
+#include <vector>
+
+namespace quillon {
+
+class RaceBar : public QWidget {
+    Q_OBJECT
+
+public:
+    RaceBar(CommandRunner& runner, Appearance& appearance, QWidget* parent = nullptr);
+
+    void refresh();
+
+private:
+    void lay();
+
+    CommandRunner& runner_;
+    Appearance& appearance_;
+    QPushButton* start_;
+    QToolButton* previous_;
+    QToolButton* next_;
+    std::vector<QPushButton*> races_; ///< race n at n - 1
+};
+
+} // namespace quillon

@@ -1,0 +1,28 @@
+#include "desktop/shown_text.h"
+
+#include "core/code_page.h"
+
+namespace quillon {
+
+QString shown(TextView text) { return QString::fromStdString(toUtf8(text)); }
+
+Text typed(const QString& text) {
+    constexpr QChar lineSeparator{0x2028};
+    constexpr QChar paragraphSeparator{0x2029};
+    QString plain = text;
+    for (QChar& character : plain) {
+        const bool isControl = character < QChar{' '} || character == QChar{0x7F};
+        if (isControl || character == lineSeparator || character == paragraphSeparator)
+            character = QChar{' '};
+    }
+    return fromUtf8(plain.toStdString());
+}
+
+QColor legibleOn(const QColor& background) {
+    // Weights of the eye for red, green and blue; above the middle the background counts as light.
+    const double lightness =
+        0.299 * background.red() + 0.587 * background.green() + 0.114 * background.blue();
+    return lightness > 127.5 ? Qt::black : Qt::white;
+}
+
+} // namespace quillon

@@ -1,0 +1,1 @@
+#include "desktop/text_viewer.h"
