@@ -8,6 +8,7 @@
 
 int main(int argc, char** argv) {
     QApplication application{argc, argv};
+    QApplication::setOrganizationName("Quillon"); // names the file of the window's settings
     QApplication::setApplicationName("Quillon");
     QApplication::setApplicationDisplayName("Quillon");
     QApplication::setApplicationVersion(QUILLON_VERSION);

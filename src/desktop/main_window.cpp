@@ -126,8 +126,8 @@ void MainWindow::buildViewMenu() {
     view->addSeparator();
     add(tr("Zoom &In"), {QKeySequence{"Ctrl++"}, QKeySequence{"Ctrl+="}}, tr("Larger"),
         [this] { appearance_.zoomBy(1); });
-    add(tr("Zoom &Out"), {QKeySequence{"Ctrl+-"}}, tr("Smaller"), [this] { appearance_.zoomBy(-1); });
-    add(tr("&Normal Size"), {QKeySequence{"Ctrl+0"}}, tr("As large as designed"),
+    add(tr("Zoom O&ut"), {QKeySequence{"Ctrl+-"}}, tr("Smaller"), [this] { appearance_.zoomBy(-1); });
+    add(tr("Normal &Size"), {QKeySequence{"Ctrl+0"}}, tr("As large as designed"),
         [this] { appearance_.setZoom(100); });
     view->addSeparator();
 
@@ -138,7 +138,7 @@ void MainWindow::buildViewMenu() {
     };
     constexpr std::array themes{ThemeItem{Theme::system, "ThemeSystem", "As the &Desktop"},
                                 ThemeItem{Theme::light, "ThemeLight", "&Light"},
-                                ThemeItem{Theme::dark, "ThemeDark", "&Dark"}};
+                                ThemeItem{Theme::dark, "ThemeDark", "Dar&k"}};
     QMenu* themeMenu = view->addMenu(tr("&Theme"));
     auto* group = new QActionGroup{this};
     for (const ThemeItem& item : themes) {
@@ -180,7 +180,14 @@ void MainWindow::showOverview(bool wanted) {
     refresh();
 }
 
+// Whoever walks on to another race wants to see it.
+void MainWindow::leaveOverviewWithTheRace() {
+    if (theScreen.header.race != raceShown_) overviewWanted_ = false;
+    raceShown_ = theScreen.header.race;
+}
+
 void MainWindow::refresh() {
+    leaveOverviewWithTheRace();
     setWindowTitle(shown(theScreen.caption));
     menus_->refresh();
     raceBar_->refresh();

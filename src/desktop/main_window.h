@@ -54,6 +54,7 @@ private:
     void restoreLook();
     void keepLook() const;
     void takeUpEnd();
+    void leaveOverviewWithTheRace();
     QWidget* pageWanted() const;
 
     Appearance& appearance_;
@@ -77,6 +78,7 @@ private:
     QWidget* racePage_ = nullptr;
     QAction* overviewAction_ = nullptr;
     bool overviewWanted_ = false;
+    Text raceShown_; ///< at the last refresh
 };
 
 } // namespace quillon

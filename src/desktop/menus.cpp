@@ -32,7 +32,7 @@ constexpr std::array itemKeys{
     ItemKeys{"Start",                 'S', "F5",        "Load and rate the card of the vendor's tables"},
     ItemKeys{"Next",                  'N', "Alt+Right", "Store the board and go to the next race"},
     ItemKeys{"Previous",              'P', "Alt+Left",  "Store the board and go to the race before"},
-    ItemKeys{"Command7",              'd', "Ctrl+L",    "Take another past line for the entry on show, by its number"},
+    ItemKeys{"Command7",              'i', "Ctrl+L",    "Take another past line for the entry on show, by its number"},
     ItemKeys{"MainScreen",            'M', "Ctrl+M",    "Back to the races"},
     ItemKeys{"Entries",               'E', "F9",        "Write the list of the card's entries and read it"},
     ItemKeys{"ViewSummary",           'V', "F6",        "Read the selection sheet"},
@@ -59,7 +59,7 @@ constexpr std::array itemKeys{
     // Analysis
     ItemKeys{"SelectionResults",      'S', "F12",       "What the selections of this card earned"},
     ItemKeys{"Star",                  't', "",          "How the first selections did as win bets, by margin and odds"},
-    ItemKeys{"Track_Profile",         'T', "",          "Wins of the first selections by track and by track size"},
+    ItemKeys{"Track_Profile",         'r', "",          "Wins of the first selections by track and by track size"},
     ItemKeys{"Pick3Results",          'P', "",          "The picks beside the winners and the payoffs of the pick wagers"},
     // Betting Profiles
     ItemKeys{"ALL",                   'A', "",          "All recorded cards"},

@@ -38,7 +38,7 @@ void enterFolder(const QString& folder) {
 
 void enterWorkingFolder() {
     if (hasTrackTable()) return;
-    enterFolder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    enterFolder(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/Quillon");
 }
 
 QString sourceFolderOnDisk() {

@@ -1,1 +1,203 @@
-#include "desktop/window_test.h"
+#include "desktop/main_window_test.h"
+
+#include "core/race_card.h"
+#include "desktop/shown_text.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QStackedWidget>
+
+#include <set>
+
+namespace quillon {
+namespace {
+
+// The names of all commands that some widget or menu item of the window sends.
+std::set<std::string> commandsSentBy(const QObject& root) {
+    std::set<std::string> names;
+    for (const QObject* object : root.findChildren<QObject*>()) {
+        const QVariant command = object->property("command");
+        if (command.isValid()) names.insert(command.toString().toStdString());
+    }
+    return names;
+}
+
+TEST_F(MainWindowTest, NoCommandOfTheTableIsMissingFromTheWindow) {
+    const auto sent = commandsSentBy(*window);
+    for (const Command& command : commandTable()) {
+        if (command.name == std::string_view{"CloseWindow"}) continue; // the window's own close control
+        EXPECT_TRUE(sent.contains(command.name)) << command.name;
+    }
+}
+
+TEST_F(MainWindowTest, EveryMenuItemHasItsCommandsCaptionAKeyAndAHint) {
+    for (const Command& command : commandTable()) {
+        if (command.menu == Menu::none) continue;
+        const QAction* action = window->menus().action(command.name);
+        ASSERT_TRUE(action) << command.name;
+        QString caption = action->text();
+        EXPECT_TRUE(caption.contains(QRegularExpression{"&[^&]"}))
+            << command.name << " has no underlined letter";
+        caption.replace("&&", "\x01").remove('&').replace("\x01", "&");
+        EXPECT_EQ(QString{command.caption}.simplified(), caption) << command.name;
+        EXPECT_FALSE(action->statusTip().isEmpty()) << command.name;
+    }
+}
+
+TEST_F(MainWindowTest, NoLetterIsUnderlinedTwiceInAMenuAndNoShortcutGivenTwice) {
+    std::set<QString> shortcuts;
+    for (const QMenu* menu : window->findChildren<QMenu*>()) {
+        std::set<QChar> letters;
+        for (const QAction* action : menu->actions()) {
+            if (!action->isVisible()) continue;
+            for (const QKeySequence& keys : action->shortcuts())
+                EXPECT_TRUE(shortcuts.insert(keys.toString()).second) << keys.toString().toStdString();
+            const auto at = action->text().indexOf(QRegularExpression{"&[^&]"});
+            if (at < 0) continue;
+            EXPECT_TRUE(letters.insert(action->text().at(at + 1).toUpper()).second)
+                << action->text().toStdString() << " in " << menu->title().toStdString();
+        }
+    }
+}
+
+void expectMenusAsOnScreen(MainWindow& window) {
+    for (const Command& command : commandTable()) {
+        if (command.menu == Menu::none || !command.item) continue;
+        const MenuState& state = screen.item(*command.item);
+        const QAction* action = window.menus().action(command.name);
+        EXPECT_EQ(state.visible, action->isVisible()) << command.name;
+        EXPECT_EQ(state.enabled && state.visible, action->isEnabled()) << command.name;
+        EXPECT_EQ(state.checked, action->isChecked()) << command.name;
+    }
+}
+
+TEST_F(MainWindowTest, MenuStatesAreTheScreensBeforeAndBehindALoad) {
+    expectMenusAsOnScreen(*window);
+    startInWindow();
+    expectMenusAsOnScreen(*window);
+    choose("SelectionResults");
+    expectMenusAsOnScreen(*window);
+    choose("MainScreen");
+    expectMenusAsOnScreen(*window);
+}
+
+TEST_F(MainWindowTest, AMarkInAMenuIsTheScreensNotTheClicks) {
+    startInWindow();
+    choose("HeatWinner");
+    EXPECT_TRUE(window->menus().action("HeatWinner")->isChecked());
+    pressKeys("Alt+Right"); // the next race takes the mark away
+    EXPECT_FALSE(window->menus().action("HeatWinner")->isChecked());
+}
+
+TEST_F(MainWindowTest, StartLoadsTheCardAndEndsOnRaceOne) {
+    startInWindow();
+    EXPECT_GT(card.raceCount, 0);
+    auto& start = child<QAbstractButton>(*window, "Start");
+    EXPECT_EQ("Select Race", start.text());
+    EXPECT_FALSE(start.isEnabled());
+    EXPECT_EQ("RACE 1", child<QLabel>(*window, "race").text());
+    EXPECT_EQ(quillon::shown(screen.caption), window->windowTitle());
+}
+
+TEST_F(MainWindowTest, RaceButtonsShowTheirRaceAndTheCurrentOneIsRed) {
+    startInWindow();
+    auto& third = child<QAbstractButton>(*window, "RaceButton3");
+    EXPECT_EQ(quillon::shown(screen.raceButtons[3].caption), third.text());
+    click(third);
+    EXPECT_EQ("3", screen.header.race);
+    EXPECT_EQ("RACE 3", child<QLabel>(*window, "race").text());
+    EXPECT_TRUE(third.styleSheet().contains("#ff0000"));
+    EXPECT_FALSE(child<QAbstractButton>(*window, "RaceButton1").styleSheet().contains("#ff0000"));
+    EXPECT_EQ(screen.raceButtons[20].visible, child<QAbstractButton>(*window, "RaceButton20").isVisible());
+}
+
+TEST_F(MainWindowTest, ArrowsAndTheirKeysWalkTheRaces) {
+    startInWindow();
+    click(child<QAbstractButton>(*window, "Next"));
+    EXPECT_EQ("2", screen.header.race);
+    pressKeys("Alt+Right");
+    EXPECT_EQ("3", screen.header.race);
+    click(child<QAbstractButton>(*window, "Previous"));
+    EXPECT_EQ("2", screen.header.race);
+    pressKeys("Alt+Left");
+    EXPECT_EQ("1", screen.header.race);
+}
+
+TEST_F(MainWindowTest, TheHeadingShowsTheRacesConditions) {
+    startInWindow();
+    const QString conditions = child<QLabel>(*window, "conditions").text();
+    for (const Text* part : {&screen.header.postTime, &screen.header.gait, &screen.header.purse})
+        EXPECT_TRUE(conditions.contains(quillon::shown(*part).trimmed())) << *part;
+    EXPECT_EQ(quillon::shown(screen.header.classText).simplified(),
+              child<QLabel>(*window, "classText").text());
+    EXPECT_EQ(quillon::shown(screen.header.wagering).simplified(), child<QLabel>(*window, "wagering").text());
+}
+
+TEST_F(MainWindowTest, TheCloseControlAsksAndNoKeepsTheWindow) {
+    EXPECT_FALSE(window->close());
+    EXPECT_TRUE(window->isVisible());
+    ASSERT_FALSE(shown.empty());
+    EXPECT_EQ("question: Are you sure you want to exit Quillon? -> No", shown.back());
+    answers.push_back("Yes");
+    EXPECT_TRUE(window->close());
+}
+
+TEST_F(MainWindowTest, ExitEndsWithoutAQuestion) {
+    choose("Exit_QL");
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ((std::vector<std::string>{"end"}), shown);
+}
+
+TEST_F(MainWindowTest, NoCommandRunsWhileAnotherOneWaitsForAnAnswer) {
+    startInWindow();
+    bool nested = true;
+    bool closed = true;
+    ports.question = [&](const Text&, const Text&) {
+        nested = window->runner().run("Next");
+        closed = window->close();
+        return false;
+    };
+    window->runner().run("Command4", numberArgument(1));
+    EXPECT_FALSE(nested);
+    EXPECT_FALSE(closed);
+    EXPECT_EQ("1", screen.header.race);
+}
+
+TEST_F(MainWindowTest, TheOverviewIsOneKeyAwayAndGoesWithAnotherRace) {
+    EXPECT_FALSE(window->overviewShown());
+    startInWindow();
+    EXPECT_FALSE(window->overviewShown());
+    pressKeys("F4");
+    EXPECT_TRUE(window->overviewShown());
+    pressKeys("Alt+Right");
+    EXPECT_FALSE(window->overviewShown());
+}
+
+TEST_F(MainWindowTest, KeysZoomAndTheZoomIsRemembered) {
+    pressKeys("Ctrl++");
+    EXPECT_EQ(110, appearance.zoom());
+    pressKeys("Ctrl+-");
+    pressKeys("Ctrl+-");
+    EXPECT_EQ(90, appearance.zoom());
+    answers.push_back("Yes");
+    window->close();
+    appearance.setZoom(100);
+    window.reset();
+    const MainWindow again{appearance};
+    EXPECT_EQ(90, appearance.zoom());
+    appearance.setZoom(100);
+    QSettings{}.clear();
+}
+
+TEST_F(MainWindowTest, StartWithoutTablesChangesNothingAndSaysWhereTheyGo) {
+    click(child<QAbstractButton>(*window, "Start"));
+    EXPECT_EQ(0, card.raceCount);
+    EXPECT_TRUE(child<QAbstractButton>(*window, "Start").isEnabled());
+    EXPECT_TRUE(shown.empty());
+}
+
+} // namespace
+} // namespace quillon

@@ -1,0 +1,40 @@
+// A whole window whose ways to the outside are recorders, so that no dialog waits for an answer.
+#pragma once
+
+#include "app/ports.h"
+#include "desktop/desktop_ports.h"
+#include "desktop/main_window.h"
+#include "desktop/menus.h"
+#include "desktop/window_test.h"
+
+#include <optional>
+
+namespace quillon {
+
+class MainWindowTest : public WindowTest {
+protected:
+    MainWindowTest() {
+        const Ports recorders = ports;
+        window.emplace(appearance);
+        const auto end = ports.end;
+        ports = recorders;
+        ports.end = [this, end, recorded = recorders.end] {
+            recorded();
+            end();
+        };
+        window->show();
+    }
+
+    /// The sample card loaded through the window.
+    void startInWindow() {
+        putSampleCard();
+        click(child<QAbstractButton>(*window, "Start"));
+    }
+
+    void pressKeys(const char* shortcut) { QTest::keySequence(&*window, QKeySequence{shortcut}); }
+    void choose(const char* command) { window->menus().action(command)->trigger(); }
+
+    std::optional<MainWindow> window;
+};
+
+} // namespace quillon
