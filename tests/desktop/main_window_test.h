@@ -23,6 +23,8 @@ protected:
             end();
         };
         window->show();
+        window->activateWindow(); // shortcuts belong to the active window
+        if (!QTest::qWaitForWindowActive(&*window)) throw std::runtime_error("the window is not active");
     }
 
     /// The sample card loaded through the window.
