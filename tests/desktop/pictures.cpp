@@ -1,0 +1,188 @@
+// Makes the pictures of the user's guide: walks the sample card through the real window and grabs what it
+// shows.
+//
+//     quillon_pictures FOLDER WIDTH HEIGHT light|dark
+#include "app/ports.h"
+#include "app/start_up.h"
+#include "core/files.h"
+#include "desktop/board_panel.h"
+#include "desktop/fault_journal_dialog.h"
+#include "desktop/main_window.h"
+#include "desktop/menus.h"
+#include "desktop/stars_window.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QDockWidget>
+#include <QFile>
+#include <QLineEdit>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdio>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace quillon {
+namespace {
+
+constexpr const char* results = "A Quillon PRO/Results/MVR_20260314.pmr";
+
+void layOutSample() {
+    const std::filesystem::path samples{SAMPLE_FOLDER};
+    std::filesystem::copy(samples / "A Quillon PRO", "A Quillon PRO",
+                          std::filesystem::copy_options::recursive);
+    for (const char* settings : {"TrackEditor.ini", "CrossOver.ini", "Webpage.ini"})
+        std::filesystem::copy(samples / settings, settings);
+    std::filesystem::create_directories("A Quillon PRO/Results");
+}
+
+// Some years of cards, for the profiles: the recorded card again under other dates.
+void repeatRecordedCard() {
+    const Text recorded = readFile({Folder::working, "HRA.ini"});
+    Text archive;
+    for (int year = 2024; year <= 2026; ++year)
+        for (int month = 1; month <= 12; ++month) {
+            Text line = recorded;
+            const Text number = std::to_string(year * 10000 + month * 100 + 14);
+            archive += line.replace(6, number.size(), number);
+        }
+    writeFile({Folder::working, "HRA.ini"}, archive);
+}
+
+class Pictures {
+public:
+    Pictures(QString folder, QSize size, Theme theme) : folder_{std::move(folder)}, window_{appearance_} {
+        // Pictures take no answers: every question is answered Yes, every message is passed over.
+        ports.message = [](auto&, auto&) {};
+        ports.question = [](auto&, auto&) { return true; };
+        appearance_.setTheme(theme);
+        window_.resize(size);
+        window_.show();
+    }
+
+    void takeAll() {
+        take("empty");
+        layOutSample();
+        run("Start");
+        take("race");
+        show("Overview");
+        take("overview");
+        run("RaceButton", numberArgument(3));
+        run("EntryButton", numberArgument(2));
+        take("past-lines");
+        run("Command3", numberArgument(2));
+        take("line-taken");
+        run("Command3", numberArgument(0));
+        run("Command4", numberArgument(4));
+        take("scratched");
+        run("DriverColumn", numberArgument(2));
+        take("driver-list");
+        run("DriverChoice", textArgument("EXIT"));
+        QFile::copy(QString{SAMPLE_FOLDER} + "/results/MVR_20260314-words.txt", results);
+        run("EBET");
+        take("results");
+        run("RaceButton", numberArgument(7));
+        take("dead-heat");
+        run("SelectionResults");
+        take("summary");
+        run("Record");
+        run("MainScreen");
+        repeatRecordedCard();
+        run("ALL");
+        take("profile");
+        run("Track_Profile");
+        take("tracks");
+        run("Pick3Results");
+        take("picks");
+        run("MainScreen");
+        run("Star");
+        run("MarginChoice", textArgument("ALL Margins"));
+        run("OddsChoice", textArgument("ALL Odds"));
+        run("MaxOddsChoice", textArgument("ALL Odds"));
+        takeOf(*window_.findChild<StarsWindow*>(), "stars");
+        run("MainScreen");
+        run("HeatWinner");
+        take("heat");
+        run("Save");
+        run("CloseRC");
+        run("RecallRaceCard");
+        take("recall");
+        show("FaultJournal");
+        takeOf(*window_.findChild<FaultJournalDialog*>(), "fault-journal");
+    }
+
+    bool failed() const { return failed_; }
+
+private:
+    void run(const char* command, const Arguments& arguments = {}) {
+        if (window_.runner().run(command, arguments)) return;
+        std::fprintf(stderr, "%s could not be run\n", command);
+        failed_ = true;
+    }
+
+    void show(const char* action) { window_.findChild<QAction*>(action)->trigger(); }
+
+    void take(const char* name) {
+        // A dialog over the window belongs to the picture.
+        QTest::qWait(50);
+        QPixmap picture = window_.grab();
+        for (QWidget* over : QApplication::topLevelWidgets()) {
+            if (over == &window_ || !over->isVisible() || over->windowFlags().testFlag(Qt::ToolTip)) continue;
+            const QPoint place =
+                (QPoint{window_.width(), window_.height()} - QPoint{over->width(), over->height()}) / 2;
+            over->render(&picture, place);
+        }
+        keep(picture, name);
+    }
+
+    void takeOf(QWidget& widget, const char* name) {
+        QTest::qWait(50);
+        keep(widget.grab(), name);
+    }
+
+    void keep(const QPixmap& picture, const char* name) {
+        const QString file = QStringLiteral("%1/%2.png").arg(folder_, QString{name});
+        if (picture.save(file)) return;
+        std::fprintf(stderr, "%s could not be written\n", file.toUtf8().constData());
+        failed_ = true;
+    }
+
+    QString folder_;
+    Appearance appearance_;
+    MainWindow window_;
+    bool failed_ = false;
+};
+
+int takePictures(const QStringList& arguments) {
+    if (arguments.size() != 5) {
+        std::fprintf(stderr, "usage: quillon_pictures FOLDER WIDTH HEIGHT light|dark\n");
+        return 2;
+    }
+    QDir{}.mkpath(arguments[1]);
+    const QString folder = QDir{arguments[1]}.absolutePath();
+    QTemporaryDir work;
+    QDir::setCurrent(work.path());
+    StartUp();
+    Pictures pictures{folder,
+                      {arguments[2].toInt(), arguments[3].toInt()},
+                      arguments[4] == "dark" ? Theme::dark : Theme::light};
+    pictures.takeAll();
+    QDir::setCurrent(folder);
+    return pictures.failed() ? 1 : 0;
+}
+
+} // namespace
+} // namespace quillon
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QStandardPaths::setTestModeEnabled(true);
+    QApplication application{argc, argv};
+    QApplication::setOrganizationName("Quillon tests");
+    QApplication::setApplicationName("quillon-pictures");
+    return quillon::takePictures(QApplication::arguments());
+}
