@@ -9,7 +9,9 @@ namespace {
 
 constexpr int raceButtonTwips = 480;
 const char* const currentStyle =
-    "QPushButton { background-color: #ff0000; color: white; font-weight: bold; }";
+    "QPushButton { background-color: #ff0000; color: white; border: 1px solid #900000; border-radius: 3px;"
+    " padding: 3px; }"
+    "QPushButton:focus { border: 2px solid black; }";
 
 } // namespace
 
