@@ -1,26 +1,18 @@
 // Start, from the vendor's tables to the written reports.
 #include "app/start_up.h"
-#include "card_generator.h"
-#include "card_tables.h"
 #include "core/journal.h"
+#include "loaded_card.h"
 #include "source/card_load.h"
-#include "tracks.h"
 #include "working_folder.h"
 
 #include <benchmark/benchmark.h>
 
-#include <fstream>
-
 namespace quillon::bench {
 namespace {
 
-void StartOnTheLargestCard(benchmark::State& state) {
+void start(benchmark::State& state, int races) {
     const WorkingFolder folder;
-    if (!samples::writeCard(samples::generateCard(samples::largestCard()), ".")) {
-        state.SkipWithError("the tables can't be written");
-        return;
-    }
-    std::ofstream{"TrackEditor.ini", std::ios::binary} << samples::trackEditorText();
+    if (!writeTables(races)) return state.SkipWithError("the tables can't be written");
     for ([[maybe_unused]] auto run : state) {
         state.PauseTiming();
         journal.clear();
@@ -31,7 +23,12 @@ void StartOnTheLargestCard(benchmark::State& state) {
     state.counters["faults"] = static_cast<double>(journal.count());
     state.counters["expected"] = static_cast<double>(journal.expected());
 }
+
+void StartOnTheLargestCard(benchmark::State& state) { start(state, largestRaces); }
 BENCHMARK(StartOnTheLargestCard)->Unit(benchmark::kMillisecond);
+
+void StartOnACardOfSoManyRaces(benchmark::State& state) { start(state, static_cast<int>(state.range(0))); }
+BENCHMARK(StartOnACardOfSoManyRaces)->Arg(3)->Arg(6)->Arg(12)->Arg(24)->Unit(benchmark::kMillisecond);
 
 void ProgramStartUp(benchmark::State& state) {
     const WorkingFolder folder;
