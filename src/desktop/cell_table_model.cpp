@@ -21,8 +21,7 @@ QVariant foreground(const Cell& cell) {
     return {};
 }
 
-QVariant font(const Cell& cell) {
-    if (!cell.bold) return {};
+QVariant boldFont() {
     QFont bold;
     bold.setBold(true);
     return bold;
@@ -47,13 +46,29 @@ void CellTableModel::show(const Grid* grid, const CellRange& range) {
     endResetModel();
 }
 
-void CellTableModel::refresh() {
-    if (grid_ && grid_->version() != version_) show(grid_, range_);
+bool CellTableModel::refresh() {
+    const bool changed = grid_ && grid_->version() != version_;
+    if (changed) show(grid_, range_);
+    return changed;
 }
 
 void CellTableModel::setRightAligned(int first, int last) {
     firstRight_ = first;
     lastRight_ = last;
+}
+
+void CellTableModel::setBoldRows(int first, int last) {
+    firstBold_ = first;
+    lastBold_ = last;
+}
+
+bool CellTableModel::isBold(int row, const Cell& cell) const {
+    return cell.bold || (row >= firstBold_ && row <= lastBold_);
+}
+
+bool CellTableModel::isEmptyRow(int row) const {
+    const int tableRow = range_.firstRow + row;
+    return !grid_ || tableRow >= grid_->rows() || !hasText(*grid_, tableRow);
 }
 
 void CellTableModel::setEditing(std::function<bool(int, int)> mayEdit,
@@ -91,21 +106,20 @@ QVariant CellTableModel::data(const QModelIndex& index, int role) const {
     case Qt::BackgroundRole:
         return isShaded(cell()) ? QVariant{QBrush{shown(*cell().background)}} : QVariant{};
     case Qt::ForegroundRole: return foreground(cell());
-    case Qt::FontRole: return font(cell());
-    case Qt::TextAlignmentRole:
-        return alignment(column >= firstRight_ && column <= lastRight_ ? Qt::AlignRight : Qt::AlignLeft);
+    case Qt::FontRole: return isBold(row, cell()) ? boldFont() : QVariant{};
+    case Qt::TextAlignmentRole: return alignment(isRightAligned(column) ? Qt::AlignRight : Qt::AlignLeft);
     default: return {};
     }
 }
 
 QVariant CellTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (!grid_ || orientation != Qt::Horizontal) return {};
-    const int column = range_.firstColumn + section;
+    const int column = tableColumn(section);
     if (column >= grid_->columns() || grid_->rows() == 0) return {};
     switch (role) {
     case Qt::DisplayRole: return shown(grid_->text(0, column));
     case Qt::ForegroundRole: return foreground(grid_->read(0, column));
-    case Qt::TextAlignmentRole: return alignment(Qt::AlignLeft);
+    case Qt::TextAlignmentRole: return alignment(isRightAligned(column) ? Qt::AlignRight : Qt::AlignLeft);
     default: return {};
     }
 }
