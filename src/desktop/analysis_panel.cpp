@@ -1,5 +1,6 @@
 #include "desktop/analysis_panel.h"
 
+#include "analysis/profile_cards.h"
 #include "analysis/summary.h"
 #include "desktop/shown_text.h"
 
@@ -41,7 +42,6 @@ constexpr int trackWidth = 1000, sortedWidth = 1000;
 constexpr int wagerWidth = 900;
 // clang-format on
 
-constexpr int profileColumns = 21;
 constexpr int firstBet = 6;
 constexpr int lastBet = 19;
 
