@@ -29,12 +29,6 @@ QVariant boldFont() {
 
 int alignment(Qt::AlignmentFlag side) { return (side | Qt::AlignVCenter).toInt(); }
 
-bool hasText(const Grid& grid, int row) {
-    for (int column = 0; column < grid.columns(); ++column)
-        if (!grid.text(row, column).empty()) return true;
-    return false;
-}
-
 } // namespace
 
 void CellTableModel::show(const Grid* grid, const CellRange& range) {
@@ -68,7 +62,11 @@ bool CellTableModel::isBold(int row, const Cell& cell) const {
 
 bool CellTableModel::isEmptyRow(int row) const {
     const int tableRow = range_.firstRow + row;
-    return !grid_ || tableRow >= grid_->rows() || !hasText(*grid_, tableRow);
+    if (!grid_ || tableRow >= grid_->rows()) return true;
+    const int columns = columnCount();
+    for (int column = 0; column < columns; ++column)
+        if (!grid_->text(tableRow, tableColumn(column)).empty()) return false;
+    return true;
 }
 
 void CellTableModel::setEditing(std::function<bool(int, int)> mayEdit,
@@ -81,7 +79,7 @@ int CellTableModel::rowsOnShow() const {
     if (!grid_) return 0;
     int last = grid_->rows() - 1;
     if (range_.lastRow >= 0) last = std::min(last, range_.lastRow);
-    while (tailHidden_ && last >= range_.firstRow && !hasText(*grid_, last)) --last;
+    while (tailHidden_ && last >= range_.firstRow && isEmptyRow(last - range_.firstRow)) --last;
     return std::max(0, last - range_.firstRow + 1);
 }
 

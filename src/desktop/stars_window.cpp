@@ -148,7 +148,10 @@ void StarsWindow::buildFields(QHBoxLayout& row) {
     startOver_->setObjectName("StarsStartOver");
     startOver_->setProperty("command", "Star");
     startOver_->setToolTip(tr("All recorded races again, and the lists from the first one"));
-    connect(startOver_, &QPushButton::clicked, this, [this] { runner_.run("Star"); });
+    connect(startOver_, &QPushButton::clicked, this, [this] {
+        runner_.run("Star");
+        columns_.front().list->setFocus();
+    });
     row.addWidget(startOver_, 0, Qt::AlignBottom);
 }
 
