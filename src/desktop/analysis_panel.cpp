@@ -105,8 +105,8 @@ AnalysisPanel::AnalysisPanel(CommandRunner& runner, Appearance& appearance, QWid
     buildTracks();
     buildPicks();
     buildButtons(*row);
-    connect(&appearance_, &Appearance::changed, this, &AnalysisPanel::layHeading);
-    layHeading();
+    connect(&appearance_, &Appearance::changed, this, &AnalysisPanel::lay);
+    lay();
 }
 
 CellTableView* AnalysisPanel::newTable(const char* name, const QString& accessibleName, const Grid& grid,
@@ -185,7 +185,10 @@ void AnalysisPanel::buildButtons(QHBoxLayout& row) {
     }
 }
 
-void AnalysisPanel::layHeading() { heading_->setFont(appearance_.viewFont(14, true)); }
+void AnalysisPanel::lay() {
+    heading_->setFont(appearance_.viewFont(14, true));
+    for (QPushButton* button : buttons_) button->setFont(appearance_.viewFont(10, true));
+}
 
 const AnalysisPanel::Page* AnalysisPanel::pageOnShow() const {
     const auto found =

@@ -43,7 +43,7 @@ private:
     void buildButtons(QHBoxLayout& row);
     void refreshButtons();
     const Page* pageOnShow() const;
-    void layHeading();
+    void lay();
 
     CommandRunner& runner_;
     Appearance& appearance_;

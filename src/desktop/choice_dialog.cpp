@@ -20,7 +20,7 @@ namespace quillon {
 namespace {
 
 constexpr TextView exitLine = "EXIT";
-constexpr int dialogWidth = 5600; ///< twips
+constexpr int dialogWidth = 7400; ///< twips
 constexpr int dialogHeight = 6400;
 
 enum CardColumn { fileName, track, date, cardColumns };
@@ -120,6 +120,7 @@ void ChoiceDialog::buildFrame() {
     empty_->setWordWrap(true);
     auto* buttons = new QDialogButtonBox{QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this};
     pick_ = buttons->button(QDialogButtonBox::Ok);
+    cancel_ = buttons->button(QDialogButtonBox::Cancel);
     pick_->setObjectName("ChoicePick");
     pick_->setDefault(true);
     column->addWidget(whose_);
@@ -199,11 +200,13 @@ void ChoiceDialog::lay() {
         page.view->setFont(ofCards ? appearance_.viewFont(points, false) : appearance_.fixedFont(points));
         if (!ofCards) continue;
         const QFontMetrics metrics{page.view->font()};
-        page.view->setColumnWidth(fileName, metrics.horizontalAdvance("MMMMM_00000000.pmd") + 16);
-        page.view->setColumnWidth(track, metrics.horizontalAdvance("MMMMMMM") + 16);
+        page.view->setColumnWidth(fileName, metrics.horizontalAdvance("MMMM_00000000.pmd") + 16);
+        page.view->setColumnWidth(track, metrics.horizontalAdvance("MMMMM") + 16);
     }
     whose_->setFont(appearance_.viewFont(points, true));
-    filter_->setFont(appearance_.viewFont(points, false));
+    for (QWidget* plain : {static_cast<QWidget*>(filter_), static_cast<QWidget*>(empty_),
+                           static_cast<QWidget*>(pick_), static_cast<QWidget*>(cancel_)})
+        plain->setFont(appearance_.viewFont(points, false));
 }
 
 // --- Opening and closing -----------------------------------------------------------------------------------

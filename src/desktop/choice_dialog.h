@@ -100,6 +100,7 @@ private:
     QStackedWidget* stack_;
     QLabel* empty_;
     QPushButton* pick_ = nullptr;
+    QPushButton* cancel_ = nullptr;
     QPushButton* waiting_ = nullptr;
     std::vector<Page> pages_;
     Page* current_ = nullptr;

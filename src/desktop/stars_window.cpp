@@ -5,7 +5,6 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -133,6 +132,7 @@ void StarsWindow::buildFields(QHBoxLayout& row) {
         stack->setSpacing(1);
         auto* name = new QLabel{tr(fieldNames.at(at)), this};
         name->setTextFormat(Qt::PlainText);
+        names_.at(at) = name;
         auto* field = new QLineEdit{this};
         field->setObjectName(QString{"Text%1"}.arg(at + 1));
         field->setAccessibleName(tr(fieldNames.at(at)));
@@ -168,16 +168,17 @@ void StarsWindow::buildShortcuts() {
 }
 
 void StarsWindow::lay() {
-    const int most = 4 * appearance_.pixels(fieldWidth);
     for (const Column& column : columns_) {
         column.button->setFont(appearance_.viewFont(points, true));
         column.list->setFont(appearance_.viewFont(points, false));
         column.list->setFixedWidth(appearance_.pixels(listWidth));
     }
+    for (QLabel* name : names_) name->setFont(appearance_.viewFont(points, false));
+    startOver_->setFont(appearance_.viewFont(points, true));
     for (QLineEdit* field : fields_) {
         field->setFont(appearance_.fixedFont(points));
         const int text = QFontMetrics{field->font()}.horizontalAdvance("$000000.00") + 16;
-        field->setFixedWidth(std::min(most, std::max(appearance_.pixels(fieldWidth), text)));
+        field->setFixedWidth(std::max(appearance_.pixels(fieldWidth), text));
     }
 }
 

@@ -7,6 +7,7 @@
 #include "desktop/command_runner.h"
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -73,6 +74,7 @@ private:
     std::array<Column, lists> columns_{};
     QPushButton* startOver_ = nullptr;
     CellTableView* table_ = nullptr;
+    std::array<QLabel*, fields> names_{};
     std::array<QLineEdit*, fields> fields_{};
 };
 

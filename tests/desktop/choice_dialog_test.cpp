@@ -195,7 +195,8 @@ TEST_F(ChoiceDialogTest, ADriverIsTypedForAndPicked) {
     ASSERT_EQ(static_cast<int>(screen.driverList.lines.size()), drivers.model()->rowCount());
     for (int row = 0; row < drivers.model()->rowCount(); ++row)
         EXPECT_EQ(quillon::shown(screen.driverList.lines[static_cast<std::size_t>(row)]), at(drivers, row));
-    EXPECT_TRUE(QFontInfo{drivers.font()}.fixedPitch());
+    const QFontMetrics metrics{drivers.font()};
+    EXPECT_EQ(metrics.horizontalAdvance("MMMM"), metrics.horizontalAdvance("ii.1")) << "fixed pitch";
     const QString whose = child<QLabel>(dialog, "ChoiceWhose").text();
     EXPECT_TRUE(whose.startsWith("Race 1: " + quillon::shown(screen.raceView[1].text(2, 0)).trimmed()))
         << whose.toStdString();
