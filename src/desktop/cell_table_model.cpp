@@ -21,20 +21,13 @@ QVariant foreground(const Cell& cell) {
     return {};
 }
 
-QVariant font(const Cell& cell) {
-    if (!cell.bold) return {};
+QVariant boldFont() {
     QFont bold;
     bold.setBold(true);
     return bold;
 }
 
 int alignment(Qt::AlignmentFlag side) { return (side | Qt::AlignVCenter).toInt(); }
-
-bool hasText(const Grid& grid, int row) {
-    for (int column = 0; column < grid.columns(); ++column)
-        if (!grid.text(row, column).empty()) return true;
-    return false;
-}
 
 } // namespace
 
@@ -47,13 +40,33 @@ void CellTableModel::show(const Grid* grid, const CellRange& range) {
     endResetModel();
 }
 
-void CellTableModel::refresh() {
-    if (grid_ && grid_->version() != version_) show(grid_, range_);
+bool CellTableModel::refresh() {
+    const bool changed = grid_ && grid_->version() != version_;
+    if (changed) show(grid_, range_);
+    return changed;
 }
 
 void CellTableModel::setRightAligned(int first, int last) {
     firstRight_ = first;
     lastRight_ = last;
+}
+
+void CellTableModel::setBoldRows(int first, int last) {
+    firstBold_ = first;
+    lastBold_ = last;
+}
+
+bool CellTableModel::isBold(int row, const Cell& cell) const {
+    return cell.bold || (row >= firstBold_ && row <= lastBold_);
+}
+
+bool CellTableModel::isEmptyRow(int row) const {
+    const int tableRow = range_.firstRow + row;
+    if (!grid_ || tableRow >= grid_->rows()) return true;
+    const int columns = columnCount();
+    for (int column = 0; column < columns; ++column)
+        if (!grid_->text(tableRow, tableColumn(column)).empty()) return false;
+    return true;
 }
 
 void CellTableModel::setEditing(std::function<bool(int, int)> mayEdit,
@@ -66,7 +79,7 @@ int CellTableModel::rowsOnShow() const {
     if (!grid_) return 0;
     int last = grid_->rows() - 1;
     if (range_.lastRow >= 0) last = std::min(last, range_.lastRow);
-    while (tailHidden_ && last >= range_.firstRow && !hasText(*grid_, last)) --last;
+    while (tailHidden_ && last >= range_.firstRow && isEmptyRow(last - range_.firstRow)) --last;
     return std::max(0, last - range_.firstRow + 1);
 }
 
@@ -91,21 +104,20 @@ QVariant CellTableModel::data(const QModelIndex& index, int role) const {
     case Qt::BackgroundRole:
         return isShaded(cell()) ? QVariant{QBrush{shown(*cell().background)}} : QVariant{};
     case Qt::ForegroundRole: return foreground(cell());
-    case Qt::FontRole: return font(cell());
-    case Qt::TextAlignmentRole:
-        return alignment(column >= firstRight_ && column <= lastRight_ ? Qt::AlignRight : Qt::AlignLeft);
+    case Qt::FontRole: return isBold(row, cell()) ? boldFont() : QVariant{};
+    case Qt::TextAlignmentRole: return alignment(isRightAligned(column) ? Qt::AlignRight : Qt::AlignLeft);
     default: return {};
     }
 }
 
 QVariant CellTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (!grid_ || orientation != Qt::Horizontal) return {};
-    const int column = range_.firstColumn + section;
+    const int column = tableColumn(section);
     if (column >= grid_->columns() || grid_->rows() == 0) return {};
     switch (role) {
     case Qt::DisplayRole: return shown(grid_->text(0, column));
     case Qt::ForegroundRole: return foreground(grid_->read(0, column));
-    case Qt::TextAlignmentRole: return alignment(Qt::AlignLeft);
+    case Qt::TextAlignmentRole: return alignment(isRightAligned(column) ? Qt::AlignRight : Qt::AlignLeft);
     default: return {};
     }
 }

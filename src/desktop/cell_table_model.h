@@ -26,20 +26,27 @@ public:
     /// Shows another table; none is an empty one. It must live as long as it is shown.
     void show(const Grid* grid, const CellRange& range = {});
 
-    /// Takes up what has changed since the last call.
-    void refresh();
+    /// Takes up what has changed since the last call; true where there was something.
+    bool refresh();
 
     /// Rows behind the last one with a text are left away.
     void setTailHidden(bool hidden) { tailHidden_ = hidden; }
 
-    /// Columns whose cells stand at the right.
+    /// Columns whose heads and cells stand at the right.
     void setRightAligned(int first, int last);
+
+    /// Rows of the table that are drawn bold, whatever their cells say.
+    void setBoldRows(int first, int last);
+
+    /// Whether no cell of a row of the view holds a text.
+    bool isEmptyRow(int row) const;
 
     /// Makes cells editable: `mayEdit(row, column)`, `edit(row, column, text)` with the numbers of the table.
     void setEditing(std::function<bool(int, int)> mayEdit, std::function<void(int, int, const Text&)> edit);
 
     int tableRow(const QModelIndex& index) const { return range_.firstRow + index.row(); }
-    int tableColumn(const QModelIndex& index) const { return range_.firstColumn + index.column(); }
+    int tableColumn(const QModelIndex& index) const { return tableColumn(index.column()); }
+    int tableColumn(int column) const { return range_.firstColumn + column; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -50,6 +57,8 @@ public:
 
 private:
     int rowsOnShow() const;
+    bool isBold(int row, const Cell& cell) const;
+    bool isRightAligned(int column) const { return column >= firstRight_ && column <= lastRight_; }
 
     const Grid* grid_ = nullptr;
     CellRange range_;
@@ -58,6 +67,8 @@ private:
     bool tailHidden_ = false;
     int firstRight_ = 0;
     int lastRight_ = -1;
+    int firstBold_ = 0;
+    int lastBold_ = -1;
     std::function<bool(int, int)> mayEdit_;
     std::function<void(int, int, const Text&)> edit_;
 };

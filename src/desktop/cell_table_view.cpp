@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QScrollBar>
 
 #include <algorithm>
 #include <utility>
@@ -96,13 +97,13 @@ void CellTableView::setSortable() {
     sorted_.setSourceModel(&model_);
     setModel(&sorted_);
     setSortingEnabled(true);
+    horizontalHeader()->setSortIndicatorClearable(true);
     horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     sorted_.sort(-1);
 }
 
 void CellTableView::refresh() {
-    model_.refresh();
-    lay();
+    if (model_.refresh()) lay();
 }
 
 void CellTableView::show(const Grid* grid, const CellRange& range) {
@@ -110,29 +111,36 @@ void CellTableView::show(const Grid* grid, const CellRange& range) {
     lay();
 }
 
-int CellTableView::widthFor(int column) const {
-    const auto place = static_cast<std::size_t>(model_.tableColumn(model_.index(0, column)));
-    int wanted = twips_.empty() ? plainColumn : place < twips_.size() ? twips_[place] : 0;
-    if (wanted == 0) return 0;
-    const auto section = static_cast<std::size_t>(column);
-    if (section < dragged_.size() && dragged_[section]) return appearance_.pixels(*dragged_[section]);
-
-    int pixels = appearance_.pixels(wanted);
+// Row by row, since a row may have to be made to be looked at.
+std::vector<int> CellTableView::textWidths() const {
     QFont bold = font();
     bold.setBold(true);
     const QFontMetrics body{font()};
     const QFontMetrics boldBody{bold};
-    const QString head = model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-    pixels = std::max(pixels, QFontMetrics{horizontalHeader()->font()}.horizontalAdvance(head) + cellMargin);
+    const int columns = model()->columnCount();
+    std::vector<int> widths(static_cast<std::size_t>(columns));
     const int rows = std::min(model()->rowCount(), measuredRows);
-    for (int row = 0; row < rows; ++row) {
-        const QModelIndex index = model()->index(row, column);
-        const QString text = index.data().toString();
-        if (text.isEmpty()) continue;
-        const bool isBold = index.data(Qt::FontRole).isValid();
-        pixels = std::max(pixels, (isBold ? boldBody : body).horizontalAdvance(text) + 2 * cellMargin);
-    }
-    return pixels;
+    for (int row = 0; row < rows; ++row)
+        for (int column = 0; column < columns; ++column) {
+            const QModelIndex index = model()->index(row, column);
+            const QString text = index.data().toString();
+            if (text.isEmpty()) continue;
+            const bool isBold = roomForBold_ || index.data(Qt::FontRole).isValid();
+            int& width = widths[static_cast<std::size_t>(column)];
+            width = std::max(width, (isBold ? boldBody : body).horizontalAdvance(text) + 2 * cellMargin);
+        }
+    return widths;
+}
+
+int CellTableView::widthFor(int column, int textWidth) const {
+    const auto place = static_cast<std::size_t>(model_.tableColumn(column));
+    const int wanted = twips_.empty() ? plainColumn : place < twips_.size() ? twips_[place] : 0;
+    if (wanted == 0) return 0;
+    const auto section = static_cast<std::size_t>(column);
+    if (dragged_[section]) return appearance_.pixels(*dragged_[section]);
+    const QString head = model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    const int headWidth = QFontMetrics{horizontalHeader()->font()}.horizontalAdvance(head) + cellMargin;
+    return std::max({appearance_.pixels(wanted), headWidth, textWidth});
 }
 
 void CellTableView::lay() {
@@ -143,12 +151,89 @@ void CellTableView::lay() {
     verticalHeader()->setDefaultSectionSize(rowPixels());
     const int columns = model_.columnCount();
     dragged_.resize(static_cast<std::size_t>(columns));
+    const std::vector<int> texts = textWidths();
     for (int column = 0; column < columns; ++column) {
-        const int width = widthFor(column);
+        const int width = widthFor(column, texts[static_cast<std::size_t>(column)]);
         setColumnHidden(column, width == 0);
         if (width > 0) setColumnWidth(column, width);
     }
+    if (emptyRowsHidden_)
+        for (int row = 0; row < model_.rowCount(); ++row) setRowHidden(row, model_.isEmptyRow(row));
+    if (frozen_) layFrozen();
     laying_ = false;
+}
+
+void CellTableView::setEmptyRowsHidden() {
+    emptyRowsHidden_ = true;
+    lay();
+}
+
+void CellTableView::setRoomForBold() {
+    roomForBold_ = true;
+    lay();
+}
+
+void CellTableView::setFirstColumnFrozen() {
+    frozen_ = new QTableView{this};
+    frozen_->setAccessibleName(tr("%1, first column").arg(accessibleName()));
+    frozen_->setModel(model());
+    frozen_->setSelectionModel(selectionModel());
+    frozen_->setSelectionMode(selectionMode());
+    frozen_->setEditTriggers(NoEditTriggers);
+    frozen_->setFrameShape(QFrame::NoFrame);
+    frozen_->setFocusPolicy(Qt::ClickFocus);
+    frozen_->setFocusProxy(this);
+    frozen_->setWordWrap(false);
+    frozen_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    frozen_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    frozen_->verticalHeader()->hide();
+    frozen_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    frozen_->horizontalHeader()->setMinimumSectionSize(8);
+    frozen_->horizontalHeader()->setHighlightSections(false);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, frozen_->verticalScrollBar(),
+            &QScrollBar::setValue);
+    connect(frozen_->verticalScrollBar(), &QScrollBar::valueChanged, verticalScrollBar(),
+            &QScrollBar::setValue);
+    connect(frozen_->horizontalHeader(), &QHeaderView::sectionResized, this,
+            [this](int section, int, int pixels) {
+                if (section == 0 && pixels > 0) setColumnWidth(0, pixels);
+            });
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int section, int, int pixels) {
+        if (section != 0 || pixels == 0) return;
+        frozen_->setColumnWidth(0, pixels);
+        updateGeometries();
+    });
+    lay();
+    frozen_->show();
+    frozen_->raise();
+}
+
+void CellTableView::layFrozen() {
+    frozen_->setFont(font());
+    frozen_->horizontalHeader()->setFont(horizontalHeader()->font());
+    frozen_->verticalHeader()->setMinimumSectionSize(1);
+    frozen_->verticalHeader()->setDefaultSectionSize(rowPixels());
+    for (int column = 1; column < model_.columnCount(); ++column) frozen_->setColumnHidden(column, true);
+    if (model_.columnCount() > 0) frozen_->setColumnWidth(0, columnWidth(0));
+    if (emptyRowsHidden_)
+        for (int row = 0; row < model_.rowCount(); ++row) frozen_->setRowHidden(row, isRowHidden(row));
+    updateGeometries();
+}
+
+void CellTableView::updateGeometries() {
+    QTableView::updateGeometries();
+    if (!frozen_) return;
+    const int head = horizontalHeader()->height();
+    frozen_->horizontalHeader()->setFixedHeight(head);
+    frozen_->setGeometry(frameWidth(), frameWidth(), columnWidth(0), head + viewport()->height());
+}
+
+// A cell that came to lie under the frozen column is not in sight yet.
+void CellTableView::scrollTo(const QModelIndex& index, ScrollHint hint) {
+    QTableView::scrollTo(index, hint);
+    if (!frozen_ || index.column() == 0) return;
+    const int covered = columnWidth(0) - visualRect(index).left();
+    if (covered > 0) horizontalScrollBar()->setValue(horizontalScrollBar()->value() - covered);
 }
 
 QString CellTableView::selectionText() const {

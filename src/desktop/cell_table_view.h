@@ -47,8 +47,18 @@ public:
     void setRowHeight(int twips); ///< of all rows, head aside
     int rowPixels() const;
 
-    /// A click on a head sorts by that column.
+    /// A click on a head sorts by that column; the third one gives the table its own order again.
     void setSortable();
+
+    /// The first column stays in sight while the others are scrolled.
+    void setFirstColumnFrozen();
+
+    /// Rows without any text are left away, wherever they stand. For short tables: all rows are looked at.
+    void setEmptyRowsHidden();
+
+    /// Columns are measured as if every text were bold: bold ones may stand behind the rows that are
+    /// measured.
+    void setRoomForBold();
 
     /// Takes up what has changed in the table on show.
     void refresh();
@@ -62,17 +72,23 @@ public:
     /// end. False where there is none.
     bool find(const QString& text, bool backwards = false);
 
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+
 protected:
+    void updateGeometries() override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     void lay();
-    int widthFor(int column) const;
+    std::vector<int> textWidths() const;
+    int widthFor(int column, int textWidth) const;
+    void layFrozen();
 
     Appearance& appearance_;
     CellTableModel model_;
     NumberSortProxy sorted_;
+    QTableView* frozen_ = nullptr; ///< lies over the first column, where that is frozen
     int headPoints_ = 9;
     int bodyPoints_ = 9;
     bool bodyBold_ = false;
@@ -80,6 +96,8 @@ private:
     std::vector<int> twips_;
     std::vector<std::optional<int>> dragged_; ///< in twips, by view column
     bool laying_ = false;
+    bool emptyRowsHidden_ = false;
+    bool roomForBold_ = false;
 };
 
 } // namespace quillon

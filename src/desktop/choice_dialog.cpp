@@ -1,10 +1,348 @@
 #include "desktop/choice_dialog.h"
 
+#include "desktop/shown_text.h"
+#include "rating/race_views.h"
+#include "results/board.h"
+
+#include <QCoreApplication>
+#include <QDate>
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLocale>
+#include <QMainWindow>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
 namespace quillon {
+namespace {
+
+constexpr TextView exitLine = "EXIT";
+constexpr int dialogWidth = 7400; ///< twips
+constexpr int dialogHeight = 6400;
+
+enum CardColumn { fileName, track, date, cardColumns };
+
+/// "20260314" of "M1_20260314.pmd"; empty where the name is none of a card's.
+QString dateDigits(const QString& name) {
+    constexpr int digits = 8;
+    const auto underscore = name.indexOf('_');
+    const QString text = underscore < 0 ? QString{} : name.mid(underscore + 1, digits);
+    return QDate::fromString(text, "yyyyMMdd").isValid() ? text : QString{};
+}
+
+bool hasExit(const ChoiceList& list) {
+    return std::find(list.lines.begin(), list.lines.end(), exitLine) != list.lines.end();
+}
+
+} // namespace
+
+// --- The lines ---------------------------------------------------------------------------------------------
+
+ChoiceModel::ChoiceModel(const ChoiceList& list, bool ofCards, QObject* parent)
+    : QAbstractTableModel{parent}, list_{list}, ofCards_{ofCards} {}
+
+void ChoiceModel::refresh() {
+    if (lines_ == list_.lines) return;
+    beginResetModel();
+    lines_ = list_.lines;
+    endResetModel();
+}
+
+int ChoiceModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(lines_.size());
+}
+
+int ChoiceModel::columnCount(const QModelIndex& parent) const {
+    if (parent.isValid()) return 0;
+    return ofCards_ ? cardColumns : 1;
+}
+
+QString ChoiceModel::cell(const Text& line, int column) const {
+    const QString name = shown(line);
+    if (column == fileName) return name;
+    const QString digits = dateDigits(name);
+    if (digits.isEmpty()) return {};
+    if (column == track) return name.left(name.indexOf('_'));
+    return QLocale{}.toString(QDate::fromString(digits, "yyyyMMdd"), "ddd d MMM yyyy");
+}
+
+QVariant ChoiceModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid()) return {};
+    const Text& text = line(index.row());
+    if (role == Qt::DisplayRole) return cell(text, index.column());
+    if (role == sortRole)
+        return index.column() == date ? dateDigits(shown(text)) : cell(text, index.column());
+    return {};
+}
+
+QVariant ChoiceModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || !ofCards_) return {};
+    return section == fileName ? tr("File") : section == track ? tr("Track") : tr("Date");
+}
+
+// The rule between the tracks and "EXIT" is no choice.
+Qt::ItemFlags ChoiceModel::flags(const QModelIndex& index) const {
+    const bool isRule = index.isValid() && line(index.row()).find_first_not_of('-') == Text::npos;
+    return isRule ? Qt::ItemFlags{} : QAbstractTableModel::flags(index);
+}
+
+// --- The dialog --------------------------------------------------------------------------------------------
 
 ChoiceDialog::ChoiceDialog(CommandRunner& runner, Appearance& appearance, QWidget* parent)
-    : QDialog{parent}, runner_{runner}, appearance_{appearance} {}
+    : QDialog{parent}, runner_{runner}, appearance_{appearance} {
+    setObjectName("ChoiceDialog");
+    setModal(false);
+    buildFrame();
+    buildPages();
+    buildWaitingButton();
+    connect(&appearance_, &Appearance::changed, this, &ChoiceDialog::lay);
+    lay();
+}
 
-void ChoiceDialog::refresh() {}
+void ChoiceDialog::buildFrame() {
+    auto* column = new QVBoxLayout{this};
+    whose_ = new QLabel{this};
+    whose_->setObjectName("ChoiceWhose");
+    whose_->setTextFormat(Qt::PlainText);
+    filter_ = new QLineEdit{this};
+    filter_->setObjectName("ChoiceFilter");
+    filter_->setAccessibleName(tr("Find in the list"));
+    filter_->setPlaceholderText(tr("Type to find"));
+    filter_->setClearButtonEnabled(true);
+    filter_->installEventFilter(this);
+    stack_ = new QStackedWidget{this};
+    empty_ = new QLabel{this};
+    empty_->setObjectName("ChoiceEmpty");
+    empty_->setTextFormat(Qt::PlainText);
+    empty_->setWordWrap(true);
+    auto* buttons = new QDialogButtonBox{QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this};
+    pick_ = buttons->button(QDialogButtonBox::Ok);
+    cancel_ = buttons->button(QDialogButtonBox::Cancel);
+    pick_->setObjectName("ChoicePick");
+    pick_->setDefault(true);
+    column->addWidget(whose_);
+    column->addWidget(filter_);
+    column->addWidget(stack_, 1);
+    column->addWidget(empty_);
+    column->addWidget(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, this, &ChoiceDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &ChoiceDialog::reject);
+    connect(filter_, &QLineEdit::textChanged, this, &ChoiceDialog::find);
+}
+
+void ChoiceDialog::buildPages() {
+    constexpr std::size_t lists = 3;
+    pages_.reserve(lists); // they are pointed at
+    Page& cards = addPage(&Screen::fileList, "ChooseFile", tr("Recall Race Card"),
+                          tr("There is no saved card in the folder \"Race Cards\" yet."));
+    cards.view->setHeaderHidden(false);
+    cards.view->setSortingEnabled(true);
+    cards.view->sortByColumn(date, Qt::DescendingOrder); // the latest card is the likeliest
+    cards.view->header()->setStretchLastSection(true);
+    addPage(&Screen::trackList, "SelectTrack", tr("Select Track"), tr("There is no track yet."));
+    addPage(&Screen::driverList, "DriverChoice", tr("Change Driver"), tr("There is no driver yet."));
+}
+
+ChoiceDialog::Page& ChoiceDialog::addPage(ChoiceList Screen::*list, const char* command, const QString& title,
+                                          const QString& empty) {
+    auto* lines = new ChoiceModel{theScreen.*list, list == &Screen::fileList, this};
+    auto* found = new QSortFilterProxyModel{this};
+    found->setSourceModel(lines);
+    found->setSortRole(ChoiceModel::sortRole);
+    found->setSortCaseSensitivity(Qt::CaseInsensitive);
+    found->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    found->setFilterKeyColumn(-1);
+    auto* view = new QTreeView{stack_};
+    view->setObjectName(command);
+    view->setProperty("command", command);
+    view->setAccessibleName(title);
+    view->setModel(found);
+    view->setUniformRowHeights(true); // ten thousand rows are laid out at once
+    view->setRootIsDecorated(false);
+    view->setHeaderHidden(true);
+    view->setAllColumnsShowFocus(true);
+    view->installEventFilter(this);
+    stack_->addWidget(view);
+    pages_.push_back({list, command, title, empty, lines, found, view});
+    Page& page = pages_.back();
+    connect(view, &QTreeView::doubleClicked, this,
+            [this, &page](const QModelIndex& index) { pick(page, index); });
+    return page;
+}
+
+// In the status bar, where a list that was put aside can be had again: the menu's item is not available while
+// its list is open.
+void ChoiceDialog::buildWaitingButton() {
+    waiting_ = new QPushButton{this};
+    waiting_->setObjectName("ChoiceWaiting");
+    waiting_->setFlat(true);
+    waiting_->hide();
+    if (auto* window = qobject_cast<QMainWindow*>(parentWidget()))
+        window->statusBar()->addPermanentWidget(waiting_);
+    waiting_->hide();
+    connect(waiting_, &QPushButton::clicked, this, [this] {
+        for (Page& page : pages_)
+            if (page.waits) return open(page);
+    });
+}
+
+QSize ChoiceDialog::sizeHint() const {
+    return {appearance_.pixels(dialogWidth), appearance_.pixels(dialogHeight)};
+}
+
+void ChoiceDialog::lay() {
+    constexpr int points = 10;
+    for (Page& page : pages_) {
+        const bool ofCards = page.list == &Screen::fileList;
+        page.view->setFont(ofCards ? appearance_.viewFont(points, false) : appearance_.fixedFont(points));
+        if (!ofCards) continue;
+        const QFontMetrics metrics{page.view->font()};
+        page.view->setColumnWidth(fileName, metrics.horizontalAdvance("MMMM_00000000.pmd") + 16);
+        page.view->setColumnWidth(track, metrics.horizontalAdvance("MMMMM") + 16);
+    }
+    whose_->setFont(appearance_.viewFont(points, true));
+    for (QWidget* plain : {static_cast<QWidget*>(filter_), static_cast<QWidget*>(empty_),
+                           static_cast<QWidget*>(pick_), static_cast<QWidget*>(cancel_)})
+        plain->setFont(appearance_.viewFont(points, false));
+}
+
+// --- Opening and closing -----------------------------------------------------------------------------------
+
+/// The list that opened since the last look; else the one on show, or any that is still open.
+ChoiceDialog::Page* ChoiceDialog::pageWanted() {
+    Page* opened = nullptr;
+    Page* open = nullptr;
+    for (Page& page : pages_) {
+        const bool isVisible = (theScreen.*page.list).visible;
+        if (!isVisible) page.waits = false;
+        if (isVisible && !page.wasVisible) opened = &page;
+        if (isVisible && !page.waits && (!open || &page == current_)) open = &page;
+        page.wasVisible = isVisible;
+    }
+    return opened ? opened : open;
+}
+
+void ChoiceDialog::refresh() {
+    for (Page& page : pages_)
+        if ((theScreen.*page.list).visible) page.lines->refresh();
+    Page* wanted = pageWanted();
+    if (wanted && (wanted != current_ || !isVisible())) {
+        open(*wanted);
+    } else if (!wanted) {
+        current_ = nullptr;
+        hide();
+    }
+    showState();
+}
+
+void ChoiceDialog::open(Page& page) {
+    page.waits = false;
+    current_ = &page;
+    setWindowTitle(page.title);
+    stack_->setCurrentWidget(page.view);
+    filter_->clear();
+    find({});
+    show();
+    raise();
+    activateWindow();
+    filter_->setFocus();
+    showState();
+}
+
+void ChoiceDialog::showState() {
+    const auto waits =
+        std::find_if(pages_.begin(), pages_.end(), [](const Page& page) { return page.waits; });
+    waiting_->setVisible(waits != pages_.end());
+    if (waits != pages_.end()) {
+        waiting_->setText(waits->title + "...");
+        waiting_->setAccessibleName(waits->title);
+        waiting_->setToolTip(tr("The list is still open: pick a line of it"));
+        waiting_->setShortcut(QKeySequence::Open); // the menu's item has none of its own meanwhile
+    }
+    if (!current_) return;
+    const bool isEmpty = current_->lines->rowCount() == 0;
+    empty_->setVisible(isEmpty);
+    empty_->setText(isEmpty ? current_->empty : QString{});
+    pick_->setEnabled(current_->view->currentIndex().isValid());
+    showWhose();
+}
+
+// The window is not blocked: with another race on show the change would go to the entry of that race.
+void ChoiceDialog::showWhose() {
+    const int race = raceOnShow();
+    const bool isDrivers = current_->list == &Screen::driverList;
+    whose_->setVisible(isDrivers);
+    if (!isDrivers || race < 1 || race >= raceViews) return whose_->clear();
+    const int row = theScreen.driverRow;
+    if (row < 1 || row >= raceViewRows) return whose_->clear();
+    const Grid& view = theScreen.raceView[static_cast<std::size_t>(race)];
+    const auto text = [&](int column) { return shown(view.text(row, column)).trimmed(); };
+    whose_->setText(tr("Race %1: %2, now %3").arg(race).arg(text(0), text(raceColumn::driver)));
+}
+
+// --- Finding and picking -----------------------------------------------------------------------------------
+
+void ChoiceDialog::find(const QString& text) {
+    if (!current_) return;
+    current_->found->setFilterFixedString(text);
+    selectFirst(*current_);
+    pick_->setEnabled(current_->view->currentIndex().isValid());
+}
+
+void ChoiceDialog::selectFirst(Page& page) {
+    const QModelIndex first = page.found->index(0, 0);
+    if (!first.isValid()) return;
+    page.view->setCurrentIndex(first);
+    page.view->scrollToTop();
+}
+
+void ChoiceDialog::pick(Page& page, const QModelIndex& index) {
+    if (!index.isValid() || !(index.flags() & Qt::ItemIsEnabled)) return;
+    const Text line = page.lines->line(page.found->mapToSource(index).row());
+    runner_.run(page.command, textArgument(line));
+}
+
+void ChoiceDialog::accept() {
+    if (current_) pick(*current_, current_->view->currentIndex());
+}
+
+void ChoiceDialog::reject() {
+    if (current_ && hasExit(theScreen.*current_->list)) {
+        runner_.run(current_->command, textArgument(Text{exitLine}));
+        return;
+    }
+    if (current_) current_->waits = (theScreen.*current_->list).visible;
+    current_ = nullptr;
+    QDialog::reject();
+    showState();
+}
+
+// From the field the arrows walk the list; from the list a letter goes to the field.
+bool ChoiceDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !current_) return QDialog::eventFilter(watched, event);
+    auto* key = static_cast<QKeyEvent*>(event);
+    const bool walks = key->key() == Qt::Key_Down || key->key() == Qt::Key_Up ||
+                       key->key() == Qt::Key_PageDown || key->key() == Qt::Key_PageUp;
+    const bool accepts = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+    if (accepts) {
+        accept();
+        return true;
+    }
+    if (watched == filter_ && walks) {
+        QCoreApplication::sendEvent(current_->view, event);
+        return true;
+    }
+    const bool types = !key->text().isEmpty() && key->text().front().isPrint() &&
+                       !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    if (watched == current_->view && types) {
+        filter_->setFocus();
+        QCoreApplication::sendEvent(filter_, event);
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
 
 } // namespace quillon

@@ -215,7 +215,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     if (!ports_->ended()) return event->ignore();
     keepLook();
     event->accept();
-    stars_->close();
+    stars_->hide(); // its close control goes back to the races
     QApplication::quit();
 }
 

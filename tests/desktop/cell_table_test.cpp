@@ -54,6 +54,70 @@ TEST_F(CellTableTest, RowsBehindTheLastTextAreLeftAwayWhereAsked) {
     EXPECT_EQ(2, view.model()->rowCount());
 }
 
+TEST_F(CellTableTest, ATextInAnotherPartOfTheTableKeepsNoRow) {
+    grid(5, 0).text = "left";
+    view.cells().setTailHidden(true);
+    view.show(&grid, {.firstColumn = 1}); // of columns 1 and 2 row 2 is the last with a text
+    EXPECT_EQ(2, view.model()->rowCount());
+}
+
+TEST_F(CellTableTest, RowsWithoutATextAreHiddenWhereverTheyStandWhereAsked) {
+    grid(4, 1).text = "total";
+    view.setEmptyRowsHidden();
+    view.refresh();
+    EXPECT_FALSE(view.isRowHidden(1));
+    EXPECT_TRUE(view.isRowHidden(2)); // row 3 has a colour, no text
+    EXPECT_FALSE(view.isRowHidden(3));
+    EXPECT_TRUE(view.isRowHidden(4));
+    grid(3, 2).text = "y";
+    view.refresh();
+    EXPECT_FALSE(view.isRowHidden(2));
+}
+
+TEST_F(CellTableTest, RowsMayBeBoldByViewAndHeadsStandOverTheirCells) {
+    view.cells().setBoldRows(1, 1);
+    view.cells().setRightAligned(1, 2);
+    EXPECT_TRUE(of(0, 0, Qt::FontRole).value<QFont>().bold());
+    EXPECT_FALSE(of(1, 0, Qt::FontRole).isValid());
+    EXPECT_TRUE(view.model()->headerData(1, Qt::Horizontal, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
+    EXPECT_TRUE(view.model()->headerData(0, Qt::Horizontal, Qt::TextAlignmentRole).toInt() & Qt::AlignLeft);
+}
+
+TEST_F(CellTableTest, ATableWithoutRowsKeepsItsColumns) {
+    Grid heads{1, 3};
+    view.setColumnWidths(std::vector{3000, 900, 0});
+    view.show(&heads);
+    EXPECT_FALSE(view.isColumnHidden(0));
+    EXPECT_FALSE(view.isColumnHidden(1));
+    EXPECT_TRUE(view.isColumnHidden(2));
+    view.show(&grid);
+}
+
+TEST_F(CellTableTest, AFrozenColumnHasTheRowsAndWidthOfItsTable) {
+    view.setFirstColumnFrozen();
+    auto* frozen = view.findChild<QTableView*>();
+    ASSERT_NE(nullptr, frozen);
+    view.horizontalHeader()->resizeSection(0, 120);
+    EXPECT_EQ(120, frozen->columnWidth(0));
+    EXPECT_EQ(120, frozen->width());
+    frozen->horizontalHeader()->resizeSection(0, 90);
+    EXPECT_EQ(90, view.columnWidth(0));
+    EXPECT_TRUE(frozen->isColumnHidden(1));
+    EXPECT_EQ(view.rowHeight(0), frozen->rowHeight(0));
+    frozen->setCurrentIndex(frozen->model()->index(1, 0));
+    EXPECT_EQ(1, view.currentIndex().row());
+}
+
+TEST_F(CellTableTest, RoomForBoldIsLeftWhereNoTextIsBoldYet) {
+    view.setColumnWidths(std::vector{100, 100, 100});
+    const int plain = view.columnWidth(0);
+    view.setRoomForBold();
+    QFont bold = view.font();
+    bold.setBold(true);
+    EXPECT_GE(view.columnWidth(0), plain);
+    EXPECT_GT(view.columnWidth(0), QFontMetrics{bold}.horizontalAdvance("Blue Ribbon Bess"));
+}
+
 TEST_F(CellTableTest, ARefreshTakesUpWhatTheTableBecame) {
     grid(1, 0).text = "Zanzibar";
     view.refresh();
