@@ -51,15 +51,18 @@ void CellTableModel::refresh() {
     if (grid_ && grid_->version() != version_) show(grid_, range_);
 }
 
-void CellTableModel::setRightAligned(int first, int last) {
-    firstRight_ = first;
-    lastRight_ = last;
-}
+void CellTableModel::setRightAligned(int first, int last) { rightAligned_.emplace_back(first, last); }
 
 void CellTableModel::setEditing(std::function<bool(int, int)> mayEdit,
                                 std::function<void(int, int, const Text&)> edit) {
     mayEdit_ = std::move(mayEdit);
     edit_ = std::move(edit);
+}
+
+bool CellTableModel::isRightAligned(int column) const {
+    return std::any_of(rightAligned_.begin(), rightAligned_.end(), [column](const auto& range) {
+        return column >= range.first && column <= range.second;
+    });
 }
 
 int CellTableModel::rowsOnShow() const {
@@ -92,8 +95,7 @@ QVariant CellTableModel::data(const QModelIndex& index, int role) const {
         return isShaded(cell()) ? QVariant{QBrush{shown(*cell().background)}} : QVariant{};
     case Qt::ForegroundRole: return foreground(cell());
     case Qt::FontRole: return font(cell());
-    case Qt::TextAlignmentRole:
-        return alignment(column >= firstRight_ && column <= lastRight_ ? Qt::AlignRight : Qt::AlignLeft);
+    case Qt::TextAlignmentRole: return alignment(isRightAligned(column) ? Qt::AlignRight : Qt::AlignLeft);
     default: return {};
     }
 }

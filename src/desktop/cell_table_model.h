@@ -6,6 +6,8 @@
 #include <QAbstractTableModel>
 
 #include <functional>
+#include <utility>
+#include <vector>
 
 namespace quillon {
 
@@ -32,7 +34,7 @@ public:
     /// Rows behind the last one with a text are left away.
     void setTailHidden(bool hidden) { tailHidden_ = hidden; }
 
-    /// Columns whose cells stand at the right.
+    /// Columns whose cells stand at the right, beside those named before.
     void setRightAligned(int first, int last);
 
     /// Makes cells editable: `mayEdit(row, column)`, `edit(row, column, text)` with the numbers of the table.
@@ -50,14 +52,14 @@ public:
 
 private:
     int rowsOnShow() const;
+    bool isRightAligned(int column) const;
 
     const Grid* grid_ = nullptr;
     CellRange range_;
     std::uint64_t version_ = 0;
     int rows_ = 0;
     bool tailHidden_ = false;
-    int firstRight_ = 0;
-    int lastRight_ = -1;
+    std::vector<std::pair<int, int>> rightAligned_; ///< first and last column
     std::function<bool(int, int)> mayEdit_;
     std::function<void(int, int, const Text&)> edit_;
 };
