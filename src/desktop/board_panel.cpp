@@ -119,6 +119,11 @@ BoardPanel::BoardPanel(CommandRunner& runner, Appearance& appearance, QWidget* p
     lay();
 }
 
+// A box that has the focus loses it when it is deleted, and that is behind us.
+BoardPanel::~BoardPanel() {
+    for (const Entry& entry : entries_) entry.edit->disconnect(this);
+}
+
 QLabel* BoardPanel::addLabel(const QString& text, int row, int column) {
     auto* label = new QLabel{text, this};
     label->setTextFormat(Qt::PlainText);

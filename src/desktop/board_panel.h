@@ -20,6 +20,7 @@ class BoardPanel : public QWidget {
 
 public:
     BoardPanel(CommandRunner& runner, Appearance& appearance, QWidget* parent = nullptr);
+    ~BoardPanel() override;
 
     /// Draws what the screen holds now. A box that is being typed in keeps its text.
     void refresh();

@@ -76,6 +76,9 @@ OverviewPanel::OverviewPanel(CommandRunner& runner, Appearance& appearance, QWid
     lay();
 }
 
+// The table shows our grid until its end, so it goes first.
+OverviewPanel::~OverviewPanel() { delete table_; }
+
 void OverviewPanel::lay() {
     heading_->setFont(appearance_.viewFont(12, true));
     hint_->setFont(appearance_.viewFont(9, false));

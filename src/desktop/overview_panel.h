@@ -15,6 +15,7 @@ class OverviewPanel : public QWidget {
 
 public:
     OverviewPanel(CommandRunner& runner, Appearance& appearance, QWidget* parent = nullptr);
+    ~OverviewPanel() override;
 
     /// Draws what the card holds now.
     void refresh();

@@ -33,11 +33,11 @@ struct BoardPanelTest : WindowTest {
     /// All boxes as the screen has them.
     void expectTheScreensTexts() {
         for (int n = 0; n < 8; ++n)
-            EXPECT_EQ(shown(screen.boxes.at(static_cast<std::size_t>(n)).text), box(n).text()) << n;
+            EXPECT_EQ(quillon::shown(screen.boxes.at(static_cast<std::size_t>(n)).text), box(n).text()) << n;
         for (int n = 1; n <= 11; ++n)
-            EXPECT_EQ(shown(screen.tote.at(static_cast<std::size_t>(n))), tote(n).text()) << n;
-        EXPECT_EQ(shown(screen.refunds), refunds().text());
-        EXPECT_EQ(shown(screen.tote[0]), child<QLabel>(panel, "ToteHeading").text());
+            EXPECT_EQ(quillon::shown(screen.tote.at(static_cast<std::size_t>(n))), tote(n).text()) << n;
+        EXPECT_EQ(quillon::shown(screen.refunds), refunds().text());
+        EXPECT_EQ(quillon::shown(screen.tote[0]), child<QLabel>(panel, "ToteHeading").text());
     }
 
     BoardPanel panel{runner, appearance};
@@ -148,8 +148,8 @@ TEST_F(BoardPanelTest, TheGapTintsTheTopTwoLegiblyAndGoesAgain) {
     for (const Colour colour : {closeMagenta, recentYellow}) {
         screen.boxes[0].colour = colour;
         panel.refresh();
-        EXPECT_EQ(shown(colour), box(0).palette().color(QPalette::Base));
-        EXPECT_EQ(legibleOn(shown(colour)), box(0).palette().color(QPalette::Text));
+        EXPECT_EQ(quillon::shown(colour), box(0).palette().color(QPalette::Base));
+        EXPECT_EQ(legibleOn(quillon::shown(colour)), box(0).palette().color(QPalette::Text));
     }
     screen.boxes[0].colour = white;
     panel.refresh();

@@ -38,7 +38,8 @@ TEST_F(OverviewPanelTest, ShowsARowARace) {
     ASSERT_EQ(card.raceCount, table().model()->rowCount());
     for (int row = 0; row < table().model()->rowCount(); ++row)
         for (int column = 0; column < expected.columns(); ++column)
-            EXPECT_EQ(shown(expected.text(row + 1, column)), text(row, column)) << row << " " << column;
+            EXPECT_EQ(quillon::shown(expected.text(row + 1, column)), text(row, column))
+                << row << " " << column;
     EXPECT_EQ("Purse", table().model()->headerData(5, Qt::Horizontal, Qt::DisplayRole).toString());
     const auto side = table().model()->index(0, 5).data(Qt::TextAlignmentRole).toInt();
     EXPECT_TRUE(side & Qt::AlignRight);
@@ -76,14 +77,14 @@ TEST_F(OverviewPanelTest, SortedRowsOpenTheirOwnRace) {
     }
     const QString label = text(0, overviewColumn::race);
     clickRow(0);
-    EXPECT_EQ(label, shown(card.raceInfo(std::stoi(screen.header.race)).label));
+    EXPECT_EQ(label, quillon::shown(card.raceInfo(std::stoi(screen.header.race)).label));
 }
 
 TEST_F(OverviewPanelTest, PostTimesSortByTheOrderOfTheRaces) {
     table().sortByColumn(overviewColumn::postTime, Qt::DescendingOrder);
-    EXPECT_EQ(shown(card.raceInfo(card.raceCount).label), text(0, overviewColumn::race));
+    EXPECT_EQ(quillon::shown(card.raceInfo(card.raceCount).label), text(0, overviewColumn::race));
     table().sortByColumn(overviewColumn::postTime, Qt::AscendingOrder);
-    EXPECT_EQ(shown(card.raceInfo(1).label), text(0, overviewColumn::race));
+    EXPECT_EQ(quillon::shown(card.raceInfo(1).label), text(0, overviewColumn::race));
 }
 
 TEST_F(OverviewPanelTest, ARowAboveTheLastRaceButtonOpensNothing) {

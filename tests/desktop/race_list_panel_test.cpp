@@ -31,7 +31,8 @@ TEST_F(RaceListPanelTest, ListsTheCardsRacesAndChecksTheOneOnShow) {
     EXPECT_TRUE(text(0).startsWith("RACE 1"));
     runner.run("Next");
     EXPECT_EQ("RACE 1", text(0));
-    EXPECT_EQ(QString{"RACE 2   %1 %2"}.arg(QChar{0x2713}, shown(screen.raceChecks[2].caption)), text(1));
+    EXPECT_EQ(QString{"RACE 2   %1 %2"}.arg(QChar{0x2713}, quillon::shown(screen.raceChecks[2].caption)),
+              text(1));
     EXPECT_EQ("RACE 2, on show", list().item(1)->data(Qt::AccessibleTextRole).toString());
     EXPECT_EQ(1, list().currentRow());
 }
