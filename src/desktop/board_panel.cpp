@@ -1,10 +1,306 @@
 #include "desktop/board_panel.h"
 
+#include "desktop/shown_text.h"
+#include "results/board.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QPalette>
+
+#include <algorithm>
+#include <utility>
+
 namespace quillon {
+namespace {
+
+constexpr int longestText = 255;
+
+// Where things stand: the runners at the left, the payoffs of the first three with their heads in the middle,
+// the exotics, and the wide boxes.
+constexpr int runnerColumn = 0;
+constexpr int firstRule = 4;
+constexpr int toteColumn = 5; ///< captions "Win", "Place", "Show"; the payoffs behind it
+constexpr int secondRule = 9;
+constexpr int exoticColumn = 10;
+constexpr int thirdRule = 12;
+constexpr int wideColumn = 13;
+constexpr int rows = 4;
+
+constexpr int numberTwips = 600;
+constexpr int payoffTwips = 1020;
+constexpr int exoticTwips = 1200;
+constexpr int wideTwips = 2400;
+
+struct RunnerBox {
+    int row;
+    int column;
+    const char* caption;
+    const char* name;
+};
+constexpr std::array runnerBoxes{
+    RunnerBox{1, 0, "S1", "Selection S1"},    RunnerBox{1, 1, "S2", "Selection S2"},
+    RunnerBox{1, 2, "S3", "Selection S3"},    RunnerBox{1, 3, "S4", "Selection S4"},
+    RunnerBox{3, 0, "1st", "Finished first"}, RunnerBox{3, 1, "2nd", "Finished second"},
+    RunnerBox{3, 2, "3rd", "Finished third"}, RunnerBox{3, 3, "4th", "Finished fourth"},
+};
+
+struct PayoffBox {
+    int box;
+    int row;
+    int column;
+    const char* name;
+};
+constexpr std::array payoffBoxes{
+    PayoffBox{1, 1, toteColumn + 1, "Win payoff of the first"},
+    PayoffBox{2, 2, toteColumn + 1, "Place payoff of the first"},
+    PayoffBox{3, 3, toteColumn + 1, "Show payoff of the first"},
+    PayoffBox{4, 2, toteColumn + 2, "Place payoff of the second"},
+    PayoffBox{5, 3, toteColumn + 2, "Show payoff of the second"},
+    PayoffBox{6, 3, toteColumn + 3, "Show payoff of the third"},
+    PayoffBox{7, 1, exoticColumn + 1, "Exacta payoff"},
+    PayoffBox{8, 2, exoticColumn + 1, "Trifecta payoff"},
+    PayoffBox{9, 3, exoticColumn + 1, "Superfecta payoff"},
+};
+
+// In a dead heat for first the second winner has a Win payoff, in one for second the third horse a Place
+// payoff: each stands in the column of its horse, where a plain finish has no box.
+constexpr int boxTen = 10;
+constexpr int doubleBox = 11;
+constexpr std::array boxTenRow{0, 1, 2};
+constexpr std::array boxTenColumn{0, toteColumn + 2, toteColumn + 3};
+constexpr std::array boxTenName{"Dead heat payoff", "Win payoff of the second winner",
+                                "Place payoff of the other second"};
+
+// Commands that show a race anew and take nothing of the board into the store.
+constexpr std::array droppingCommands{"RaceButton", "RaceList", "AutoRecord", "EBET"};
+
+QFrame* rule(QWidget* parent) {
+    auto* line = new QFrame{parent};
+    line->setFrameShape(QFrame::VLine);
+    line->setFrameShadow(QFrame::Sunken);
+    return line;
+}
+
+void put(QLineEdit& edit, const Text& text) {
+    const QString wanted = shown(text);
+    if (!edit.isModified() && edit.text() != wanted) edit.setText(wanted);
+}
+
+void paint(QLineEdit& edit, Colour colour) {
+    QPalette palette;
+    if (colour != white) {
+        palette.setColor(QPalette::Base, shown(colour));
+        palette.setColor(QPalette::Text, legibleOn(shown(colour)));
+    }
+    edit.setPalette(palette);
+}
+
+} // namespace
 
 BoardPanel::BoardPanel(CommandRunner& runner, Appearance& appearance, QWidget* parent)
-    : QWidget{parent}, runner_{runner}, appearance_{appearance} {}
+    : QWidget{parent}, runner_{runner}, appearance_{appearance}, grid_{new QGridLayout{this}} {
+    setObjectName("BoardPanel");
+    painted_.fill(white);
+    grid_->setContentsMargins(0, 2, 0, 2);
+    grid_->setHorizontalSpacing(5);
+    grid_->setVerticalSpacing(2);
+    buildRunners();
+    buildTote();
+    buildWideBoxes();
+    for (const int column : {firstRule, secondRule, thirdRule})
+        grid_->addWidget(rule(this), 0, column, rows, 1);
+    buildTabOrder();
+    connect(&runner_, &CommandRunner::aboutToRun, this, [this] {
+        handIn();
+        unkept_ = boardHasUnkeptTyping() ? raceOnShow() : 0;
+    });
+    connect(&runner_, &CommandRunner::ran, this, &BoardPanel::takeUp);
+    connect(&appearance_, &Appearance::changed, this, &BoardPanel::lay);
+    lay();
+}
 
-void BoardPanel::refresh() {}
+// A box that has the focus loses it when it is deleted, and that is behind us.
+BoardPanel::~BoardPanel() {
+    for (const Entry& entry : entries_) entry.edit->disconnect(this);
+}
+
+QLabel* BoardPanel::addLabel(const QString& text, int row, int column) {
+    auto* label = new QLabel{text, this};
+    label->setTextFormat(Qt::PlainText);
+    grid_->addWidget(label, row, column);
+    captions_.push_back(label);
+    return label;
+}
+
+QLineEdit* BoardPanel::addEntry(const QString& objectName, const QString& name, const char* command,
+                                std::function<void(const Text&)> send) {
+    auto* edit = new QLineEdit{this};
+    edit->setObjectName(objectName);
+    edit->setProperty("command", command);
+    edit->setAccessibleName(name);
+    edit->setToolTip(name);
+    edit->setMaxLength(longestText);
+    entries_.push_back({edit, std::move(send)});
+    connect(edit, &QLineEdit::editingFinished, this, &BoardPanel::handIn);
+    connect(edit, &QLineEdit::returnPressed, this, [this] { focusNextChild(); });
+    return edit;
+}
+
+void BoardPanel::buildRunners() {
+    for (std::size_t i = 0; i < runnerBoxes.size(); ++i) {
+        const RunnerBox& place = runnerBoxes[i];
+        const auto number = static_cast<int>(i);
+        boxes_[i] =
+            addEntry(QString{"Box%1"}.arg(number), tr(place.name), "Box", [this, number](const Text& text) {
+                runner_.run("Box", Arguments{.numbers = {number, 0, 0}, .text = text});
+            });
+        boxes_[i]->setAlignment(Qt::AlignCenter);
+        QLabel* caption = addLabel(tr(place.caption), place.row - 1, runnerColumn + place.column);
+        caption->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+        caption->setBuddy(boxes_[i]);
+        grid_->addWidget(boxes_[i], place.row, runnerColumn + place.column);
+    }
+}
+
+void BoardPanel::buildTote() {
+    heading_ = addLabel({}, 0, toteColumn);
+    heading_->setObjectName("ToteHeading");
+    const auto addPayoff = [this](int box, const char* name) {
+        QLineEdit* edit =
+            addEntry(QString{"Tote%1"}.arg(box), tr(name), "Tote", [this, box](const Text& text) {
+                runner_.run("Tote", Arguments{.numbers = {box, 0, 0}, .text = text});
+            });
+        edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        return tote_.at(static_cast<std::size_t>(box)) = edit;
+    };
+    for (const PayoffBox& payoff : payoffBoxes)
+        grid_->addWidget(addPayoff(payoff.box, payoff.name), payoff.row, payoff.column);
+    addPayoff(boxTen, boxTenName[0])->hide();
+    addPayoff(doubleBox, "Daily double")->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+
+    constexpr std::array rowCaptions{"Win", "Place", "Show"};
+    constexpr std::array exoticCaptions{"Exacta", "Trifecta", "Superfecta"};
+    for (int row = 1; row < rows; ++row) {
+        const auto i = static_cast<std::size_t>(row - 1);
+        addLabel(tr(rowCaptions[i]), row, toteColumn);
+        addLabel(tr(exoticCaptions[i]), row, exoticColumn);
+    }
+    constexpr std::array places{"1st", "2nd", "3rd", "4th"};
+    constexpr std::array columns{toteColumn + 1, toteColumn + 2, toteColumn + 3, exoticColumn + 1};
+    for (std::size_t i = 0; i < finishLabels_.size(); ++i) {
+        auto* head = new QHBoxLayout;
+        head->setSpacing(4);
+        captions_.push_back(new QLabel{tr(places[i]), this});
+        finishLabels_[i] = new QLabel{this};
+        finishLabels_[i]->setObjectName(QString{"FinishLabel%1"}.arg(i));
+        finishLabels_[i]->setTextFormat(Qt::PlainText);
+        head->addStretch(1);
+        head->addWidget(captions_.back());
+        head->addWidget(finishLabels_[i]);
+        grid_->addLayout(head, 0, columns[i]);
+    }
+}
+
+void BoardPanel::buildWideBoxes() {
+    refunds_ = addEntry("Refunds", tr("Refunds"), "Refunds",
+                        [this](const Text& text) { runner_.run("Refunds", textArgument(text)); });
+    refunds_->setToolTip(
+        tr("Program numbers scratched. A scratch adds them; what is typed here is not kept."));
+    struct WideBox {
+        const char* caption;
+        QLineEdit* edit;
+        int row;
+    };
+    for (const WideBox& wide :
+         {WideBox{"Daily Double:", tote_[doubleBox], 0}, WideBox{"Refunds:", refunds_, 2}}) {
+        addLabel(tr(wide.caption), wide.row, wideColumn)->setBuddy(wide.edit);
+        grid_->addWidget(wide.edit, wide.row + 1, wideColumn);
+    }
+    grid_->setColumnStretch(wideColumn, 1);
+}
+
+// As a results chart is read: the finish, the payoffs, the exotics; the selections are typed least.
+void BoardPanel::buildTabOrder() {
+    std::vector<QWidget*> order(boxes_.begin() + firstFinishBox, boxes_.end());
+    for (const std::size_t box : {1, 2, 3, 4, 5, 6, 7, 8, 9, doubleBox, boxTen}) order.push_back(tote_[box]);
+    order.push_back(refunds_);
+    order.insert(order.end(), boxes_.begin(), boxes_.begin() + firstFinishBox);
+    for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
+}
+
+void BoardPanel::lay() {
+    const QFont plain = appearance_.viewFont(10, false);
+    const QFont bold = appearance_.viewFont(10, true);
+    for (QLabel* caption : captions_) caption->setFont(plain);
+    heading_->setFont(bold);
+    for (QLabel* label : finishLabels_) label->setFont(bold);
+    for (const Entry& entry : entries_) entry.edit->setFont(plain);
+    for (QLineEdit* box : boxes_) {
+        box->setFont(bold);
+        box->setFixedWidth(appearance_.pixels(numberTwips));
+    }
+    for (const PayoffBox& payoff : payoffBoxes)
+        tote_.at(static_cast<std::size_t>(payoff.box))
+            ->setFixedWidth(appearance_.pixels(payoff.column > exoticColumn ? exoticTwips : payoffTwips));
+    tote_[boxTen]->setFixedWidth(appearance_.pixels(payoffTwips));
+    for (QLineEdit* wide : {tote_[doubleBox], refunds_}) wide->setMinimumWidth(appearance_.pixels(wideTwips));
+}
+
+void BoardPanel::handIn() {
+    if (handingIn_ || runner_.isRunning()) return;
+    handingIn_ = true;
+    // All texts are taken first: each command draws the board anew.
+    std::vector<std::pair<const Entry*, Text>> texts;
+    for (const Entry& entry : entries_) {
+        if (!entry.edit->isModified()) continue;
+        texts.emplace_back(&entry, typed(entry.edit->text()));
+    }
+    for (const auto& [entry, text] : texts) {
+        entry->send(text);
+        entry->edit->setModified(false);
+    }
+    handingIn_ = false;
+    if (!texts.empty()) refresh();
+}
+
+void BoardPanel::takeUp(const QString& command) {
+    const bool mayDrop =
+        std::find(droppingCommands.begin(), droppingCommands.end(), command) != droppingCommands.end();
+    if (mayDrop && unkept_ > 0 && !boardHasUnkeptTyping()) emit typingDropped(unkept_);
+}
+
+void BoardPanel::placeBoxTen() {
+    QLineEdit& box = *tote_[boxTen];
+    const int wanted = theScreen.boxTenVisible ? theScreen.boxTenColumn : 0;
+    if (wanted != boxTenColumn_) {
+        boxTenColumn_ = wanted;
+        const auto place = static_cast<std::size_t>(wanted);
+        grid_->removeWidget(&box);
+        if (wanted > 0) grid_->addWidget(&box, boxTenRow.at(place), boxTenColumn.at(place));
+        box.setAccessibleName(tr(boxTenName.at(place)));
+        box.setToolTip(tr("%1. What is typed here does not come back.").arg(box.accessibleName()));
+    }
+    box.setVisible(wanted > 0);
+}
+
+void BoardPanel::tint() {
+    for (std::size_t i = 0; i < boxes_.size(); ++i) {
+        const Colour colour = theScreen.boxes[i].colour;
+        if (colour == painted_[i]) continue;
+        paint(*boxes_[i], colour);
+        painted_[i] = colour;
+    }
+}
+
+void BoardPanel::refresh() {
+    for (std::size_t i = 0; i < boxes_.size(); ++i) put(*boxes_[i], theScreen.boxes[i].text);
+    tint();
+    heading_->setText(shown(theScreen.tote[0]));
+    for (std::size_t box = 1; box < tote_.size(); ++box) put(*tote_[box], theScreen.tote[box]);
+    for (std::size_t i = 0; i < finishLabels_.size(); ++i)
+        finishLabels_[i]->setText(shown(theScreen.finishLabels[i]));
+    put(*refunds_, theScreen.refunds);
+    placeBoxTen();
+}
 
 } // namespace quillon

@@ -46,10 +46,7 @@ bool CellTableModel::refresh() {
     return changed;
 }
 
-void CellTableModel::setRightAligned(int first, int last) {
-    firstRight_ = first;
-    lastRight_ = last;
-}
+void CellTableModel::setRightAligned(int first, int last) { rightAligned_.emplace_back(first, last); }
 
 void CellTableModel::setBoldRows(int first, int last) {
     firstBold_ = first;
@@ -73,6 +70,12 @@ void CellTableModel::setEditing(std::function<bool(int, int)> mayEdit,
                                 std::function<void(int, int, const Text&)> edit) {
     mayEdit_ = std::move(mayEdit);
     edit_ = std::move(edit);
+}
+
+bool CellTableModel::isRightAligned(int column) const {
+    return std::any_of(rightAligned_.begin(), rightAligned_.end(), [column](const auto& range) {
+        return column >= range.first && column <= range.second;
+    });
 }
 
 int CellTableModel::rowsOnShow() const {

@@ -6,6 +6,8 @@
 #include <QAbstractTableModel>
 
 #include <functional>
+#include <utility>
+#include <vector>
 
 namespace quillon {
 
@@ -32,7 +34,7 @@ public:
     /// Rows behind the last one with a text are left away.
     void setTailHidden(bool hidden) { tailHidden_ = hidden; }
 
-    /// Columns whose heads and cells stand at the right.
+    /// Columns whose heads and cells stand at the right, beside those named before.
     void setRightAligned(int first, int last);
 
     /// Rows of the table that are drawn bold, whatever their cells say.
@@ -58,15 +60,14 @@ public:
 private:
     int rowsOnShow() const;
     bool isBold(int row, const Cell& cell) const;
-    bool isRightAligned(int column) const { return column >= firstRight_ && column <= lastRight_; }
+    bool isRightAligned(int column) const;
 
     const Grid* grid_ = nullptr;
     CellRange range_;
     std::uint64_t version_ = 0;
     int rows_ = 0;
     bool tailHidden_ = false;
-    int firstRight_ = 0;
-    int lastRight_ = -1;
+    std::vector<std::pair<int, int>> rightAligned_; ///< first and last column
     int firstBold_ = 0;
     int lastBold_ = -1;
     std::function<bool(int, int)> mayEdit_;

@@ -31,15 +31,28 @@ std::optional<double> leadingNumber(const QString& text) {
     return ok ? std::optional{value} : std::nullopt;
 }
 
+/// The whole number that a text begins with; nothing where it begins with no figure.
+std::optional<int> numberInFront(const QString& text) {
+    const auto isFigure = [](QChar character) { return character >= '0' && character <= '9'; };
+    const auto end = std::find_if_not(text.begin(), text.end(), isFigure);
+    bool ok = false;
+    const int value = text.left(end - text.begin()).toInt(&ok);
+    return ok ? std::optional{value} : std::nullopt;
+}
+
 } // namespace
 
 bool NumberSortProxy::lessThan(const QModelIndex& left, const QModelIndex& right) const {
+    if (left.column() < rowOrderColumns_) return left.row() < right.row();
     const QString a = left.data().toString();
     const QString b = right.data().toString();
     const auto first = leadingNumber(a);
     const auto second = leadingNumber(b);
     if (first && second) return *first < *second;
     if (first || second) return first.has_value(); // numbers before words
+    const auto firstFront = numberInFront(a);
+    const auto secondFront = numberInFront(b);
+    if (firstFront && secondFront && *firstFront != *secondFront) return *firstFront < *secondFront;
     return a.localeAwareCompare(b) < 0;
 }
 
@@ -93,13 +106,19 @@ int CellTableView::rowPixels() const {
     return std::max(appearance_.pixels(rowTwips_), QFontMetrics{font()}.height() + 2);
 }
 
-void CellTableView::setSortable() {
+void CellTableView::setSortable(int rowOrderColumns) {
+    sorted_.setRowOrderColumns(rowOrderColumns);
     sorted_.setSourceModel(&model_);
     setModel(&sorted_);
     setSortingEnabled(true);
     horizontalHeader()->setSortIndicatorClearable(true);
     horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     sorted_.sort(-1);
+}
+
+int CellTableView::tableRow(const QModelIndex& index) const {
+    if (!index.isValid()) return -1;
+    return model_.tableRow(index.model() == &sorted_ ? sorted_.mapToSource(index) : index);
 }
 
 void CellTableView::refresh() {

@@ -15,15 +15,22 @@
 
 namespace quillon {
 
-/// Sorts numbers as numbers ("$ 12.60", "45.5%", " 9"), other texts as text.
+/// Sorts numbers as numbers ("$ 12.60", "45.5%", " 9"), other texts by the number that they begin with ("2A"
+/// before "10A") and then as text.
 class NumberSortProxy : public QSortFilterProxyModel {
     Q_OBJECT
 
 public:
     using QSortFilterProxyModel::QSortFilterProxyModel;
 
+    /// The first `count` columns sort by the order of the table's rows: times of day, race labels.
+    void setRowOrderColumns(int count) { rowOrderColumns_ = count; }
+
 protected:
     bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
+
+private:
+    int rowOrderColumns_ = 0;
 };
 
 class CellTableView : public QTableView {
@@ -47,8 +54,11 @@ public:
     void setRowHeight(int twips); ///< of all rows, head aside
     int rowPixels() const;
 
-    /// A click on a head sorts by that column; the third one gives the table its own order again.
-    void setSortable();
+    /// A click on a head sorts by that column; the first `rowOrderColumns` give the order of the rows back.
+    void setSortable(int rowOrderColumns = 0);
+
+    /// The table's row of a cell of the view, sorted or not; -1 of none.
+    int tableRow(const QModelIndex& index) const;
 
     /// The first column stays in sight while the others are scrolled.
     void setFirstColumnFrozen();

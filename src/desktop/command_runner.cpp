@@ -21,7 +21,7 @@ bool CommandRunner::run(const char* name, const Arguments& arguments) {
     running_ = true;
     runCommand(*findCommand(name), arguments);
     running_ = false;
-    emit ran();
+    emit ran(name);
     return true;
 }
 

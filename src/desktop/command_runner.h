@@ -24,8 +24,8 @@ public:
     static bool canRun(const char* name, const Arguments& arguments = {});
 
 signals:
-    void aboutToRun(); ///< boxes that are still being typed in hand in their text first
-    void ran();        ///< the screen may have changed: draw it again
+    void aboutToRun();                ///< boxes that are still being typed in hand in their text first
+    void ran(const QString& command); ///< the screen may have changed: draw it again
 
 private:
     bool running_ = false;

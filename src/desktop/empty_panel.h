@@ -1,10 +1,14 @@
-// What the window shows while no card is open: where the tables go, and what to press.
+// What stands in the window before a card: where the vendor's tables go, which are there, and how to begin.
 #pragma once
 
 #include "desktop/appearance.h"
 #include "desktop/command_runner.h"
 
+#include <QLabel>
+#include <QPushButton>
 #include <QWidget>
+
+#include <array>
 
 namespace quillon {
 
@@ -14,12 +18,34 @@ class EmptyPanel : public QWidget {
 public:
     EmptyPanel(CommandRunner& runner, Appearance& appearance, QWidget* parent = nullptr);
 
-    /// Draws what the screen holds now.
+    /// Draws what the screen and the source folder hold now.
     void refresh();
 
+protected:
+    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
 private:
+    static constexpr std::size_t tableCount = 5;
+    using Tables = std::array<bool, tableCount>;
+
+    void buildTexts();
+    void buildButtons();
+    void lay();
+    void lookForTables();
+    void openFolder();
+    void takeUp(const QString& command);
+
     CommandRunner& runner_;
     Appearance& appearance_;
+    Tables there_{};
+    QLabel* heading_;
+    QLabel* folder_;
+    std::array<QLabel*, tableCount> tables_{};
+    QLabel* notice_;
+    QPushButton* start_;
+    QPushButton* open_;
+    QPushButton* recall_;
 };
 
 } // namespace quillon

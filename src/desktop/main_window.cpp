@@ -36,6 +36,7 @@ MainWindow::MainWindow(Appearance& appearance, QWidget* parent)
     buildPages();
     buildDocks();
     buildMenus();
+    connectPanels();
     stars_ = new StarsWindow{runner_, appearance_, this};
     choices_ = new ChoiceDialog{runner_, appearance_, this};
     connect(&runner_, &CommandRunner::ran, this, &MainWindow::refresh);
@@ -90,6 +91,18 @@ void MainWindow::buildDocks() {
     dock->setWidget(raceList_);
     addDockWidget(Qt::LeftDockWidgetArea, dock);
     dock->hide();
+}
+
+void MainWindow::connectPanels() {
+    const auto putOverviewAway = [this] { showOverview(false); };
+    connect(overview_, &OverviewPanel::raceOpened, this, putOverviewAway);
+    connect(raceList_, &RaceListPanel::raceOpened, this, putOverviewAway);
+    connect(board_, &BoardPanel::typingDropped, this, [this](int race) {
+        constexpr int longEnoughToRead = 20000; // milliseconds
+        statusBar()->showMessage(
+            tr("What was typed for race %1 was not kept: leave a race with the arrows to keep it").arg(race),
+            longEnoughToRead);
+    });
 }
 
 void MainWindow::buildMenus() {

@@ -49,6 +49,7 @@ private:
     void buildPages();
     void buildDocks();
     void buildMenus();
+    void connectPanels();
     void buildViewMenu();
     void buildHelpMenu();
     void restoreLook();

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "desktop/appearance.h"
+#include "desktop/cell_table_view.h"
 #include "desktop/command_runner.h"
 
+#include <QLabel>
 #include <QWidget>
 
 namespace quillon {
@@ -13,13 +15,29 @@ class OverviewPanel : public QWidget {
 
 public:
     OverviewPanel(CommandRunner& runner, Appearance& appearance, QWidget* parent = nullptr);
+    ~OverviewPanel() override;
 
-    /// Draws what the screen holds now.
+    /// Draws what the card holds now.
     void refresh();
 
+signals:
+    void raceOpened(); ///< the race is on show: the overview can be put away
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
 private:
+    void open(const QModelIndex& index);
+    void goToRaceOnShow();
+    void lay();
+
     CommandRunner& runner_;
     Appearance& appearance_;
+    Grid races_;
+    QLabel* heading_;
+    QLabel* hint_;
+    CellTableView* table_;
 };
 
 } // namespace quillon

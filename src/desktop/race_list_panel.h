@@ -4,6 +4,7 @@
 #include "desktop/appearance.h"
 #include "desktop/command_runner.h"
 
+#include <QListWidget>
 #include <QWidget>
 
 namespace quillon {
@@ -17,9 +18,20 @@ public:
     /// Draws what the screen holds now.
     void refresh();
 
+signals:
+    void raceOpened();
+
 private:
+    void fill();
+    void check();
+    void lay();
+    void open(int row);
+
     CommandRunner& runner_;
     Appearance& appearance_;
+    QListWidget* list_;
+    std::vector<Text> lines_; ///< as the list shows them
+    int current_ = -1;        ///< row of the race on show
 };
 
 } // namespace quillon

@@ -4,13 +4,13 @@
 #include "core/card_files.h"
 #include "core/failure.h"
 #include "core/race_card.h"
+#include "reports/bet_mark.h"
 #include "reports/pick_sheet.h"
 #include "reports/ranked_row.h"
 #include "reports/report_writer.h"
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace quillon {
 namespace {
@@ -30,19 +30,6 @@ constexpr const char* furtherPick  = "  -{}";
 constexpr const char* scratchNote  =
     "*Scr_Adj:  If an entry with a Post Position that is INSIDE the Selection, "
     "DEDUCT the Scr_Adj from the PR.";
-
-// How far S1 stands out, and the bet that it is worth.
-struct BetMark { double below; TextView text; };
-constexpr double deadHeatMargin = 0.1;
-constexpr TextView deadHeat     = "DEAD HEAT";
-constexpr std::array betMarks{
-    BetMark{1,   "VDH      "},
-    BetMark{2,   "$        "},
-    BetMark{3,   "$$       "},
-    BetMark{4,   "$$$      "},
-    BetMark{5,   "$$$$     "},
-    BetMark{std::numeric_limits<double>::infinity(), "$$$$$    "},
-};
 // clang-format on
 
 constexpr double starMargin = 5;
@@ -54,35 +41,21 @@ constexpr double singleGap = 5;
 constexpr double secondGap = 0.75;
 constexpr double thirdGap = 0.5;
 
-/// What the ratings of a race say: the margin of S1 as its sheet shows it, and the gap behind each place.
+/// What the ratings of a race say: the margin of S1 as its sheet takes it, and the gap behind each place.
 struct Gaps {
     Text margin = "0";
     std::array<Integer, 4> behind{}; ///< whole gaps behind S1 to S3, from 1
 };
-
-// The margin has four characters. A margin of 9.9 and the residue of a level pair once looked alike
-// ("9.9E-02"), so both are as good as level.
-Text shownMargin(double margin) {
-    const Text text = numberText(margin);
-    return text.starts_with("9.9") ? "0.01" : Text{leftOf(text, 4)};
-}
 
 Gaps gapsOf(int race) {
     std::array<double, 5> rating{};
     for (int place = 1; place <= 4; ++place)
         rating[static_cast<std::size_t>(place)] = lenientNumber(rankedRow(race, place).pr);
     Gaps gaps;
-    attempt([&] { gaps.margin = shownMargin(rating[2] - rating[1]); });
+    attempt([&] { gaps.margin = marginOf(race); });
     for (std::size_t place = 1; place <= 3; ++place)
         attempt([&] { gaps.behind[place] = toInteger(rating[place + 1] - rating[place]); });
     return gaps;
-}
-
-TextView betMark(double margin) {
-    if (margin <= deadHeatMargin) return deadHeat;
-    return std::find_if(betMarks.begin(), betMarks.end(),
-                        [&](const BetMark& row) { return margin < row.below; })
-        ->text;
 }
 
 // A morning line in whole points: 10/1 is 10, 5/2 and 9/5 are 2. Of the divisor only the last digit is read.

@@ -4,7 +4,9 @@
 #include "core/failure.h"
 #include "core/race_card.h"
 #include "rating/race_views.h"
+#include "results/heats.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -74,6 +76,22 @@ int raceOnShow() {
     int race = 0;
     attempt([&] { race = toInteger(lenientNumber(screen.header.race)); });
     return race;
+}
+
+bool boardHasUnkeptTyping() {
+    const int race = raceOnShow();
+    if (race < 1 || race >= raceExtent) return false;
+    // Cells come from tables and results texts with blanks round them, and are stored without.
+    const auto differs = [](const Text& shown, const Text& stored) {
+        return trimmed(shown) != trimmed(stored);
+    };
+    // A heat shows its ranking where it has no selections of its own.
+    const int firstBox = isHeat(race) && !hasSelections(race) ? firstFinishBox : 0;
+    for (int box = firstBox; box < boxCount; ++box)
+        if (differs(screen.boxes.at(box).text, card.raceOutcome[{race, box + 1}])) return true;
+    return std::any_of(cellsOfTheirBoxes.begin(), cellsOfTheirBoxes.end(), [&](int cell) {
+        return differs(screen.tote.at(cell), card.payoffRecord[{race, cell}]);
+    });
 }
 
 void setBox(int box, TextView text) {

@@ -21,6 +21,11 @@ constexpr int toteBoxesOfCells = 11; ///< tote boxes 1 to 11, of which 10 is a s
 /// The race whose board is on show: the number that its label begins with ("1A" is race 1); 0 when none is.
 int raceOnShow();
 
+/// True when a box that leaving the race would store holds something else than the store does: results that a
+/// race button or the race list would drop. Box 10 and the refunds are no such boxes, what is typed there
+/// does not come back either way.
+bool boardHasUnkeptTyping();
+
 /// A step's way to write one of the boxes 0 to 7: a text that becomes another brings the board in line with a
 /// dead heat. A box that isn't there fails.
 void setBox(int box, TextView text);

@@ -87,12 +87,6 @@ void logHeatEntry(int race, int post) {
     appendToFile(heatLog(std::to_string(race)), line);
 }
 
-bool hasSelections(int race) {
-    for (int cell = 1; cell <= selectionBoxes; ++cell)
-        if (!card.raceOutcome(race, cell).empty()) return true;
-    return false;
-}
-
 /// The entries of a heat in the order of their ratings; 0 where there is none for a place. The places found
 /// become those of the last ranking.
 RankedEntries rankHeat(int race) {
@@ -166,6 +160,12 @@ bool isHeat(int race) {
     if (race > card.raceCount) return true;
     for (int entry = 1; entry < entryExtent; ++entry)
         if (card.heatPost(race, entry) > 0) return true;
+    return false;
+}
+
+bool hasSelections(int race) {
+    for (int cell = 1; cell <= selectionBoxes; ++cell)
+        if (!card.raceOutcome(race, cell).empty()) return true;
     return false;
 }
 

@@ -13,7 +13,6 @@
 namespace quillon {
 namespace {
 
-constexpr int lastButtonRace = 20; ///< race buttons and the race list reach no further
 constexpr int boxCount = 8;
 
 /// How far a way of showing a race puts away the race views and the check marks of other races. Previous and

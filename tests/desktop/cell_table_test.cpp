@@ -172,6 +172,39 @@ TEST_F(CellTableTest, NumbersSortAsNumbers) {
     EXPECT_EQ("Corner Boy", of(0, 0, Qt::DisplayRole).toString());
 }
 
+TEST_F(CellTableTest, TextsThatBeginWithANumberSortByItFirst) {
+    grid(1, 2).text = "10A";
+    grid(2, 2).text = "2B";
+    grid(3, 2).text = "2A";
+    view.cells().setTailHidden(true);
+    view.setSortable();
+    view.show(&grid);
+    view.sortByColumn(2, Qt::AscendingOrder);
+    EXPECT_EQ("2A", of(0, 2, Qt::DisplayRole).toString());
+    EXPECT_EQ("2B", of(1, 2, Qt::DisplayRole).toString());
+    EXPECT_EQ("10A", of(2, 2, Qt::DisplayRole).toString());
+}
+
+TEST_F(CellTableTest, TheFirstColumnsSortByTheTablesOwnOrderWhereAsked) {
+    grid(1, 0).text = "10:05 PM";
+    grid(2, 0).text = "1:05 AM";
+    view.setSortable(1);
+    view.show(&grid);
+    view.sortByColumn(0, Qt::AscendingOrder);
+    EXPECT_EQ("10:05 PM", of(0, 0, Qt::DisplayRole).toString());
+    view.sortByColumn(0, Qt::DescendingOrder);
+    EXPECT_EQ(5, view.tableRow(view.model()->index(0, 0)));
+    EXPECT_EQ(-1, view.tableRow({}));
+}
+
+TEST_F(CellTableTest, SeveralRangesOfColumnsStandAtTheRight) {
+    view.cells().setRightAligned(0, 0);
+    view.cells().setRightAligned(2, 2);
+    EXPECT_TRUE(of(0, 0, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
+    EXPECT_TRUE(of(0, 1, Qt::TextAlignmentRole).toInt() & Qt::AlignLeft);
+    EXPECT_TRUE(of(0, 2, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
+}
+
 TEST_F(CellTableTest, AnEditedCellHandsInItsTextOnlyWhenItChanged) {
     std::vector<std::string> edits;
     view.cells().setEditing([](int, int column) { return column == 1; },

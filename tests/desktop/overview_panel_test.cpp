@@ -1,1 +1,128 @@
+#include "desktop/overview_panel.h"
+
+#include "desktop/main_window.h"
+#include "desktop/shown_text.h"
 #include "desktop/window_test.h"
+#include "reports/card_overview.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QSignalSpy>
+
+namespace quillon {
+namespace {
+
+struct OverviewPanelTest : WindowTest {
+    OverviewPanelTest() {
+        startSampleCard();
+        panel.resize(1083, 600);
+        panel.refresh();
+        panel.show();
+    }
+
+    CellTableView& table() { return child<CellTableView>(panel, "OverviewTable"); }
+
+    QString text(int row, int column) { return table().model()->index(row, column).data().toString(); }
+
+    void clickRow(int row, Qt::KeyboardModifiers modifiers = {}) {
+        const QPoint place = table().visualRect(table().model()->index(row, 6)).center();
+        QTest::mouseClick(table().viewport(), Qt::LeftButton, modifiers, place);
+    }
+
+    OverviewPanel panel{runner, appearance};
+};
+
+TEST_F(OverviewPanelTest, ShowsARowARace) {
+    const Grid expected = cardOverview();
+    ASSERT_GT(card.raceCount, 1);
+    ASSERT_EQ(card.raceCount, table().model()->rowCount());
+    for (int row = 0; row < table().model()->rowCount(); ++row)
+        for (int column = 0; column < expected.columns(); ++column)
+            EXPECT_EQ(quillon::shown(expected.text(row + 1, column)), text(row, column))
+                << row << " " << column;
+    EXPECT_EQ("Purse", table().model()->headerData(5, Qt::Horizontal, Qt::DisplayRole).toString());
+    const auto side = table().model()->index(0, 5).data(Qt::TextAlignmentRole).toInt();
+    EXPECT_TRUE(side & Qt::AlignRight);
+}
+
+TEST_F(OverviewPanelTest, AClickOpensTheRace) {
+    const QSignalSpy opened{&panel, &OverviewPanel::raceOpened};
+    clickRow(2);
+    EXPECT_EQ("3", screen.header.race);
+    EXPECT_EQ(1, opened.count());
+}
+
+TEST_F(OverviewPanelTest, EnterOpensTheRaceThatTheKeysHaveReached) {
+    EXPECT_EQ(0, table().currentIndex().row()); // race 1 is on show
+    QTest::keyClick(&table(), Qt::Key_Down);
+    QTest::keyClick(&table(), Qt::Key_Return);
+    EXPECT_EQ("2", screen.header.race);
+}
+
+TEST_F(OverviewPanelTest, SelectingRowsOpensNone) {
+    const QSignalSpy opened{&panel, &OverviewPanel::raceOpened};
+    clickRow(2, Qt::ControlModifier);
+    clickRow(3, Qt::ShiftModifier);
+    EXPECT_EQ(0, opened.count());
+    EXPECT_EQ("1", screen.header.race);
+}
+
+TEST_F(OverviewPanelTest, SortedRowsOpenTheirOwnRace) {
+    table().sortByColumn(overviewColumn::margin, Qt::DescendingOrder);
+    double last = 1e9;
+    for (int row = 0; row < table().model()->rowCount(); ++row) {
+        const double margin = text(row, overviewColumn::margin).toDouble();
+        EXPECT_LE(margin, last);
+        last = margin;
+    }
+    const QString label = text(0, overviewColumn::race);
+    clickRow(0);
+    EXPECT_EQ(label, quillon::shown(card.raceInfo(std::stoi(screen.header.race)).label));
+}
+
+TEST_F(OverviewPanelTest, PostTimesSortByTheOrderOfTheRaces) {
+    table().sortByColumn(overviewColumn::postTime, Qt::DescendingOrder);
+    EXPECT_EQ(quillon::shown(card.raceInfo(card.raceCount).label), text(0, overviewColumn::race));
+    table().sortByColumn(overviewColumn::postTime, Qt::AscendingOrder);
+    EXPECT_EQ(quillon::shown(card.raceInfo(1).label), text(0, overviewColumn::race));
+}
+
+TEST_F(OverviewPanelTest, ARowAboveTheLastRaceButtonOpensNothing) {
+    card.raceCount = 22;
+    for (std::size_t n = 1; n < screen.raceButtons.size(); ++n) screen.raceButtons[n].visible = true;
+    panel.refresh();
+    const QSignalSpy opened{&panel, &OverviewPanel::raceOpened};
+    panel.resize(1083, 900);
+    clickRow(20);
+    EXPECT_EQ(0, opened.count());
+    EXPECT_EQ("1", screen.header.race);
+    clickRow(19);
+    EXPECT_EQ(1, opened.count());
+    EXPECT_EQ("20", screen.header.race);
+}
+
+TEST_F(OverviewPanelTest, ARefreshKeepsThePlaceWhereNothingHasChangedAndTakesUpWhatHas) {
+    table().setCurrentIndex(table().model()->index(4, 0));
+    panel.refresh();
+    EXPECT_EQ(4, table().currentIndex().row());
+    card.raceOutcome(1, 1) = "12";
+    panel.refresh();
+    EXPECT_TRUE(text(0, overviewColumn::firstSelection).startsWith("12  "));
+}
+
+TEST_F(WindowTest, OpeningARacePutsTheOverviewAway) {
+    startSampleCard();
+    MainWindow window{appearance};
+    window.show();
+    window.showOverview(true);
+    auto& table = child<CellTableView>(window, "OverviewTable");
+    ASSERT_TRUE(table.isVisible());
+    table.setCurrentIndex(table.model()->index(1, 0));
+    QTest::keyClick(&table, Qt::Key_Enter);
+    EXPECT_FALSE(window.overviewShown());
+    EXPECT_FALSE(table.isVisible());
+    EXPECT_EQ("2", screen.header.race);
+}
+
+} // namespace
+} // namespace quillon

@@ -157,6 +157,64 @@ TEST_F(BoardTest, TheZeroGoesBeforeTheBoardIsStored) {
     EXPECT_EQ("4.40", card.payoffRecord(3, 2));
 }
 
+// ---- what a race button would drop
+
+TEST_F(BoardTest, ABoardAsStoredHasNoUnkeptTyping) {
+    card.raceOutcome(3, 1) = "  4"; // as the ranking pads it
+    screen.boxes[0].text = "  4";
+    card.payoffRecord(3, 1) = " 4.40"; // as a results pass cuts it
+    screen.tote[1] = "4.40";
+    EXPECT_FALSE(boardHasUnkeptTyping());
+}
+
+TEST_F(BoardTest, ABoxThatDiffersFromItsCellIsUnkeptUntilTheBoardIsStored) {
+    for (int box = 0; box < 8; ++box) {
+        screen.boxes.at(box).text = "6";
+        EXPECT_TRUE(boardHasUnkeptTyping()) << box;
+        Get_Textbox_Data();
+        EXPECT_FALSE(boardHasUnkeptTyping()) << box;
+    }
+    for (const int box : {1, 2, 3, 4, 5, 6, 7, 8, 9, 11}) {
+        screen.tote.at(box) = "5.20";
+        EXPECT_TRUE(boardHasUnkeptTyping()) << box;
+        Get_Textbox_Data();
+        EXPECT_FALSE(boardHasUnkeptTyping()) << box;
+    }
+    screen.tote[2].clear(); // taken out again
+    EXPECT_TRUE(boardHasUnkeptTyping());
+}
+
+TEST_F(BoardTest, BlanksAloneAreNoTyping) {
+    screen.boxes[5].text = "  ";
+    screen.tote[7] = " ";
+    EXPECT_FALSE(boardHasUnkeptTyping());
+}
+
+TEST_F(BoardTest, BoxTenAndTheRefundsComeBackNeitherWay) {
+    screen.tote[10] = "5.40";
+    screen.refunds = " 4";
+    EXPECT_FALSE(boardHasUnkeptTyping());
+}
+
+TEST_F(BoardTest, WithNoRaceOnShowNothingIsUnkept) {
+    screen.boxes[4].text = "6";
+    for (const char* race : {"", "A", "31", "400"}) {
+        screen.header.race = race;
+        EXPECT_FALSE(boardHasUnkeptTyping()) << race;
+    }
+}
+
+TEST_F(BoardTest, TheRankingThatAHeatShowsIsNotTyping) {
+    screen.header.race = "15"; // above the card's twelve
+    screen.boxes[0].text = "2";
+    EXPECT_FALSE(boardHasUnkeptTyping());
+    screen.boxes[4].text = "2";
+    EXPECT_TRUE(boardHasUnkeptTyping());
+    screen.boxes[4].text.clear();
+    card.raceOutcome(15, 2) = "7"; // now it has selections of its own
+    EXPECT_TRUE(boardHasUnkeptTyping());
+}
+
 // ---- dead heats
 
 class DeadHeatBoardTest : public BoardTest {

@@ -1,0 +1,46 @@
+#include "reports/bet_mark.h"
+
+#include "core/numbers.h"
+#include "reports/ranked_row.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace quillon {
+namespace {
+
+struct BetMark {
+    double below;
+    TextView text;
+};
+constexpr double deadHeatMargin = 0.1;
+constexpr TextView deadHeat = "DEAD HEAT";
+// clang-format off
+constexpr std::array betMarks{
+    BetMark{1,   "VDH      "},
+    BetMark{2,   "$        "},
+    BetMark{3,   "$$       "},
+    BetMark{4,   "$$$      "},
+    BetMark{5,   "$$$$     "},
+    BetMark{std::numeric_limits<double>::infinity(), "$$$$$    "},
+};
+// clang-format on
+
+} // namespace
+
+// A margin of 9.9 and the residue of a level pair once looked alike ("9.9E-02"), so both are as good as
+// level.
+Text marginOf(int race) {
+    const Text text = numberText(lenientNumber(rankedRow(race, 2).pr) - lenientNumber(rankedRow(race, 1).pr));
+    return text.starts_with("9.9") ? "0.01" : Text{leftOf(text, 4)};
+}
+
+TextView betMark(double margin) {
+    if (margin <= deadHeatMargin) return deadHeat;
+    return std::find_if(betMarks.begin(), betMarks.end(),
+                        [&](const BetMark& row) { return margin < row.below; })
+        ->text;
+}
+
+} // namespace quillon
