@@ -6,6 +6,7 @@
 #include "desktop/appearance.h"
 #include "desktop/cell_table_model.h"
 
+#include <QPointer>
 #include <QSortFilterProxyModel>
 #include <QTableView>
 
@@ -26,10 +27,40 @@ protected:
     bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
 };
 
+class CellTableView;
+
+/// A search through the cells of a table for a text, whatever its case, behind the current cell and round the
+/// end. It is made in steps, so that a table of a million rows can be searched while the window lives on.
+class CellSearch {
+public:
+    enum class State { goesOn, found, notThere };
+
+    CellSearch(CellTableView& view, const QString& text, bool backwards);
+
+    /// Looks on for about so long; goes to the cell once it is found. A table that changed meanwhile ends it.
+    State lookOn(int milliseconds);
+
+    int percent() const; ///< of the table that was looked through
+
+private:
+    bool isAt(qint64 cell) const;
+
+    QPointer<CellTableView> view_;
+    QString text_;
+    bool backwards_;
+    int rows_;
+    int columns_;
+    qint64 start_;
+    qint64 step_ = 0;
+};
+
 class CellTableView : public QTableView {
     Q_OBJECT
 
 public:
+    /// Cells that are copied at most: as much as another program takes up without trouble.
+    static constexpr int mostCopied = 200000;
+
     /// `name` is what a screen reader says of the table.
     CellTableView(Appearance& appearance, const QString& name, QWidget* parent = nullptr);
 
@@ -54,9 +85,10 @@ public:
     void refresh();
     void show(const Grid* grid, const CellRange& range = {});
 
-    /// The selected cells, a line a row, a tab between two cells.
+    /// The selected cells, a line a row, a tab between two cells. Whole rows, until about `mostCopied` cells.
     QString selectionText() const;
-    void copySelection() const;
+    /// Puts them on the clipboard, and tells where they are not all.
+    void copySelection();
 
     /// Goes to the next cell that holds the text, whatever its case, behind the current one and round the
     /// end. False where there is none.
@@ -67,8 +99,15 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    struct CopiedRows {
+        QString text{};
+        int rows = 0;
+        bool isCut = false; ///< there was more than is copied at once
+    };
+
     void lay();
     int widthFor(int column) const;
+    CopiedRows copiedRows() const;
 
     Appearance& appearance_;
     CellTableModel model_;
