@@ -6,10 +6,12 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QScrollBar>
+#include <QToolTip>
 
 #include <algorithm>
 #include <utility>
@@ -38,6 +40,18 @@ std::optional<int> numberInFront(const QString& text) {
     bool ok = false;
     const int value = text.left(end - text.begin()).toInt(&ok);
     return ok ? std::optional{value} : std::nullopt;
+}
+
+/// The selected columns of a row, from left to right.
+std::vector<int> columnsIn(const QItemSelection& ranges, int row) {
+    std::vector<int> columns;
+    for (const QItemSelectionRange& range : ranges) {
+        if (row < range.top() || row > range.bottom()) continue;
+        for (int column = range.left(); column <= range.right(); ++column) columns.push_back(column);
+    }
+    std::sort(columns.begin(), columns.end());
+    columns.erase(std::unique(columns.begin(), columns.end()), columns.end());
+    return columns;
 }
 
 } // namespace
@@ -255,57 +269,99 @@ void CellTableView::scrollTo(const QModelIndex& index, ScrollHint hint) {
     if (covered > 0) horizontalScrollBar()->setValue(horizontalScrollBar()->value() - covered);
 }
 
-QString CellTableView::selectionText() const {
-    QModelIndexList cells = selectionModel() ? selectionModel()->selectedIndexes() : QModelIndexList{};
-    cells.removeIf(
-        [this](const QModelIndex& cell) { return isColumnHidden(cell.column()) || isRowHidden(cell.row()); });
-    std::sort(cells.begin(), cells.end());
-    if (cells.isEmpty()) return {};
-
-    int firstColumn = cells.first().column();
-    for (const QModelIndex& cell : cells) firstColumn = std::min(firstColumn, cell.column());
-    QString text;
-    int row = cells.first().row();
-    int column = firstColumn;
-    for (const QModelIndex& cell : cells) {
-        if (cell.row() != row) {
-            text += '\n';
-            row = cell.row();
-            column = firstColumn;
-        }
-        for (; column < cell.column(); ++column)
-            if (!isColumnHidden(column)) text += '\t';
-        text += cell.data().toString();
+// Goes by the ranges of the selection: a list of all cells of a million rows would not fit into memory.
+CellTableView::CopiedRows CellTableView::copiedRows() const {
+    const QItemSelection ranges = selectionModel() ? selectionModel()->selection() : QItemSelection{};
+    int firstRow = model()->rowCount();
+    int lastRow = -1;
+    int firstColumn = model()->columnCount();
+    for (const QItemSelectionRange& range : ranges) {
+        firstRow = std::min(firstRow, range.top());
+        lastRow = std::max(lastRow, range.bottom());
+        firstColumn = std::min(firstColumn, range.left());
     }
-    return text;
+    CopiedRows copied;
+    int cells = 0;
+    for (int row = firstRow; row <= lastRow && cells < mostCopied; ++row) {
+        if (isRowHidden(row)) continue;
+        std::vector<int> columns = columnsIn(ranges, row);
+        std::erase_if(columns, [this](int at) { return isColumnHidden(at); });
+        if (columns.empty()) continue;
+        if (copied.rows++ > 0) copied.text += '\n';
+        int column = firstColumn;
+        for (const int selected : columns) {
+            for (; column < selected; ++column)
+                if (!isColumnHidden(column)) copied.text += '\t';
+            copied.text += model()->index(row, selected).data().toString();
+            ++cells;
+        }
+        copied.isCut = row < lastRow;
+    }
+    return copied;
 }
 
-void CellTableView::copySelection() const {
-    const QString text = selectionText();
-    if (!text.isEmpty()) QApplication::clipboard()->setText(text);
+QString CellTableView::selectionText() const { return copiedRows().text; }
+
+void CellTableView::copySelection() {
+    const CopiedRows copied = copiedRows();
+    if (copied.text.isEmpty()) return;
+    QApplication::clipboard()->setText(copied.text);
+    if (!copied.isCut) return;
+    QToolTip::showText(mapToGlobal(rect().center()),
+                       tr("The selection is too large: its first %1 rows were copied.").arg(copied.rows),
+                       this);
 }
 
 bool CellTableView::find(const QString& text, bool backwards) {
-    const int rows = model()->rowCount();
-    const int columns = model()->columnCount();
-    const qint64 cells = static_cast<qint64>(rows) * columns;
-    if (text.isEmpty() || cells == 0) return false;
-    const QModelIndex current = currentIndex();
-    const qint64 start = current.isValid() ? static_cast<qint64>(current.row()) * columns + current.column()
-                         : backwards       ? 0
-                                           : -1;
-    for (qint64 step = 1; step <= cells; ++step) {
-        const qint64 at = (start + (backwards ? -step : step) + 2 * cells) % cells;
-        const auto row = static_cast<int>(at / columns);
-        const auto column = static_cast<int>(at % columns);
-        if (isColumnHidden(column) || isRowHidden(row)) continue;
-        const QModelIndex index = model()->index(row, column);
-        if (!index.data().toString().contains(text, Qt::CaseInsensitive)) continue;
-        setCurrentIndex(index);
-        scrollTo(index);
-        return true;
+    CellSearch search{*this, text, backwards};
+    constexpr int slice = 1000;
+    CellSearch::State state = CellSearch::State::goesOn;
+    while (state == CellSearch::State::goesOn) state = search.lookOn(slice);
+    return state == CellSearch::State::found;
+}
+
+CellSearch::CellSearch(CellTableView& view, const QString& text, bool backwards)
+    : view_{&view}, text_{text},
+      backwards_{backwards}, rows_{view.model()->rowCount()}, columns_{view.model()->columnCount()} {
+    const QModelIndex current = view.currentIndex();
+    start_ = current.isValid() ? static_cast<qint64>(current.row()) * columns_ + current.column()
+             : backwards       ? 0
+                               : -1;
+}
+
+bool CellSearch::isAt(qint64 cell) const {
+    const auto row = static_cast<int>(cell / columns_);
+    const auto column = static_cast<int>(cell % columns_);
+    if (view_->isColumnHidden(column) || view_->isRowHidden(row)) return false;
+    return view_->model()->index(row, column).data().toString().contains(text_, Qt::CaseInsensitive);
+}
+
+CellSearch::State CellSearch::lookOn(int milliseconds) {
+    constexpr int cellsPerLook = 256; // at the clock
+    if (!view_ || view_->model()->rowCount() != rows_ || view_->model()->columnCount() != columns_)
+        return State::notThere;
+    const qint64 cells = static_cast<qint64>(rows_) * columns_;
+    if (text_.isEmpty()) return State::notThere;
+    QElapsedTimer clock;
+    clock.start();
+    while (step_ < cells) {
+        ++step_;
+        const qint64 at = (start_ + (backwards_ ? -step_ : step_) + 2 * cells) % cells;
+        if (isAt(at)) {
+            const QModelIndex index =
+                view_->model()->index(static_cast<int>(at / columns_), static_cast<int>(at % columns_));
+            view_->setCurrentIndex(index);
+            view_->scrollTo(index);
+            return State::found;
+        }
+        if (step_ % cellsPerLook == 0 && clock.elapsed() >= milliseconds) return State::goesOn;
     }
-    return false;
+    return State::notThere;
+}
+
+int CellSearch::percent() const {
+    const qint64 cells = static_cast<qint64>(rows_) * columns_;
+    return cells == 0 ? 100 : static_cast<int>(100 * step_ / cells);
 }
 
 void CellTableView::keyPressEvent(QKeyEvent* event) {

@@ -6,6 +6,7 @@
 #include "desktop/appearance.h"
 #include "desktop/cell_table_model.h"
 
+#include <QPointer>
 #include <QSortFilterProxyModel>
 #include <QTableView>
 
@@ -33,10 +34,40 @@ private:
     int rowOrderColumns_ = 0;
 };
 
+class CellTableView;
+
+/// A search through the cells of a table for a text, whatever its case, behind the current cell and round the
+/// end. It is made in steps, so that a table of a million rows can be searched while the window lives on.
+class CellSearch {
+public:
+    enum class State { goesOn, found, notThere };
+
+    CellSearch(CellTableView& view, const QString& text, bool backwards);
+
+    /// Looks on for about so long; goes to the cell once it is found. A table that changed meanwhile ends it.
+    State lookOn(int milliseconds);
+
+    int percent() const; ///< of the table that was looked through
+
+private:
+    bool isAt(qint64 cell) const;
+
+    QPointer<CellTableView> view_;
+    QString text_;
+    bool backwards_;
+    int rows_;
+    int columns_;
+    qint64 start_;
+    qint64 step_ = 0;
+};
+
 class CellTableView : public QTableView {
     Q_OBJECT
 
 public:
+    /// Cells that are copied at most: as much as another program takes up without trouble.
+    static constexpr int mostCopied = 200000;
+
     /// `name` is what a screen reader says of the table.
     CellTableView(Appearance& appearance, const QString& name, QWidget* parent = nullptr);
 
@@ -74,9 +105,10 @@ public:
     void refresh();
     void show(const Grid* grid, const CellRange& range = {});
 
-    /// The selected cells, a line a row, a tab between two cells.
+    /// The selected cells, a line a row, a tab between two cells. Whole rows, until about `mostCopied` cells.
     QString selectionText() const;
-    void copySelection() const;
+    /// Puts them on the clipboard, and tells where they are not all.
+    void copySelection();
 
     /// Goes to the next cell that holds the text, whatever its case, behind the current one and round the
     /// end. False where there is none.
@@ -90,10 +122,17 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    struct CopiedRows {
+        QString text{};
+        int rows = 0;
+        bool isCut = false; ///< there was more than is copied at once
+    };
+
     void lay();
     std::vector<int> textWidths() const;
     int widthFor(int column, int textWidth) const;
     void layFrozen();
+    CopiedRows copiedRows() const;
 
     Appearance& appearance_;
     CellTableModel model_;

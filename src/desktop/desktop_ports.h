@@ -3,12 +3,40 @@
 
 #include "app/ports.h"
 #include "desktop/appearance.h"
+#include "desktop/print_preview.h"
+#include "desktop/text_viewer.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
+#include <QProgressDialog>
 #include <QWidget>
 
+#include <memory>
+#include <vector>
+
 namespace quillon {
+
+/// The progress of long work, in a dialog with Cancel that stays away from work that is done at once.
+class WorkProgress {
+public:
+    static constexpr int quietTime = 400;   ///< milliseconds before the dialog opens
+    static constexpr int timeOfEvents = 50; ///< milliseconds between two turns of the window
+
+    /// `done` runs from 0 to 1, where the dialog closes. False once the user has cancelled.
+    bool show(double done, QWidget* window);
+
+    /// The work has ended, however far it came.
+    void end();
+
+private:
+    void open(QWidget* window);
+
+    std::unique_ptr<QProgressDialog> dialog_;
+    QElapsedTimer sinceBegin_;
+    QElapsedTimer sinceEvents_;
+    bool cancelled_ = false;
+};
 
 /// Fills the ports while it lives, with dialogs over `window`.
 class DesktopPorts : public QObject {
@@ -21,9 +49,28 @@ public:
     /// True once the system has ended.
     bool ended() const { return ended_; }
 
+    /// Texts are shown in the built-in viewer, even where the desktop has an editor. Kept in the settings.
+    bool builtInViewer() const { return builtInViewer_; }
+    void setBuiltInViewer(bool wanted);
+
+    /// The command that may have asked for progress or paper has ended.
+    void commandEnded();
+
 private:
+    void fillDialogs();
+    void fillOutside();
+    void fillPrinting();
+    void view(const FilePlace& file);
+    void openViewer(const FilePlace& file);
+    void openPreview();
+    QWidget* front() const;
+
     QWidget& window_;
     Appearance& appearance_;
+    std::vector<QPointer<TextViewer>> viewers_;
+    PrintDocument printed_; ///< what the running command has printed so far
+    WorkProgress progress_;
+    bool builtInViewer_ = true;
     bool ended_ = false;
 };
 

@@ -39,6 +39,7 @@ MainWindow::MainWindow(Appearance& appearance, QWidget* parent)
     connectPanels();
     stars_ = new StarsWindow{runner_, appearance_, this};
     choices_ = new ChoiceDialog{runner_, appearance_, this};
+    connect(&runner_, &CommandRunner::ran, ports_, &DesktopPorts::commandEnded);
     connect(&runner_, &CommandRunner::ran, this, &MainWindow::refresh);
     connect(&runner_, &CommandRunner::ran, this, &MainWindow::takeUpEnd, Qt::QueuedConnection);
     resize(appearance_.pixels(theScreen.width), appearance_.pixels(theScreen.height));
@@ -143,6 +144,13 @@ void MainWindow::buildViewMenu() {
     add(tr("Normal &Size"), {QKeySequence{"Ctrl+0"}}, tr("As large as designed"),
         [this] { appearance_.setZoom(100); });
     view->addSeparator();
+    QAction* viewer =
+        add(tr("&Built-in Text Viewer"), {},
+            tr("Read reports and settings in Quillon's own viewer, not in the desktop's editor"),
+            [this](bool wanted) { ports_->setBuiltInViewer(wanted); });
+    viewer->setObjectName("BuiltInViewer");
+    viewer->setCheckable(true);
+    viewer->setChecked(ports_->builtInViewer());
 
     struct ThemeItem {
         Theme theme;

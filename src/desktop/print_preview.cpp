@@ -1,1 +1,254 @@
 #include "desktop/print_preview.h"
+
+#include <QActionGroup>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QFontDatabase>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrintPreviewWidget>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace quillon {
+namespace {
+
+constexpr qreal largestPoints = 10;
+constexpr qreal smallestPoints = 5; ///< longer lines go on in the next row rather than become unreadable
+constexpr int uprightCharacters = 100;
+constexpr int tabWidth = 8;
+
+QString withoutTabs(const QString& text) {
+    if (!text.contains('\t')) return text;
+    QString plain;
+    for (const QChar character : text) {
+        if (character == '\t')
+            plain += QString(tabWidth - plain.size() % tabWidth, ' ');
+        else
+            plain += character;
+    }
+    return plain;
+}
+
+bool isEmpty(const std::vector<PrintedLine>& lines) {
+    return std::all_of(lines.begin(), lines.end(),
+                       [](const PrintedLine& line) { return line.text.trimmed().isEmpty(); });
+}
+
+/// How much of the document a page takes.
+struct PageLayout {
+    QFont font{};
+    int columns = 1;
+    int rows = 1;
+    qreal lineHeight = 1;
+};
+
+qreal characterWidth(QFont font, const QPrinter& printer) {
+    font.setBold(true); // the wider face, where they differ
+    const int measured = 100;
+    return QFontMetricsF{font, &printer}.horizontalAdvance(QString(measured, 'M')) / measured;
+}
+
+PageLayout layoutOf(const PrintDocument& document, const QPrinter& printer) {
+    constexpr qreal step = 0.1;
+    const QRectF page = printer.pageRect(QPrinter::DevicePixel);
+    const int widest = std::max(1, widestLine(document));
+    PageLayout layout;
+    layout.font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    qreal points = largestPoints;
+    layout.font.setPointSizeF(points);
+    while (points - step >= smallestPoints && widest * characterWidth(layout.font, printer) > page.width()) {
+        points -= step;
+        layout.font.setPointSizeF(points);
+    }
+    layout.lineHeight = QFontMetricsF{layout.font, &printer}.lineSpacing();
+    layout.columns = std::max(1, static_cast<int>(page.width() / characterWidth(layout.font, printer)));
+    const int foot = 2; // rows: a free one, and the foot itself
+    layout.rows = std::max(1, static_cast<int>(page.height() / layout.lineHeight) - foot);
+    return layout;
+}
+
+void paintPage(QPainter& painter, const PageLayout& layout, const std::vector<PrintedLine>& lines) {
+    QFont bold = layout.font;
+    bold.setBold(true);
+    qreal y = QFontMetricsF{layout.font, painter.device()}.ascent();
+    for (const PrintedLine& line : lines) {
+        painter.setFont(line.emphasised ? bold : layout.font);
+        painter.drawText(QPointF{0, y}, line.text);
+        y += layout.lineHeight;
+    }
+}
+
+void paintFoot(QPainter& painter, const PageLayout& layout, const QRectF& page, const QString& name,
+               const QString& place) {
+    painter.setFont(layout.font);
+    const QRectF foot{0, page.height() - layout.lineHeight, page.width(), layout.lineHeight};
+    painter.drawText(foot, Qt::AlignLeft | Qt::TextSingleLine, name);
+    painter.drawText(foot, Qt::AlignRight | Qt::TextSingleLine, place);
+}
+
+} // namespace
+
+void PrintDocument::addLine(const QString& text, bool emphasised) {
+    sections.back().push_back({withoutTabs(text), emphasised});
+}
+
+int widestLine(const PrintDocument& document) {
+    qsizetype widest = 0;
+    for (const auto& section : document.sections)
+        for (const PrintedLine& line : section) widest = std::max(widest, line.text.size());
+    return static_cast<int>(widest);
+}
+
+bool wantsLandscape(const PrintDocument& document) { return widestLine(document) > uprightCharacters; }
+
+std::vector<std::vector<PrintedLine>> pagesOf(const PrintDocument& document, int columns, int rows) {
+    std::vector<std::vector<PrintedLine>> pages;
+    const auto fullPage = static_cast<std::size_t>(rows);
+    for (const auto& section : document.sections) {
+        if (isEmpty(section)) continue;
+        pages.emplace_back();
+        for (const PrintedLine& line : section) {
+            qsizetype at = 0;
+            do {
+                if (pages.back().size() == fullPage) pages.emplace_back();
+                pages.back().push_back({line.text.mid(at, columns), line.emphasised});
+                at += columns;
+            } while (at < line.text.size());
+        }
+    }
+    return pages;
+}
+
+bool print(QPrinter& printer, const PrintDocument& document) {
+    QPainter painter;
+    if (!painter.begin(&printer)) return false;
+    const PageLayout layout = layoutOf(document, printer);
+    const QRectF page = printer.pageRect(QPrinter::DevicePixel);
+    const auto pages = pagesOf(document, layout.columns, layout.rows);
+    const int first = printer.fromPage() > 0 ? printer.fromPage() : 1; // 0: the user named no pages
+    const int last = printer.toPage() > 0 ? printer.toPage() : static_cast<int>(pages.size());
+    for (int number = first; number <= std::min(last, static_cast<int>(pages.size())); ++number) {
+        if (number > first && !printer.newPage()) return false;
+        paintPage(painter, layout, pages[static_cast<std::size_t>(number - 1)]);
+        paintFoot(painter, layout, page, document.name,
+                  QObject::tr("Page %1 of %2").arg(number).arg(pages.size()));
+    }
+    return painter.end();
+}
+
+PrintPreview::PrintPreview(PrintDocument document, QWidget* parent)
+    : QDialog{parent, Qt::Window}, document_{std::move(document)} {
+    setObjectName("PrintPreview");
+    setWindowTitle(tr("Print - %1").arg(document_.name));
+    printer_.setDocName(document_.name);
+    printer_.setCreator("Quillon");
+    printer_.setPageOrientation(wantsLandscape(document_) ? QPageLayout::Landscape : QPageLayout::Portrait);
+    preview_ = new QPrintPreviewWidget{&printer_, this};
+    preview_->setAccessibleName(tr("Pages as they will be printed"));
+    connect(preview_, &QPrintPreviewWidget::paintRequested, this,
+            [this](QPrinter* printer) { quillon::print(*printer, document_); });
+    connect(preview_, &QPrintPreviewWidget::previewChanged, this, &PrintPreview::showPlace);
+    auto* column = new QVBoxLayout{this};
+    column->setContentsMargins(0, 0, 0, 0);
+    buildBar();
+    column->addWidget(preview_, 1);
+    preview_->fitToWidth();
+    preview_->updatePreview();
+    resize(900, 700);
+}
+
+void PrintPreview::buildBar() {
+    auto* bar = new QToolBar{this};
+    bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    const auto add = [&](const char* name, const QString& text, const QKeySequence& keys, const QString& tip,
+                         auto&& slot) {
+        QAction* action = bar->addAction(text);
+        action->setObjectName(name);
+        action->setShortcut(keys);
+        action->setToolTip(keys.isEmpty() ? tip : tr("%1 (%2)").arg(tip, keys.toString()));
+        connect(action, &QAction::triggered, this, slot);
+        return action;
+    };
+    add("Print", tr("&Print..."), QKeySequence::Print, tr("Choose a printer and print"),
+        [this] { askAndPrint(); });
+    add("SavePdf", tr("&Save as PDF..."), QKeySequence::Save, tr("Write the pages to a PDF file"),
+        [this] { askAndSavePdf(); });
+    bar->addSeparator();
+    portrait_ = add("Portrait", tr("P&ortrait"), {}, tr("Upright pages"), [this] { setLandscape(false); });
+    landscape_ = add("Landscape", tr("&Landscape"), {}, tr("Pages on their side, for long lines"),
+                     [this] { setLandscape(true); });
+    auto* orientation = new QActionGroup{this};
+    for (QAction* action : {portrait_, landscape_}) {
+        action->setCheckable(true);
+        orientation->addAction(action);
+    }
+    bar->addSeparator();
+    add("PreviousPage", tr("P&revious"), QKeySequence{"Ctrl+PgUp"}, tr("The page before"),
+        [this] { preview_->setCurrentPage(preview_->currentPage() - 1); });
+    place_ = new QLabel{bar};
+    place_->setObjectName("PagePlace");
+    bar->addWidget(place_);
+    add("NextPage", tr("&Next"), QKeySequence{"Ctrl+PgDown"}, tr("The next page"),
+        [this] { preview_->setCurrentPage(preview_->currentPage() + 1); });
+    bar->addSeparator();
+    add("ZoomIn", tr("Zoom &In"), QKeySequence{"Ctrl++"}, tr("Larger"), [this] { preview_->zoomIn(); });
+    add("ZoomOut", tr("Zoom O&ut"), QKeySequence{"Ctrl+-"}, tr("Smaller"), [this] { preview_->zoomOut(); });
+    add("WholePage", tr("&Whole Page"), QKeySequence{"Ctrl+0"}, tr("One page in the window"),
+        [this] { preview_->fitInView(); });
+    bar->addSeparator();
+    add("Close", tr("&Close"), QKeySequence::Close, tr("Close the preview"), [this] { close(); });
+    layout()->addWidget(bar);
+}
+
+int PrintPreview::pageCount() const { return preview_->pageCount(); }
+
+bool PrintPreview::isLandscape() const { return preview_->orientation() == QPageLayout::Landscape; }
+
+void PrintPreview::setLandscape(bool landscape) {
+    preview_->setOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    showPlace();
+}
+
+void PrintPreview::showPlace() {
+    place_->setText(tr(" Page %1 of %2 ").arg(preview_->currentPage()).arg(preview_->pageCount()));
+    (isLandscape() ? landscape_ : portrait_)->setChecked(true);
+}
+
+void PrintPreview::askAndPrint() {
+    QPrintDialog dialog{&printer_, this};
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange);
+    dialog.setMinMax(1, std::max(1, pageCount()));
+    if (dialog.exec() != QDialog::Accepted) return;
+    const bool printed = quillon::print(printer_, document_);
+    printer_.setFromTo(0, 0); // the preview shows all pages again
+    if (printed) return accept();
+    QMessageBox::critical(this, windowTitle(), tr("The printer did not take the pages."));
+}
+
+void PrintPreview::askAndSavePdf() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString path = QFileDialog::getSaveFileName(
+        this, tr("Save as PDF"), folder + "/" + document_.name + ".pdf", tr("PDF files (*.pdf)"));
+    if (path.isEmpty() || savePdf(path)) return;
+    QMessageBox::critical(this, windowTitle(), tr("The file can't be written: %1").arg(path));
+}
+
+bool PrintPreview::savePdf(const QString& path) {
+    QPrinter file{QPrinter::HighResolution};
+    file.setOutputFormat(QPrinter::PdfFormat);
+    file.setOutputFileName(path);
+    file.setPageLayout(printer_.pageLayout());
+    file.setDocName(document_.name);
+    file.setCreator("Quillon");
+    return quillon::print(file, document_);
+}
+
+} // namespace quillon
