@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/numbers.h"
+#include "core/table.h"
 #include "core/text.h"
 
 #include <array>
@@ -185,6 +186,10 @@ constexpr int dataViewColumns = 40;
 constexpr int raceViewRows = 21; ///< the head and an entry a row
 constexpr int raceViewColumns = 40;
 
+/// What stands in `Screen::lineTaken` besides the row of a line.
+constexpr Integer noLineTaken = 0; ///< the program's choice stands
+constexpr Integer takenOut = -1;   ///< scratched or removed: no line speaks for the entry
+
 /// The heading of the race on show.
 struct RaceHeader {
     Text race{}; ///< "1", or "1A" right after the load of a lettered card
@@ -230,6 +235,10 @@ struct Screen {
     bool pastPerformanceOpen = false;
     int currentEntry = 0; ///< the entry whose past lines are shown; 0 none
     Text pastPerformanceHeading{};
+
+    /// By race and entry: the row of the race's data view that the user took in place of the program's line,
+    /// or one of the values above.
+    Table<Integer, raceViews, raceViewRows> lineTaken{};
 
     std::array<MenuState, static_cast<std::size_t>(MenuItem::count)> menu{};
 

@@ -22,7 +22,8 @@ constexpr int ratingTaken = 38; ///< the rating that a line choice took
 
 namespace dataColumn {
 constexpr int date = 1;
-constexpr int post = 4; ///< post position of the entry that the line belongs to
+constexpr int post = 4;  ///< post position of the entry that the line belongs to
+constexpr int horse = 5; ///< HN, the number of the horse in the tables
 constexpr int track = 7;
 constexpr int purse = 10; ///< columns 10 to 34 are a race view's 5 to 29
 constexpr int rating = 38;

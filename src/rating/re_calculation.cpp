@@ -61,6 +61,7 @@ void takeLine(double row, const Ranking& ranking, Posts posts) {
     cursor.row = line;
     cursor.entry = entry;
     card.entry(race, cursor.entry).rating = lines.text(cursor.row, dataColumn::rating);
+    attempt([&] { screen.lineTaken(race, entry) = line; });
     attempt(CommandThree);
     rankAgain(race, ranking, posts);
 }

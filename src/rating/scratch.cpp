@@ -17,7 +17,7 @@ namespace {
 
 constexpr TextView scratchCaption = "Scr";
 constexpr TextView removeCaption = "X";
-constexpr TextView takenOut = "99.9";
+constexpr TextView lastOfAll = "99.9"; ///< the rating of an entry that was taken out
 
 // What an entry gains when one inside it goes out, by the size of the track.
 constexpr int firstCreditedPost = 5;
@@ -103,9 +103,9 @@ void clearRow(Grid& view, int row) {
 void rateTakenOut(int race, int row) {
     Grid& view = raceViewOf(race);
     attempt([&] {
-        card.entry(race, toInteger(lenientNumber(view.text(row, raceColumn::post)))).rating = takenOut;
+        card.entry(race, toInteger(lenientNumber(view.text(row, raceColumn::post)))).rating = lastOfAll;
     });
-    view(row, raceColumn::rating).text = takenOut;
+    view(row, raceColumn::rating).text = lastOfAll;
 }
 
 // The positions go at the crossed index as well, so that another entry of another race loses its own: the
@@ -126,7 +126,7 @@ void scratch(int race, int index) {
     clearRow(view, index);
     attempt([&] { rateTakenOut(race, index); });
     attempt([&] { emptyChosen(race, index); });
-    entry.rating = takenOut;
+    entry.rating = lastOfAll;
     view(index, raceColumn::rating).text = aligned("@@@@@@@", entry.rating);
 }
 
@@ -168,6 +168,7 @@ void Command4(int button) {
     cursor.entry = static_cast<Integer>(button);
     const Text caption = captionOf(button);
     raceViewOf(race)(button, raceColumn::track).text = caption;
+    screen.lineTaken[{race, button}] = takenOut;
     if (caption == removeCaption)
         attempt([&] { rateTakenOut(race, button); });
     else

@@ -97,6 +97,17 @@ void fillPastPerformances(int race, int post) {
     }
 }
 
+/// What tells one line of a card from all others, in a data view as among the kept lines.
+constexpr std::array identifyingColumns{dataColumn::date, hiddenRaceColumn, dataColumn::post,
+                                        dataColumn::horse, dataColumn::lineNumber};
+
+bool isKeptLine(const Grid& lines, int line, int keptLine) {
+    if (keptLine < 1 || keptLine >= lineNumberExtent) return false;
+    return std::all_of(identifyingColumns.begin(), identifyingColumns.end(), [&](int column) {
+        return lines.text(line, column) == card.lineCells(keptLine, column);
+    });
+}
+
 } // namespace
 
 void showRaceHeader(int race) {
@@ -201,6 +212,26 @@ void EntryButton(int i) {
         Text{trimmed(entry.programNumber)} + "  " + Text{trimmed(entry.horseName)};
     screen.dataViewVisible.at(pastPerformanceView) = true;
     screen.pastPerformanceOpen = true;
+}
+
+LineInUse lineInUse() {
+    const int race = raceOnShow();
+    const int entry = screen.currentEntry;
+    if (!screen.pastPerformanceOpen || entry < 1 || race < 1 || race > ratedRaces) return {};
+    const Integer chosen = card.entry[{race, entry}].chosenLineNumber;
+    const Integer taken = screen.lineTaken[{race, entry}];
+    const Grid& lines = dataViewOf(race);
+    LineInUse found;
+    int row = 0;
+    for (int line = 1; line < lines.rows(); ++line) {
+        if (lenientNumber(lines.text(line, dataColumn::post)) != entry) continue;
+        ++row;
+        if (line == taken) found.row = row;
+        if (found.programsRow == 0 && isKeptLine(lines, line, chosen)) found.programsRow = row;
+    }
+    if (taken == noLineTaken) found.row = found.programsRow;
+    found.byUser = found.row > 0 && found.row != found.programsRow;
+    return found;
 }
 
 void ClosePastPerformances() {

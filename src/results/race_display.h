@@ -44,6 +44,16 @@ void FillRaceList();
 /// race view; the same button again closes the frame.
 void EntryButton(int i);
 
+/// The line that speaks for the entry whose past lines are shown, as a row of theirs.
+struct LineInUse {
+    int row = 0;         ///< 0 when none is in use, or it is not known
+    bool byUser = false; ///< taken by the user in place of the program's
+    int programsRow = 0; ///< the row of the program's own choice; 0 unknown
+};
+
+/// A recalled card does not know which lines the program chose.
+LineInUse lineInUse();
+
 /// Closes the frame of past lines and takes the light off the entry's row.
 void ClosePastPerformances();
 

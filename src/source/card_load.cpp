@@ -367,6 +367,7 @@ void Start() {
     if (sourceTables.raceRows.Eof()) return;
 
     ShowLineTable();
+    screen.lineTaken.clear();
     readTrackTable();
     FrameCard();
     attempt(ReadDrivers);

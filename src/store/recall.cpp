@@ -262,6 +262,7 @@ void ChooseFile(const Text& fileName) {
     screen.record.enabled = false; // until the card's own summary
     card.raceCount = 0;
     ClearWindowCounts();
+    screen.lineTaken.clear();
     attempt(ReadCardFile);
     attempt(ReadArchive);
     attempt(Recall);

@@ -119,6 +119,7 @@ void CloseRC() {
     for (int race = 1; race <= ratedRaces; ++race)
         screen.dataView[static_cast<std::size_t>(race)](0, 0).text.clear(); // "RACE " and the label
     for (Grid& view : screen.raceView) view.clear();
+    screen.lineTaken.clear();
     screen.record.enabled = false;
     screen.summary.clearAll();
     screen.profile.clearAll();

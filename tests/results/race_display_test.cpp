@@ -1,6 +1,9 @@
 #include "results/race_display.h"
 
+#include "rating/re_calculation.h"
+#include "rating/scratch.h"
 #include "results/board.h"
+#include "store/save.h"
 #include "support/card_test.h"
 
 #include <gtest/gtest.h>
@@ -477,6 +480,97 @@ TEST_F(EntryDetailTest, OnARecalledCardTheOffsetIsTheFigureAtTheEndOfTheFileName
     card.cardFileName = "M1_20260314.pmd2";
     EntryButton(4);
     EXPECT_EQ(2, card.raceOffset);
+}
+
+// Entry 4 of race 5 has rows 4 to 7 of the race's data view; its row 6, the third line, is the 61st of the
+// card.
+class LineInUseTest : public EntryDetailTest {
+protected:
+    LineInUseTest() {
+        card.entry(5, 4).horseName = "Corner Boy";
+        for (int row = 1; row <= 7; ++row)
+            for (int column = 1; column <= 39; ++column)
+                card.lineCells(55 + row, column) = screen.dataView[5].text(row, column);
+        card.entry(5, 4).chosenLineNumber = 61;
+    }
+};
+
+TEST_F(LineInUseTest, NoneIsKnownWhileNoLinesAreShown) {
+    EXPECT_EQ(0, lineInUse().row);
+    EntryButton(4);
+    ClosePastPerformances();
+    EXPECT_EQ(0, lineInUse().row);
+}
+
+TEST_F(LineInUseTest, ItIsTheProgramsUntilTheUserTakesAnother) {
+    EntryButton(4);
+    EXPECT_EQ(3, lineInUse().row);
+    EXPECT_EQ(3, lineInUse().programsRow);
+    EXPECT_FALSE(lineInUse().byUser);
+
+    Command3(1); // row 4 of the race's view
+    EXPECT_EQ(1, lineInUse().row);
+    EXPECT_EQ(3, lineInUse().programsRow);
+    EXPECT_TRUE(lineInUse().byUser);
+
+    Command3(3); // the program's own line again
+    EXPECT_EQ(3, lineInUse().row);
+    EXPECT_FALSE(lineInUse().byUser);
+}
+
+TEST_F(LineInUseTest, ALineTakenByItsNumberIsTheUsersToo) {
+    EntryButton(4);
+    answers = {"7"};
+    Command7();
+    EXPECT_EQ(4, lineInUse().row);
+    EXPECT_TRUE(lineInUse().byUser);
+}
+
+TEST_F(LineInUseTest, EachEntryHasItsOwn) {
+    EntryButton(4);
+    Command3(2);
+    EntryButton(2); // the program chose none for it
+    EXPECT_EQ(0, lineInUse().row);
+    EntryButton(4);
+    EXPECT_EQ(2, lineInUse().row);
+}
+
+TEST_F(LineInUseTest, NoLineSpeaksForAnEntryThatWasTakenOut) {
+    screen.scratchButtons.fill({.caption = "Scr"});
+    EntryButton(4);
+    answers = {"No"};
+    Command4(4);
+    EXPECT_EQ(3, lineInUse().row);
+    answers = {"Yes"};
+    Command4(4);
+    EXPECT_EQ(0, lineInUse().row);
+    EXPECT_EQ(3, lineInUse().programsRow);
+    Command3(2); // taken in again with a line of the user's
+    EXPECT_EQ(2, lineInUse().row);
+    EXPECT_TRUE(lineInUse().byUser);
+}
+
+TEST_F(LineInUseTest, OnARecalledCardOnlyTheUsersIsKnown) {
+    card.entry(5, 4).chosenLineNumber = 0;
+    EntryButton(4);
+    EXPECT_EQ(0, lineInUse().row);
+    Command3(2);
+    EXPECT_EQ(2, lineInUse().row);
+    EXPECT_TRUE(lineInUse().byUser);
+}
+
+TEST_F(LineInUseTest, AClosedCardForgetsWhatTheUserTook) {
+    EntryButton(4);
+    Command3(1);
+    card.cardFileName.clear(); // nothing to save
+    CloseRC();
+    EXPECT_EQ(noLineTaken, screen.lineTaken(5, 4));
+}
+
+TEST_F(LineInUseTest, ALineNumberBeyondTheKeptLinesIsNoLine) {
+    card.entry(5, 4).chosenLineNumber = 3001;
+    EntryButton(4);
+    EXPECT_EQ(0, lineInUse().row);
 }
 
 } // namespace
