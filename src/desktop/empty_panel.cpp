@@ -129,7 +129,7 @@ void EmptyPanel::lay() {
 }
 
 void EmptyPanel::refresh() {
-    if (card.raceCount > 0) return; // another page is on show
+    if (cardIsOpen()) return; // another page is on show
     folder_->setText(sourceFolderOnDisk());
     lookForTables();
     start_->setText(shown(theScreen.start.caption));
@@ -150,6 +150,9 @@ void EmptyPanel::lookForTables() {
     if (there != there_) notice_->clear(); // it spoke of the tables as they were
     there_ = there;
     const bool complete = std::all_of(there.begin(), there.end(), [](bool table) { return table; });
+    if (!theScreen.start.enabled)
+        return heading_->setText(
+            tr("The card is closed. Recall a saved card, or start Quillon again for another day's tables"));
     heading_->setText(complete ? tr("The vendor's tables are here. Press Start.")
                                : tr("Put the vendor's tables into this folder, then press Start"));
 }
@@ -161,7 +164,7 @@ void EmptyPanel::openFolder() {
 }
 
 void EmptyPanel::takeUp(const QString& command) {
-    if (command != "Start" || card.raceCount > 0) return;
+    if (command != "Start" || cardIsOpen()) return;
     lookForTables();
     const QString why = there_[raceTable] ? tr("Start found no race: %1 holds none, or is no table.")
                                           : tr("Start found no race: %1 is not in the folder.");

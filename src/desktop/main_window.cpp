@@ -192,7 +192,7 @@ QWidget* MainWindow::pageWanted() const {
     const bool showsTable = theScreen.summaryVisible || theScreen.profileVisible || theScreen.tracksVisible ||
                             theScreen.picksVisible;
     if (showsTable) return analysis_;
-    if (card.raceCount == 0) return empty_;
+    if (!cardIsOpen()) return empty_;
     return overviewWanted_ ? static_cast<QWidget*>(overview_) : racePage_;
 }
 
@@ -222,7 +222,7 @@ void MainWindow::refresh() {
     raceList_->refresh();
     stars_->refresh();
     choices_->refresh();
-    overviewAction_->setEnabled(card.raceCount > 0);
+    overviewAction_->setEnabled(cardIsOpen());
     overviewAction_->setChecked(overviewWanted_);
     pages_->setCurrentWidget(pageWanted());
 }

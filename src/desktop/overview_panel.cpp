@@ -32,7 +32,7 @@ QString headingOf(int races) {
     const Label& date = theScreen.header.date;
     const QString track = shown(card.raceInfo[{1}].trackInfo).simplified();
     QStringList parts{track, date.visible ? shown(date.caption).trimmed() : QString{},
-                      OverviewPanel::tr("%n race(s)", nullptr, races)};
+                      races == 1 ? OverviewPanel::tr("1 race") : OverviewPanel::tr("%1 races").arg(races)};
     parts.removeAll(QString{});
     return parts.join(QStringLiteral("     "));
 }

@@ -64,7 +64,7 @@ RaceBar::RaceBar(CommandRunner& runner, Appearance& appearance, QWidget* parent)
 void RaceBar::lay() {
     for (QPushButton* button : races_) {
         button->setFont(appearance_.viewFont(10, true));
-        button->setMaximumWidth(appearance_.pixels(raceButtonTwips) + 8);
+        button->setFixedWidth(appearance_.pixels(raceButtonTwips) + 8);
     }
     start_->setFont(appearance_.viewFont(10, true));
 }

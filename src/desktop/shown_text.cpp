@@ -1,8 +1,11 @@
 #include "desktop/shown_text.h"
 
 #include "core/code_page.h"
+#include "core/race_card.h"
 
 namespace quillon {
+
+bool cardIsOpen() { return !card.cardFileName.empty(); }
 
 QString shown(TextView text) { return QString::fromStdString(toUtf8(text)); }
 

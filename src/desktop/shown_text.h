@@ -12,6 +12,9 @@ namespace quillon {
 /// The screen, by a name that QWidget::screen() does not hide. Widgets read it and never write it.
 inline const Screen& theScreen = quillon::screen;
 
+/// Whether a card was loaded or recalled, and not closed since.
+bool cardIsOpen();
+
 /// A text of the system as the window shows it.
 QString shown(TextView text);
 

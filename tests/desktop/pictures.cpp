@@ -15,14 +15,15 @@
 #include <QApplication>
 #include <QDir>
 #include <QDockWidget>
-#include <QFile>
 #include <QLineEdit>
+#include <QPainter>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,12 @@ void layOutSample() {
     for (const char* settings : {"TrackEditor.ini", "CrossOver.ini", "Webpage.ini"})
         std::filesystem::copy(samples / settings, settings);
     std::filesystem::create_directories("A Quillon PRO/Results");
+}
+
+// As a user does it: behind what the scratch wrote.
+void pasteResults() {
+    std::ifstream page{SAMPLE_FOLDER "/results/MVR_20260314-words.txt", std::ios::binary};
+    std::ofstream{results, std::ios::binary | std::ios::app} << page.rdbuf();
 }
 
 // Some years of cards, for the profiles: the recorded card again under other dates.
@@ -82,7 +89,7 @@ public:
         run("DriverColumn", numberArgument(2));
         take("driver-list");
         run("DriverChoice", textArgument("EXIT"));
-        QFile::copy(QString{SAMPLE_FOLDER} + "/results/MVR_20260314-words.txt", results);
+        pasteResults();
         run("EBET");
         take("results");
         run("RaceButton", numberArgument(7));
@@ -137,6 +144,21 @@ private:
             over->render(&picture, place);
         }
         keep(picture, name);
+    }
+
+    // In the middle of the window, with the frame and the title that a desktop gives it.
+    static void drawOver(QPixmap& picture, QWidget& dialog) {
+        constexpr int titleHeight = 28;
+        const QRect body{
+            (QPoint{picture.width(), picture.height()} - QPoint{dialog.width(), dialog.height()}) / 2,
+            dialog.size()};
+        QPainter painter{&picture};
+        const QRect frame = body.adjusted(-1, -titleHeight, 1, 1);
+        painter.fillRect(frame, dialog.palette().color(QPalette::Highlight));
+        painter.setPen(dialog.palette().color(QPalette::HighlightedText));
+        painter.drawText(frame.adjusted(8, 0, -8, 0).adjusted(0, 0, 0, titleHeight - frame.height()),
+                         Qt::AlignVCenter, dialog.windowTitle());
+        dialog.render(&painter, body.topLeft());
     }
 
     void takeOf(QWidget& widget, const char* name) {
