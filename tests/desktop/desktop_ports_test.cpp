@@ -251,10 +251,11 @@ struct PortsOfTheWindowTest : WindowTest {
 
 TEST_F(PortsOfTheWindowTest, TheCondensedProgramPrintsAPageARace) {
     putSampleCard();
-    window.runner().run("Start");
     DialogAnswers ok{QMessageBox::Ok};
+    window.runner().run("Start");
+    EXPECT_EQ(1, ok.count()); // how to go on
     window.runner().run("PrintCondensedProgram");
-    EXPECT_EQ(2, ok.count()); // the printer is to be switched on, before and behind
+    EXPECT_EQ(3, ok.count()); // the printer is to be switched on, before and behind
     ASSERT_EQ(1U, openWindows<PrintPreview>().size());
     PrintPreview& preview = *openWindows<PrintPreview>().front();
     EXPECT_GE(preview.pageCount(), static_cast<int>(card.raceCount));
