@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QScreen>
@@ -89,8 +90,18 @@ QFont Appearance::viewFont(int points, bool bold) const {
     return font;
 }
 
-QFont Appearance::fixedFont(int points) const {
+// The system's own face where it is one: without a desktop it may be any.
+QFont fixedPitchFont() {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    if (QFontInfo{font}.fixedPitch()) return font;
+    font.setFamilies({"DejaVu Sans Mono", "Liberation Mono", "Courier New", "Monospace"});
+    font.setStyleHint(QFont::Monospace);
+    font.setFixedPitch(true);
+    return font;
+}
+
+QFont Appearance::fixedFont(int points) const {
+    QFont font = fixedPitchFont();
     font.setPointSizeF(points * zoom_ / 100.0);
     return font;
 }

@@ -8,6 +8,9 @@ namespace quillon {
 
 enum class Theme { system, light, dark };
 
+/// A face for texts laid out by columns, on the screen and on paper.
+QFont fixedPitchFont();
+
 class Appearance : public QObject {
     Q_OBJECT
 

@@ -320,13 +320,14 @@ bool CellTableView::find(const QString& text, bool backwards) {
     return state == CellSearch::State::found;
 }
 
-CellSearch::CellSearch(CellTableView& view, const QString& text, bool backwards)
+CellSearch::CellSearch(CellTableView& view, const QString& text, bool backwards, bool fromCurrent)
     : view_{&view}, text_{text},
       backwards_{backwards}, rows_{view.model()->rowCount()}, columns_{view.model()->columnCount()} {
     const QModelIndex current = view.currentIndex();
     start_ = current.isValid() ? static_cast<qint64>(current.row()) * columns_ + current.column()
              : backwards       ? 0
                                : -1;
+    if (fromCurrent && current.isValid()) start_ += backwards ? 1 : -1;
 }
 
 bool CellSearch::isAt(qint64 cell) const {

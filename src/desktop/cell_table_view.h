@@ -36,13 +36,14 @@ private:
 
 class CellTableView;
 
-/// A search through the cells of a table for a text, whatever its case, behind the current cell and round the
-/// end. It is made in steps, so that a table of a million rows can be searched while the window lives on.
+/// A search through the cells of a table for a text, whatever its case, behind the current cell (or from it
+/// on) and round the end. It is made in steps, so that a table of a million rows can be searched while the
+/// window lives on.
 class CellSearch {
 public:
     enum class State { goesOn, found, notThere };
 
-    CellSearch(CellTableView& view, const QString& text, bool backwards);
+    CellSearch(CellTableView& view, const QString& text, bool backwards, bool fromCurrent = false);
 
     /// Looks on for about so long; goes to the cell once it is found. A table that changed meanwhile ends it.
     State lookOn(int milliseconds);

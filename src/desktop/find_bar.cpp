@@ -56,7 +56,10 @@ void FindBar::build() {
     field_->setClearButtonEnabled(true);
     field_->setMaxLength(longestText);
     field_->installEventFilter(this);
-    connect(field_, &QLineEdit::textChanged, this, [this] { stop({}, false); });
+    connect(field_, &QLineEdit::textChanged, this, [this] {
+        isNewText_ = true;
+        stop({}, false);
+    });
     label->setBuddy(field_);
     row->addWidget(field_, 1);
 
@@ -107,7 +110,8 @@ void FindBar::findNext(bool backwards) {
     stop({}, false);
     QWidget* place = target();
     if (auto* table = qobject_cast<CellTableView*>(place)) {
-        search_.emplace(*table, field_->text(), backwards);
+        search_.emplace(*table, field_->text(), backwards, isNewText_);
+        isNewText_ = false;
         lookOn();
     } else if (auto* editor = qobject_cast<QPlainTextEdit*>(place)) {
         if (!findInText(*editor, field_->text(), backwards)) stop(tr("not found"), true);
@@ -141,8 +145,9 @@ void FindBar::stop(const QString& words, bool isBad) {
 
 void FindBar::closeBar() {
     stop({}, false);
+    QWidget* place = target(); // hiding the bar moves the focus to whatever comes next
     hide();
-    if (QWidget* place = target()) place->setFocus();
+    if (place) place->setFocus();
 }
 
 bool FindBar::eventFilter(QObject* watched, QEvent* event) {

@@ -46,7 +46,8 @@ private:
     QLabel* words_ = nullptr;
     QPointer<QWidget> last_; ///< the table or text that had the focus last
     std::optional<CellSearch> search_;
-    QTimer timer_; ///< of the next step of a long search
+    bool isNewText_ = true; ///< not searched yet, so that the current cell counts too
+    QTimer timer_;          ///< of the next step of a long search
 };
 
 } // namespace quillon

@@ -25,10 +25,7 @@ namespace {
 // none.
 QString pathOf(const FilePlace& file) {
     QString path;
-    attempt([&] {
-        path = QFileInfo{QFile::decodeName(QByteArray::fromStdString(pathOnDisk(file).string()))}
-                   .absoluteFilePath();
-    });
+    attempt([&] { path = QFileInfo{pathOnDisk(file)}.absoluteFilePath(); });
     return path;
 }
 

@@ -1,15 +1,14 @@
 #include "desktop/print_preview.h"
 
+#include "desktop/appearance.h"
+
 #include <QActionGroup>
-#include <QDialogButtonBox>
 #include <QFileDialog>
-#include <QFontDatabase>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrintPreviewWidget>
-#include <QPushButton>
 #include <QStandardPaths>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -61,7 +60,7 @@ PageLayout layoutOf(const PrintDocument& document, const QPrinter& printer) {
     const QRectF page = printer.pageRect(QPrinter::DevicePixel);
     const int widest = std::max(1, widestLine(document));
     PageLayout layout;
-    layout.font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    layout.font = fixedPitchFont();
     qreal points = largestPoints;
     layout.font.setPointSizeF(points);
     while (points - step >= smallestPoints && widest * characterWidth(layout.font, printer) > page.width()) {

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
+#include <QToolTip>
 
 namespace quillon {
 namespace {
@@ -150,6 +151,30 @@ TEST_F(CellTableTest, ASelectionIsCopiedWithATabBetweenCellsAndALineARow) {
     view.selectAll();
     QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ("Blue Ribbon Bess\t9.5\nCorner Boy\t10\n\t\n\t\n\t", QApplication::clipboard()->text());
+}
+
+TEST_F(CellTableTest, RowsApartAreCopiedWithoutThoseBetweenThem) {
+    view.setColumnWidths(std::vector{3000, 900, 0});
+    view.selectionModel()->select(view.model()->index(0, 1), QItemSelectionModel::Select);
+    view.selectionModel()->select(view.model()->index(1, 0), QItemSelectionModel::Select);
+    view.selectionModel()->select(view.model()->index(4, 0), QItemSelectionModel::Select);
+    EXPECT_EQ("\t9.5\nCorner Boy\n", view.selectionText());
+}
+
+TEST_F(CellTableTest, OfAMillionSelectedRowsTheFirstAreCopiedAndTheUserIsTold) {
+    grid.makeRows(1, 1000000,
+                  [](int row, std::span<Cell> cells) { cells[0].text = "card " + std::to_string(row); });
+    view.setColumnWidths(std::vector{3000, 900, 0});
+    view.show(&grid);
+    static_cast<QWidget&>(view).show();
+    view.selectAll();
+    QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
+    const QString copied = QApplication::clipboard()->text();
+    EXPECT_EQ(100000, copied.count('\n') + 1); // 200,000 cells, two a row
+    EXPECT_TRUE(copied.startsWith("card 1\t\ncard 2\t\n"));
+    EXPECT_TRUE(copied.endsWith("card 100000\t"));
+    EXPECT_TRUE(QToolTip::text().contains("100000 rows were copied")) << QToolTip::text().toStdString();
+    QToolTip::hideText();
 }
 
 TEST_F(CellTableTest, FindGoesRoundAndForgetsCase) {
