@@ -139,9 +139,7 @@ private:
         QPixmap picture = window_.grab();
         for (QWidget* over : QApplication::topLevelWidgets()) {
             if (over == &window_ || !over->isVisible() || over->windowFlags().testFlag(Qt::ToolTip)) continue;
-            const QPoint place =
-                (QPoint{window_.width(), window_.height()} - QPoint{over->width(), over->height()}) / 2;
-            over->render(&picture, place);
+            drawOver(picture, *over);
         }
         keep(picture, name);
     }
