@@ -47,8 +47,10 @@ void CellTableModel::show(const Grid* grid, const CellRange& range) {
     endResetModel();
 }
 
-void CellTableModel::refresh() {
-    if (grid_ && grid_->version() != version_) show(grid_, range_);
+bool CellTableModel::refresh() {
+    const bool changed = grid_ && grid_->version() != version_;
+    if (changed) show(grid_, range_);
+    return changed;
 }
 
 void CellTableModel::setRightAligned(int first, int last) {

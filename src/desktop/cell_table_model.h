@@ -26,8 +26,8 @@ public:
     /// Shows another table; none is an empty one. It must live as long as it is shown.
     void show(const Grid* grid, const CellRange& range = {});
 
-    /// Takes up what has changed since the last call.
-    void refresh();
+    /// Takes up what has changed since the last call. True when something has.
+    bool refresh();
 
     /// Rows behind the last one with a text are left away.
     void setTailHidden(bool hidden) { tailHidden_ = hidden; }

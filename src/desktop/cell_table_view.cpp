@@ -101,8 +101,7 @@ void CellTableView::setSortable() {
 }
 
 void CellTableView::refresh() {
-    model_.refresh();
-    lay();
+    if (model_.refresh()) lay();
 }
 
 void CellTableView::show(const Grid* grid, const CellRange& range) {
@@ -216,6 +215,14 @@ void CellTableView::contextMenuEvent(QContextMenuEvent* event) {
     copy->setEnabled(selectionModel() && selectionModel()->hasSelection());
     menu.addAction(tr("Select &All"), this, &QTableView::selectAll);
     menu.exec(event->globalPos());
+}
+
+void CellTableView::takeUpEdit() {
+    if (state() != EditingState) return;
+    QWidget* editor = indexWidget(currentIndex());
+    if (!editor) return;
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
 
 } // namespace quillon

@@ -54,6 +54,9 @@ public:
     void refresh();
     void show(const Grid* grid, const CellRange& range = {});
 
+    /// Takes up the text of a cell that is still being typed in.
+    void takeUpEdit();
+
     /// The selected cells, a line a row, a tab between two cells.
     QString selectionText() const;
     void copySelection() const;
