@@ -127,7 +127,7 @@ QWidget* EntryLinesFrame::buildHead() {
     heading_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     use_ = plainLabel("LineInUse", head);
     shades_ = new ShadeLegend{head};
-    edit_ = new QPushButton{tr("Race &Editor"), head};
+    edit_ = new QPushButton{tr("Race E&ditor"), head};
     edit_->setObjectName("Command7");
     edit_->setProperty("command", "Command7");
     edit_->setToolTip(tr("Take a line by its number"));
