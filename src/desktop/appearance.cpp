@@ -84,7 +84,8 @@ int Appearance::pixels(int twips) const {
 
 QFont Appearance::viewFont(int points, bool bold) const {
     QFont font;
-    font.setFamilies({"Arial Narrow", "Liberation Sans Narrow", "DejaVu Sans Condensed", font.family()});
+    font.setFamilies({"Arial Narrow", "Liberation Sans Narrow", "Nimbus Sans Narrow", "DejaVu Sans Condensed",
+                      font.family()});
     font.setPointSizeF(points * zoom_ / 100.0);
     font.setBold(bold);
     return font;

@@ -4,6 +4,8 @@
 
 #include <QBrush>
 #include <QFont>
+#include <QGuiApplication>
+#include <QPalette>
 
 #include <algorithm>
 #include <utility>
@@ -12,8 +14,15 @@ namespace quillon {
 namespace {
 
 // White is what the system paints a cell with to take a light off it; in a dark theme that is the theme's
-// own.
-bool isShaded(const Cell& cell) { return cell.background && *cell.background != white; }
+// own. A white saddle cloth comes with a colour for its number.
+bool isShaded(const Cell& cell) { return cell.background && (*cell.background != white || cell.foreground); }
+
+// The red of a head is too dark for a dark theme.
+QColor readableHead(Colour colour) {
+    const bool isDark = legibleOn(QGuiApplication::palette().color(QPalette::Button)) == Qt::white;
+    constexpr int lighterPercent = 150;
+    return isDark ? shown(colour).lighter(lighterPercent) : shown(colour);
+}
 
 QVariant foreground(const Cell& cell) {
     if (cell.foreground) return QBrush{shown(*cell.foreground)};
@@ -119,7 +128,9 @@ QVariant CellTableModel::headerData(int section, Qt::Orientation orientation, in
     if (column >= grid_->columns() || grid_->rows() == 0) return {};
     switch (role) {
     case Qt::DisplayRole: return shown(grid_->text(0, column));
-    case Qt::ForegroundRole: return foreground(grid_->read(0, column));
+    case Qt::ForegroundRole:
+        if (const auto& colour = grid_->read(0, column).foreground) return QBrush{readableHead(*colour)};
+        return {};
     case Qt::TextAlignmentRole: return alignment(isRightAligned(column) ? Qt::AlignRight : Qt::AlignLeft);
     default: return {};
     }

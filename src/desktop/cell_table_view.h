@@ -106,6 +106,9 @@ public:
     void refresh();
     void show(const Grid* grid, const CellRange& range = {});
 
+    /// Takes up the text of a cell that is still being typed in.
+    void takeUpEdit();
+
     /// The selected cells, a line a row, a tab between two cells. Whole rows, until about `mostCopied` cells.
     QString selectionText() const;
     /// Puts them on the clipboard, and tells where they are not all.

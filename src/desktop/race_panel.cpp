@@ -1,10 +1,238 @@
 #include "desktop/race_panel.h"
 
+#include "app/start_up.h"
+#include "core/race_card.h"
+#include "desktop/cell_table_view.h"
+#include "desktop/row_buttons.h"
+#include "desktop/shown_text.h"
+#include "rating/race_views.h"
+#include "results/board.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
 namespace quillon {
+namespace {
+
+constexpr int headPoints = 8;
+constexpr int bodyPoints = 10;
+constexpr int rowTwips = 320;
+constexpr int entryButtonTwips = 520;
+constexpr int scratchButtonTwips = 540;
+constexpr int heatButtonTwips = 620;
+
+// As the row of the race view is lit.
+const char* const currentStyle = "QPushButton { background-color: #ffff64; color: black;"
+                                 " border: 1px solid #807000; border-radius: 3px; }"
+                                 "QPushButton:focus { border: 2px solid black; }";
+
+// A way of showing a race may leave views 22 and 23 up beside it.
+int raceViewOnShow() {
+    const int race = raceOnShow();
+    const auto isShown = [](int view) {
+        return view >= 1 && view < raceViews && theScreen.raceViewVisible.at(static_cast<std::size_t>(view));
+    };
+    if (isShown(race)) return race;
+    for (int view = 1; view < raceViews; ++view)
+        if (isShown(view)) return view;
+    return 1;
+}
+
+const Grid& gridOf(int race) { return theScreen.raceView.at(static_cast<std::size_t>(race)); }
+
+QString horseIn(int race, int row) { return shown(trimmed(gridOf(race).text(row, raceColumn::horseName))); }
+
+template <std::size_t count>
+const Button& buttonOf(const std::array<Button, count>& buttons, int row) {
+    return buttons.at(static_cast<std::size_t>(row));
+}
+
+} // namespace
 
 RacePanel::RacePanel(CommandRunner& runner, Appearance& appearance, QWidget* parent)
-    : QWidget{parent}, runner_{runner}, appearance_{appearance} {}
+    : QWidget{parent}, runner_{runner}, appearance_{appearance} {
+    buildTable();
+    buttons_ = new RowButtons{*table_, appearance_, this};
+    buildEntryButtons();
+    buildScratchButtons();
+    buildHeatButtons();
+    auto* row = new QHBoxLayout{this};
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(buttons_);
+    row->addWidget(table_, 1);
+    setTabOrder(heats_.back(), table_);
+    connect(&appearance_, &Appearance::changed, this, &RacePanel::holdHeight);
+    connect(&runner_, &CommandRunner::aboutToRun, this, [this] {
+        if (!handingIn_) table_->takeUpEdit();
+    });
+    refresh();
+}
 
-void RacePanel::refresh() {}
+void RacePanel::buildTable() {
+    table_ = new CellTableView{appearance_, tr("Entries of the race"), this};
+    table_->setObjectName("RaceView");
+    table_->setProperty("command", "Cell");
+    table_->setStatusTip(tr("A double click or F2 edits a cell. A click on a driver lists the drivers. "
+                            "Enter on a name shows the past lines."));
+    table_->setFonts(headPoints, bodyPoints, true);
+    table_->setColumnWidths(entryViewColumns());
+    table_->setRowHeight(rowTwips);
+    table_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    table_->installEventFilter(this);
+    table_->cells().setEditing([this](int row, int column) { return mayEdit(row, column); },
+                               [this](int row, int column, const Text& text) { edit(row, column, text); });
+    connect(table_, &QTableView::clicked, this, [this](const QModelIndex& cell) {
+        if (table_->cells().tableColumn(cell) == raceColumn::driver &&
+            QApplication::keyboardModifiers() == Qt::NoModifier)
+            askForDriver(table_->cells().tableRow(cell));
+    });
+}
+
+QPushButton* RacePanel::rowButton(int column, int row, const char* command) {
+    QPushButton* button = buttons_->add(column, row);
+    button->setProperty("command", command);
+    button->setObjectName(QString{"%1%2"}.arg(command).arg(row));
+    connect(button, &QPushButton::clicked, this,
+            [this, command, row] { runner_.run(command, numberArgument(row)); });
+    return button;
+}
+
+void RacePanel::buildEntryButtons() {
+    const int column = buttons_->addColumn(entryButtonTwips);
+    for (int row = 1; row <= ratedEntries; ++row) {
+        entries_.push_back(rowButton(column, row, "EntryButton"));
+        entries_.back()->setObjectName(QString{"EntryButton%1"}.arg(row));
+    }
+}
+
+void RacePanel::buildScratchButtons() {
+    const int column = buttons_->addColumn(scratchButtonTwips);
+    for (int row = 0; row <= ratedEntries; ++row) {
+        scratches_.push_back(rowButton(column, row, "Command4"));
+        scratches_.back()->setObjectName(QString{"ScratchButton%1"}.arg(row));
+    }
+}
+
+void RacePanel::buildHeatButtons() {
+    heatColumn_ = buttons_->addColumn(heatButtonTwips);
+    for (int row = 1; row <= ratedEntries; ++row) {
+        heats_.push_back(rowButton(heatColumn_, row, "HeatChoice"));
+        heats_.back()->setObjectName(QString{"HeatButton%1"}.arg(row));
+        heats_.back()->setText(tr("Heat"));
+    }
+}
+
+void RacePanel::refresh() {
+    refreshTable();
+    refreshButtons();
+    holdHeight();
+}
+
+// The cell that the keyboard is on stays, though the rows are drawn anew.
+void RacePanel::refreshTable() {
+    const QModelIndex before = table_->currentIndex();
+    const int race = raceViewOnShow();
+    if (race == race_)
+        table_->refresh();
+    else
+        table_->show(&gridOf(race), {.lastRow = ratedEntries, .lastColumn = raceColumn::rating});
+    race_ = race;
+    if (before.isValid() && !table_->currentIndex().isValid())
+        table_->selectionModel()->setCurrentIndex(table_->model()->index(before.row(), before.column()),
+                                                  QItemSelectionModel::ClearAndSelect);
+}
+
+void RacePanel::refreshButtons() {
+    const Text& switching = theScreen.scratchButtons.front().caption;
+    scratches_.front()->setText(shown(switching));
+    scratches_.front()->setAccessibleName(tr("Switch the column to %1").arg(shown(switching)));
+    scratches_.front()->setToolTip(tr("Switch all buttons of this column to \"%1\"").arg(shown(switching)));
+    scratches_.front()->setEnabled(runner_.canRun("Command4", numberArgument(0)));
+
+    bool anyHeat = false;
+    for (int row = 1; row <= ratedEntries; ++row) {
+        const auto at = static_cast<std::size_t>(row);
+        const QString horse = horseIn(race_, row);
+        const Arguments entry = numberArgument(row);
+
+        QPushButton& lines = *entries_[at - 1];
+        const QString number = shown(trimmed(buttonOf(theScreen.entryButtons, row).caption));
+        lines.setText(number);
+        lines.setEnabled(!number.isEmpty() && runner_.canRun("EntryButton", entry));
+        lines.setStyleSheet(theScreen.currentEntry == row ? currentStyle : "");
+        lines.setAccessibleName(tr("Past lines of number %1, %2").arg(number, horse));
+        lines.setToolTip(number.isEmpty() ? QString{} : tr("Show the past lines of %1").arg(horse));
+
+        QPushButton& scratch = *scratches_[at];
+        const Text& caption = buttonOf(theScreen.scratchButtons, row).caption;
+        const bool removes = caption == "X";
+        scratch.setText(shown(caption));
+        scratch.setEnabled(runner_.canRun("Command4", entry));
+        scratch.setAccessibleName((removes ? tr("Remove %1") : tr("Scratch %1")).arg(horse));
+        scratch.setToolTip(removes ? tr("Take %1 out, without a refund").arg(horse)
+                                   : tr("Scratch %1 and record the refund").arg(horse));
+
+        QPushButton& heat = *heats_[at - 1];
+        anyHeat = anyHeat || buttonOf(theScreen.heatButtons, row).visible;
+        heat.setEnabled(!horse.isEmpty() && runner_.canRun("HeatChoice", entry));
+        heat.setAccessibleName(tr("Heat result of %1").arg(horse));
+        heat.setToolTip(tr("Enter the finish of %1 in a heat").arg(horse));
+    }
+    buttons_->setColumnVisible(heatColumn_, anyHeat);
+    buttons_->align();
+}
+
+// Exactly the head and twelve rows, and a scroll bar where the columns need one.
+void RacePanel::holdHeight() {
+    const int frame = 2 * table_->frameWidth();
+    const bool scrolls = table_->horizontalHeader()->length() > width() - buttons_->width() - frame;
+    const int bar = scrolls ? table_->horizontalScrollBar()->sizeHint().height() : 0;
+    setFixedHeight(table_->horizontalHeader()->sizeHint().height() + ratedEntries * table_->rowPixels() +
+                   frame + bar);
+}
+
+void RacePanel::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    holdHeight();
+}
+
+// Drivers are picked from their list, and a row without a horse only holds its place.
+bool RacePanel::mayEdit(int row, int column) const {
+    return column != raceColumn::driver && !horseIn(race_, row).isEmpty();
+}
+
+void RacePanel::edit(int row, int column, const Text& text) {
+    const QScopedValueRollback handingIn{handingIn_, true};
+    runner_.run("Cell", {.numbers = {race_, row, column}, .text = text});
+}
+
+void RacePanel::askForDriver(int row) {
+    if (!horseIn(race_, row).isEmpty()) runner_.run("DriverColumn", numberArgument(row));
+}
+
+bool RacePanel::enterOn(int row, int column, int key) {
+    const bool enters = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (column == raceColumn::driver && (enters || key == Qt::Key_Space)) {
+        askForDriver(row);
+        return true;
+    }
+    if (column != raceColumn::horseName || !enters) return false;
+    if (entries_[static_cast<std::size_t>(row - 1)]->isEnabled())
+        runner_.run("EntryButton", numberArgument(row));
+    return true;
+}
+
+bool RacePanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != table_ || event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
+    const QModelIndex cell = table_->currentIndex();
+    const auto* press = static_cast<QKeyEvent*>(event);
+    if (!cell.isValid() || (press->modifiers() & ~Qt::KeypadModifier)) return false;
+    return enterOn(table_->cells().tableRow(cell), table_->cells().tableColumn(cell), press->key());
+}
 
 } // namespace quillon

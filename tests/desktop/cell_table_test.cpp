@@ -42,6 +42,21 @@ TEST_F(CellTableTest, ACellPaintedWhiteKeepsTheThemesOwnBackground) {
     EXPECT_FALSE(of(2, 1, Qt::BackgroundRole).isValid());
 }
 
+TEST_F(CellTableTest, AWhiteCellWithAColourOfItsOwnForItsTextStaysWhite) {
+    grid(3, 1).foreground = Colour{1, 1, 1};
+    EXPECT_EQ(QColor{Qt::white}, of(2, 1, Qt::BackgroundRole).value<QBrush>().color());
+}
+
+TEST_F(CellTableTest, InADarkThemeTheRedOfAHeadIsLighter) {
+    const auto head = [&] {
+        return view.model()->headerData(0, Qt::Horizontal, Qt::ForegroundRole).value<QBrush>().color();
+    };
+    appearance.setTheme(Theme::dark);
+    const QColor dark = head();
+    appearance.setTheme(Theme::light);
+    EXPECT_GT(dark.lightness(), head().lightness());
+}
+
 TEST_F(CellTableTest, TheHeadRowHeadsTheColumnsAndTheCornerIsRed) {
     EXPECT_EQ("ENTRY", view.model()->headerData(0, Qt::Horizontal, Qt::DisplayRole).toString());
     EXPECT_EQ(QColor{Qt::red},

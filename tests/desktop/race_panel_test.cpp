@@ -1,1 +1,287 @@
+#include "desktop/race_panel.h"
+
+#include "desktop/cell_table_view.h"
+#include "desktop/shown_text.h"
 #include "desktop/window_test.h"
+#include "rating/race_views.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <QScrollBar>
+
+namespace quillon {
+namespace {
+
+struct RacePanelTest : WindowTest {
+    RacePanelTest() {
+        QObject::connect(&runner, &CommandRunner::ran, &panel, &RacePanel::refresh);
+        window.resize(1083, 400);
+        panel.setParent(&window);
+        panel.setGeometry(0, 0, 1083, panel.height());
+        window.show();
+        window.activateWindow();
+        if (!QTest::qWaitForWindowActive(&window)) throw std::runtime_error("the window is not active");
+    }
+
+    CellTableView& table() { return child<CellTableView>(panel, "RaceView"); }
+    QPushButton& button(const char* name, int row) {
+        return child<QPushButton>(panel, QString{"%1%2"}.arg(name).arg(row));
+    }
+    QModelIndex cell(int row, int column) { return table().model()->index(row - 1, column); }
+    std::string textOf(int row, int column) { return cell(row, column).data().toString().toStdString(); }
+
+    void clickCell(int row, int column) {
+        table().scrollTo(cell(row, column));
+        QTest::mouseClick(table().viewport(), Qt::LeftButton, {},
+                          table().visualRect(cell(row, column)).center());
+    }
+
+    /// Where a widget's top edge is in the panel.
+    int topOf(const QWidget& widget) { return widget.mapTo(&panel, QPoint{}).y(); }
+    int topOfRow(int row) {
+        return table().viewport()->mapTo(&panel, QPoint{}).y() + table().rowViewportPosition(row - 1);
+    }
+
+    void expectRace(int race) {
+        const Grid& view = screen.raceView[static_cast<std::size_t>(race)];
+        for (int row = 1; row <= 12; ++row)
+            for (int column = 0; column <= 32; ++column)
+                EXPECT_EQ(quillon::shown(view.text(row, column)), cell(row, column).data().toString())
+                    << row << ", " << column;
+    }
+
+    QWidget window;
+    RacePanel panel{runner, appearance};
+};
+
+TEST_F(RacePanelTest, BeforeACardItHoldsThePlaceOfTwelveEntries) {
+    EXPECT_EQ(12, table().model()->rowCount());
+    EXPECT_EQ("ENTRY", table().model()->headerData(0, Qt::Horizontal).toString());
+    EXPECT_FALSE(button("EntryButton", 1).isEnabled());
+    EXPECT_FALSE(button("ScratchButton", 1).isEnabled());
+    EXPECT_FALSE(cell(1, 0).flags() & Qt::ItemIsEditable);
+}
+
+TEST_F(RacePanelTest, TheEntriesOfTheRaceOnShowStandInTheirColumns) {
+    startSampleCard();
+    expectRace(1);
+    runner.run("RaceButton", numberArgument(3));
+    expectRace(3);
+    runner.run("Next");
+    expectRace(4);
+}
+
+TEST_F(RacePanelTest, SaddleClothsKeepTheirColoursTheWhiteOneToo) {
+    startSampleCard();
+    for (int row = 1; row <= 5; ++row) {
+        const Cell& cloth = screen.raceView[1].read(row, 2);
+        ASSERT_TRUE(cloth.background) << row;
+        EXPECT_EQ(quillon::shown(*cloth.background),
+                  cell(row, 2).data(Qt::BackgroundRole).value<QBrush>().color())
+            << row;
+        EXPECT_EQ(quillon::shown(*cloth.foreground),
+                  cell(row, 2).data(Qt::ForegroundRole).value<QBrush>().color())
+            << row;
+    }
+}
+
+TEST_F(RacePanelTest, HeadAndTwelveRowsFillItsHeightAndButtonsStandBesideTheirRowsAtEveryZoom) {
+    startSampleCard();
+    runner.run("HeatWinner");
+    for (const int zoom : {100, 60, 140, 300, 100}) {
+        appearance.setZoom(zoom);
+        QTest::qWait(20);
+        panel.setGeometry(0, 0, 1083, panel.height());
+        QTest::qWait(20);
+        EXPECT_EQ(0, table().verticalScrollBar()->maximum()) << zoom;
+        EXPECT_LE(table().rowPixels() * 12, table().viewport()->height()) << zoom;
+        EXPECT_LE(table().viewport()->height(), table().rowPixels() * 12 + 2) << zoom;
+        for (int row = 1; row <= 12; ++row)
+            for (const char* name : {"EntryButton", "ScratchButton", "HeatButton"}) {
+                EXPECT_EQ(topOfRow(row), topOf(button(name, row))) << name << row << " at " << zoom;
+                EXPECT_EQ(table().rowHeight(row - 1), button(name, row).height()) << name << row;
+            }
+        EXPECT_EQ(0, topOf(button("ScratchButton", 0)));
+    }
+}
+
+TEST_F(RacePanelTest, AnEntryButtonShowsItsPastLinesAndIsMarkedMeanwhile) {
+    startSampleCard();
+    EXPECT_EQ("4", button("EntryButton", 4).text());
+    const QString plain = button("EntryButton", 4).styleSheet();
+    click(button("EntryButton", 4));
+    EXPECT_TRUE(screen.pastPerformanceOpen);
+    EXPECT_EQ(4, screen.currentEntry);
+    EXPECT_NE(plain, button("EntryButton", 4).styleSheet());
+    EXPECT_EQ(plain, button("EntryButton", 3).styleSheet());
+    EXPECT_EQ(quillon::shown(recentYellow), cell(4, 5).data(Qt::BackgroundRole).value<QBrush>().color());
+    click(button("EntryButton", 4)); // the same one again closes them
+    EXPECT_FALSE(screen.pastPerformanceOpen);
+    EXPECT_EQ(plain, button("EntryButton", 4).styleSheet());
+}
+
+TEST_F(RacePanelTest, AScratchAsksAndRatesTheEntryLast) {
+    startSampleCard();
+    shown.clear();
+    click(button("ScratchButton", 3)); // answered No
+    ASSERT_EQ(2u, shown.size());       // a beep and the question
+    EXPECT_NE("99.9", card.entry(1, 3).rating);
+    answers = {"Yes"};
+    click(button("ScratchButton", 3));
+    EXPECT_EQ("99.9", card.entry(1, 3).rating);
+    EXPECT_EQ("Scr", textOf(3, raceColumn::track));
+    expectRace(1);
+}
+
+TEST_F(RacePanelTest, TheHeadOfTheScratchColumnSwitchesAllItsButtons) {
+    startSampleCard();
+    EXPECT_EQ("X", button("ScratchButton", 0).text());
+    EXPECT_EQ("Scr", button("ScratchButton", 2).text());
+    click(button("ScratchButton", 0));
+    EXPECT_EQ("Scr", button("ScratchButton", 0).text());
+    for (int row = 1; row <= 12; ++row) EXPECT_EQ("X", button("ScratchButton", row).text());
+    answers = {"Yes"};
+    click(button("ScratchButton", 2));
+    EXPECT_EQ("X", textOf(2, raceColumn::track));
+}
+
+TEST_F(RacePanelTest, WhereNoHorseIsNothingCanBePressed) {
+    startSampleCard();
+    ASSERT_EQ("", textOf(12, 0));
+    EXPECT_TRUE(button("ScratchButton", 1).isEnabled());
+    EXPECT_FALSE(button("ScratchButton", 12).isEnabled());
+    EXPECT_FALSE(button("EntryButton", 12).isEnabled());
+    EXPECT_EQ("", button("EntryButton", 12).text());
+    EXPECT_FALSE(cell(12, 5).flags() & Qt::ItemIsEditable);
+    clickCell(12, raceColumn::driver);
+    EXPECT_FALSE(screen.driverList.visible);
+}
+
+TEST_F(RacePanelTest, HeatButtonsComeAndGoWithTheirMark) {
+    startSampleCard();
+    EXPECT_FALSE(button("HeatButton", 1).isVisible());
+    runner.run("HeatWinner");
+    EXPECT_TRUE(button("HeatButton", 1).isVisible());
+    EXPECT_FALSE(button("HeatButton", 12).isEnabled());
+    answers = {"14", "1", "3"}; // race, finish, post in the final
+    click(button("HeatButton", 1));
+    EXPECT_EQ(3, card.heatPost(14, 3));
+    EXPECT_EQ(card.entry(1, 1).horseName.text(), card.entry(14, 3).horseName.text());
+    runner.run("HeatWinner");
+    EXPECT_FALSE(button("HeatButton", 1).isVisible());
+}
+
+TEST_F(RacePanelTest, ACellIsEditedInItsPlaceAndTheKeyboardStaysThere) {
+    startSampleCard();
+    clickCell(2, 6);
+    QTest::keyClick(&table(), Qt::Key_F2);
+    QWidget* editor = table().indexWidget(cell(2, 6));
+    ASSERT_TRUE(editor);
+    static_cast<QLineEdit*>(editor)->selectAll();
+    QTest::keyClicks(editor, "OPEN 5");
+    QTest::keyClick(editor, Qt::Key_Return);
+    QApplication::processEvents(); // the editor hands in its text when it has taken the key
+    EXPECT_EQ("OPEN 5", screen.raceView[1].text(2, 6));
+    EXPECT_EQ("OPEN 5", textOf(2, 6));
+    EXPECT_EQ(cell(2, 6), table().currentIndex());
+}
+
+TEST_F(RacePanelTest, ADoubleClickEditsAndEscapeLeavesTheCellAsItWas) {
+    startSampleCard();
+    const Text before = screen.raceView[1].text(1, 7);
+    clickCell(1, 7);
+    QTest::mouseDClick(table().viewport(), Qt::LeftButton, {}, table().visualRect(cell(1, 7)).center());
+    QWidget* editor = table().indexWidget(cell(1, 7));
+    ASSERT_TRUE(editor);
+    QTest::keyClicks(editor, "55");
+    QTest::keyClick(editor, Qt::Key_Escape);
+    EXPECT_EQ(before, screen.raceView[1].text(1, 7));
+}
+
+TEST_F(RacePanelTest, ACellThatIsStillBeingTypedInIsTakenUpBeforeTheNextCommand) {
+    startSampleCard();
+    clickCell(2, 8);
+    QTest::keyClicks(&table(), "2");
+    QWidget* editor = table().indexWidget(cell(2, 8));
+    ASSERT_TRUE(editor);
+    QTest::keyClicks(editor, "7.4");
+    runner.run("Next");
+    EXPECT_EQ("27.4", screen.raceView[1].text(2, 8));
+    EXPECT_EQ("2", screen.header.race);
+    expectRace(2);
+}
+
+TEST_F(RacePanelTest, AMegabyteInACellIsCutWhereTheEditorEnds) {
+    startSampleCard();
+    clickCell(1, 6);
+    QTest::keyClick(&table(), Qt::Key_F2);
+    auto* editor = static_cast<QLineEdit*>(table().indexWidget(cell(1, 6)));
+    ASSERT_TRUE(editor);
+    const auto editorLimit = static_cast<std::size_t>(editor->maxLength());
+    editor->setText(QString(1 << 20, 'x'));
+    QTest::keyClick(editor, Qt::Key_Return);
+    QApplication::processEvents(); // the editor hands in its text when it has taken the key
+    EXPECT_EQ(editorLimit, screen.raceView[1].text(1, 6).size());
+    expectRace(1);
+}
+
+TEST_F(RacePanelTest, AClickOnADriverListsTheDriversAndHisCellIsNotTypedIn) {
+    startSampleCard();
+    EXPECT_FALSE(cell(2, raceColumn::driver).flags() & Qt::ItemIsEditable);
+    clickCell(2, raceColumn::udr);
+    EXPECT_FALSE(screen.driverList.visible);
+    clickCell(2, raceColumn::driver);
+    EXPECT_TRUE(screen.driverList.visible);
+    EXPECT_EQ(2, screen.driverRow);
+}
+
+TEST_F(RacePanelTest, EnterAndSpaceOpenWhatACellLeadsTo) {
+    startSampleCard();
+    table().setCurrentIndex(cell(3, raceColumn::driver));
+    QTest::keyClick(&table(), Qt::Key_Space);
+    EXPECT_TRUE(screen.driverList.visible);
+    EXPECT_EQ(3, screen.driverRow);
+    table().setCurrentIndex(cell(5, raceColumn::driver));
+    QTest::keyClick(&table(), Qt::Key_Return);
+    EXPECT_EQ(5, screen.driverRow);
+    table().setCurrentIndex(cell(4, 0));
+    QTest::keyClick(&table(), Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(4, screen.currentEntry);
+}
+
+TEST_F(RacePanelTest, ArrowKeysWalkTheButtonsAndTabStopsOnceAColumn) {
+    startSampleCard();
+    button("EntryButton", 1).setFocus();
+    QTest::keyClick(&button("EntryButton", 1), Qt::Key_Down);
+    EXPECT_TRUE(button("EntryButton", 2).hasFocus());
+    QTest::keyClick(&button("EntryButton", 2), Qt::Key_Right);
+    EXPECT_TRUE(button("ScratchButton", 2).hasFocus());
+    QTest::keyClick(&button("ScratchButton", 2), Qt::Key_Up);
+    QTest::keyClick(&button("ScratchButton", 1), Qt::Key_Up);
+    EXPECT_TRUE(button("ScratchButton", 0).hasFocus());
+    QTest::keyClick(&button("ScratchButton", 0), Qt::Key_Tab);
+    EXPECT_TRUE(table().hasFocus());
+    QTest::keyClick(&table(), Qt::Key_Backtab);
+    QTest::keyClick(&button("ScratchButton", 0), Qt::Key_Backtab);
+    EXPECT_TRUE(button("EntryButton", 2).hasFocus()); // where it was left
+}
+
+TEST_F(RacePanelTest, EachButtonTellsWhatItDoesAndToWhom) {
+    startSampleCard();
+    const QString horse = QString::fromStdString(textOf(1, 0));
+    for (const char* name : {"EntryButton", "ScratchButton", "HeatButton"}) {
+        EXPECT_TRUE(button(name, 1).accessibleName().contains(horse)) << name;
+        EXPECT_TRUE(button(name, 1).toolTip().contains(horse)) << name;
+    }
+}
+
+TEST_F(RacePanelTest, ARefreshSendsNoCommand) {
+    startSampleCard();
+    int commands = 0;
+    QObject::connect(&runner, &CommandRunner::aboutToRun, &panel, [&] { ++commands; });
+    panel.refresh();
+    EXPECT_EQ(0, commands);
+}
+
+} // namespace
+} // namespace quillon
