@@ -1,3 +1,4 @@
+#include "app/ports.h"
 #include "desktop/board_panel.h"
 
 #include "desktop/main_window.h"
@@ -209,6 +210,7 @@ TEST_F(BoardPanelTest, NothingIsToldWhereNothingIsLost) {
 TEST_F(WindowTest, TheStatusBarTellsOfDroppedTyping) {
     startSampleCard();
     MainWindow window{appearance};
+    ports.message = [](auto&, auto&) {}; // a load ends with one
     window.show();
     auto& first = child<QLineEdit>(window, "Box4");
     QTest::keyClicks(&first, "7");

@@ -1,3 +1,4 @@
+#include "app/ports.h"
 #include "desktop/empty_panel.h"
 
 #include "desktop/main_window.h"
@@ -117,6 +118,7 @@ TEST_F(EmptyPanelTest, TheStartButtonIsTheScreens) {
 TEST_F(WindowTest, TheEmptyPanelGivesWayToACard) {
     putSampleCard();
     MainWindow window{appearance};
+    ports.message = [](auto&, auto&) {}; // a load ends with one
     window.show();
     auto& panel = child<EmptyPanel>(window, "EmptyPanel");
     ASSERT_TRUE(panel.isVisible());
