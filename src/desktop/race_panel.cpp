@@ -76,7 +76,7 @@ RacePanel::RacePanel(CommandRunner& runner, Appearance& appearance, QWidget* par
 void RacePanel::buildTable() {
     table_ = new CellTableView{appearance_, tr("Entries of the race"), this};
     table_->setObjectName("RaceView");
-    table_->setProperty("command", "Cell");
+    table_->setProperty("command", "Cell,DriverColumn");
     table_->setStatusTip(tr("A double click or F2 edits a cell. A click on a driver lists the drivers. "
                             "Enter on a name shows the past lines."));
     table_->setFonts(headPoints, bodyPoints, true);

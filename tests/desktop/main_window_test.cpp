@@ -18,8 +18,8 @@ namespace {
 std::set<std::string> commandsSentBy(const QObject& root) {
     std::set<std::string> names;
     for (const QObject* object : root.findChildren<QObject*>()) {
-        const QVariant command = object->property("command");
-        if (command.isValid()) names.insert(command.toString().toStdString());
+        for (const QString& command : object->property("command").toString().split(',', Qt::SkipEmptyParts))
+            names.insert(command.toStdString());
     }
     return names;
 }
