@@ -6,6 +6,18 @@
 #include <QIcon>
 #include <QSettings>
 
+namespace {
+
+// The desktop's own where the program is installed, else the one in the program.
+QIcon applicationIcon() {
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256})
+        icon.addFile(QStringLiteral(":/icons/quillon-%1.png").arg(size));
+    return QIcon::fromTheme("quillon", icon);
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
     QApplication application{argc, argv};
     QApplication::setOrganizationName("Quillon"); // names the file of the window's settings
@@ -13,6 +25,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationDisplayName("Quillon");
     QApplication::setApplicationVersion(QUILLON_VERSION);
     QApplication::setDesktopFileName("quillon");
+    QApplication::setWindowIcon(applicationIcon());
     quillon::enterWorkingFolder();
     quillon::StartUp();
 
