@@ -6,6 +6,7 @@ set(mingw x86_64-w64-mingw32)
 set(CMAKE_C_COMPILER ${mingw}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${mingw}-g++-posix)
 set(CMAKE_RC_COMPILER ${mingw}-windres)
+set(CMAKE_CROSSCOMPILING_EMULATOR wine)
 
 # The programs need no library beside them, and have the stack that MSVC would give them.
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static -Wl,--stack,1048576")

@@ -13,5 +13,8 @@ function(quillon_scenarios runner)
       COMMAND ${runner} $<TARGET_FILE:quillon-console> ${PROJECT_SOURCE_DIR}/samples
         ${CMAKE_CURRENT_BINARY_DIR}/work ${folder} ${ARGN})
     set_tests_properties(scenario.${name} PROPERTIES TIMEOUT 60)
+    if(CMAKE_CROSSCOMPILING)
+      quillon_wine_tests(scenario.${name})
+    endif()
   endforeach()
 endfunction()
