@@ -33,8 +33,13 @@ bool patiently(Action&& action, Test&& isBusy) {
 
 bool isShared(DWORD error) { return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION; }
 
+bool isOneOf(DWORD attributes, DWORD marks) {
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & marks) != 0;
+}
+
 HANDLE openForWriting(const fs::path& path, bool appends) {
     HANDLE handle = INVALID_HANDLE_VALUE;
+    if (disk::isWriteProtected(path)) return handle;
     patiently(
         [&] {
             handle = CreateFileW(path.c_str(), appends ? FILE_APPEND_DATA : GENERIC_WRITE,
@@ -44,10 +49,6 @@ HANDLE openForWriting(const fs::path& path, bool appends) {
         },
         isShared);
     return handle;
-}
-
-bool isOneOf(DWORD attributes, DWORD marks) {
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & marks) != 0;
 }
 
 } // namespace
@@ -136,19 +137,17 @@ bool isWriteProtected(const fs::path& path) {
 bool removeFile(const fs::path& path) { return DeleteFileW(path.c_str()) != 0; }
 
 // The new file keeps the old one's mark of being hidden. Access is denied to a file that is open elsewhere,
-// but to folders and protected files for good.
+// but to a folder for good.
 bool replaceFile(const fs::path& replacement, const fs::path& target) {
     constexpr DWORD kept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    if (isWriteProtected(target)) return false;
     const DWORD attributes = GetFileAttributesW(target.c_str());
     const bool done = patiently(
         [&] {
             return MoveFileExW(replacement.c_str(), target.c_str(),
                                MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
         },
-        [&](DWORD error) {
-            return isShared(error) ||
-                   (error == ERROR_ACCESS_DENIED && isFile(target) && !isWriteProtected(target));
-        });
+        [&](DWORD error) { return isShared(error) || (error == ERROR_ACCESS_DENIED && isFile(target)); });
     if (done && isOneOf(attributes, kept))
         SetFileAttributesW(target.c_str(), (attributes & kept) | FILE_ATTRIBUTE_ARCHIVE);
     return done;

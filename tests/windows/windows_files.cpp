@@ -33,16 +33,12 @@ WorkingFolder::~WorkingFolder() {
         RemoveDirectoryW(longForm(path).c_str());
 }
 
-bool tryToPut(const std::wstring& path, std::string_view content) {
+void put(const std::wstring& path, std::string_view content) {
     const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return false;
     DWORD written = 0;
-    WriteFile(file, content.data(), static_cast<DWORD>(content.size()), &written, nullptr);
+    EXPECT_TRUE(WriteFile(file, content.data(), static_cast<DWORD>(content.size()), &written, nullptr));
     CloseHandle(file);
-    return written == content.size();
 }
-
-void put(const std::wstring& path, std::string_view content) { EXPECT_TRUE(tryToPut(path, content)); }
 
 std::string content(const std::wstring& path) {
     const HANDLE file =

@@ -26,7 +26,6 @@ private:
     std::wstring path_;
 };
 
-bool tryToPut(const std::wstring& path, std::string_view content);
 void put(const std::wstring& path, std::string_view content); ///< fails the test where it can't
 std::string content(const std::wstring& path);                ///< fails the test where there is no such file
 
