@@ -56,6 +56,15 @@ TEST_F(CardTest, AFileIsKeptInItsOwnCase) {
     EXPECT_EQ("new", contentOf("stars.TXT"));
 }
 
+TEST(Disk, OnlyALongPathNeedsItsLongForm) {
+    const std::wstring name(250, L'a');
+    EXPECT_EQ(L"HRA.ini", disk::reachable(L"HRA.ini"));
+    EXPECT_EQ(L"C:\\A Quillon PRO\\HRA.ini", disk::reachable(L"C:\\A Quillon PRO\\HRA.ini"));
+    EXPECT_EQ(L"\\\\?\\C:\\" + name, disk::reachable(L"C:\\" + name));
+    EXPECT_EQ(L"\\\\?\\C:\\" + name, disk::reachable(L"\\\\?\\C:\\" + name));
+    EXPECT_EQ(L"\\\\?\\UNC\\server\\cards\\" + name, disk::reachable(L"\\\\server\\cards\\" + name));
+}
+
 // Windows itself opens paths of up to 259 characters. The folder has 242, so that "HRA.ini" fits, but the
 // temporary file beside it does not, and the card fits in no form but the long one.
 TEST_F(CardTest, FilesOfADeepFolderAreReadAndWritten) {
