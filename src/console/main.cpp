@@ -7,9 +7,35 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <io.h>
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
 #endif
 
 namespace {
+
+// A console window shows UTF-8 while the program runs. It is not the program's own, and goes on behind it.
+class WindowInUtf8 {
+#ifdef _WIN32
+public:
+    WindowInUtf8() {
+        SetConsoleCP(CP_UTF8);
+        SetConsoleOutputCP(CP_UTF8);
+    }
+    ~WindowInUtf8() {
+        SetConsoleCP(input_);
+        SetConsoleOutputCP(output_);
+    }
+    WindowInUtf8(const WindowInUtf8&) = delete;
+    WindowInUtf8& operator=(const WindowInUtf8&) = delete;
+
+private:
+    UINT input_ = GetConsoleCP();
+    UINT output_ = GetConsoleOutputCP();
+#endif
+};
 
 // Lines end in LF on every system, and no byte of the input ends it early.
 void setBinaryStreams() {
@@ -25,6 +51,7 @@ void setBinaryStreams() {
 
 int main() {
     setBinaryStreams();
+    [[maybe_unused]] const WindowInUtf8 window;
     quillon::Console console{std::cout};
     quillon::StartUp();
     console.run(std::cin);

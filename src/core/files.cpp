@@ -1,99 +1,16 @@
 #include "core/files.h"
 
 #include "core/code_page.h"
+#include "core/disk.h"
 #include "core/failure.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <fstream>
 #include <utility>
-
-#ifdef _WIN32
-#define WIN32_LEAN_AND_MEAN
-#define NOMINMAX
-#include <io.h>
-#include <windows.h>
-#else
-#include <fcntl.h>
-#include <unistd.h>
-#endif
 
 namespace quillon {
 
 namespace fs = std::filesystem;
-
-// A file handle of the system, so that what was written can be flushed to the disk.
-class DiskFile {
-public:
-    enum class Mode { rewrite, append };
-
-    DiskFile(const fs::path& path, Mode mode);
-    ~DiskFile();
-    DiskFile(const DiskFile&) = delete;
-    DiskFile& operator=(const DiskFile&) = delete;
-
-    bool isOpen() const;
-    bool write(TextView content);
-    bool flush();
-    bool close();
-
-private:
-#ifdef _WIN32
-    HANDLE handle_ = INVALID_HANDLE_VALUE;
-#else
-    int handle_ = -1;
-#endif
-};
-
-#ifdef _WIN32
-
-DiskFile::DiskFile(const fs::path& path, Mode mode)
-    : handle_(CreateFileW(path.c_str(), mode == Mode::append ? FILE_APPEND_DATA : GENERIC_WRITE,
-                          FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
-                          mode == Mode::append ? OPEN_ALWAYS : CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
-                          nullptr)) {}
-DiskFile::~DiskFile() { close(); }
-bool DiskFile::isOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
-bool DiskFile::write(TextView content) {
-    while (!content.empty()) {
-        constexpr std::size_t most = 1U << 30;
-        DWORD written = 0;
-        const auto part = static_cast<DWORD>(std::min(content.size(), most));
-        if (!WriteFile(handle_, content.data(), part, &written, nullptr) || written == 0) return false;
-        content.remove_prefix(written);
-    }
-    return true;
-}
-bool DiskFile::flush() { return FlushFileBuffers(handle_) != 0; }
-bool DiskFile::close() {
-    if (!isOpen()) return true;
-    return CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE)) != 0;
-}
-
-#else
-
-DiskFile::DiskFile(const fs::path& path, Mode mode)
-    : handle_(::open(path.c_str(),
-                     O_WRONLY | O_CREAT | O_CLOEXEC | (mode == Mode::append ? O_APPEND : O_TRUNC), 0666)) {}
-DiskFile::~DiskFile() { close(); }
-bool DiskFile::isOpen() const { return handle_ >= 0; }
-bool DiskFile::write(TextView content) {
-    while (!content.empty()) {
-        const auto written = ::write(handle_, content.data(), content.size());
-        if (written < 0 && errno == EINTR) continue;
-        if (written <= 0) return false;
-        content.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return true;
-}
-bool DiskFile::flush() { return ::fsync(handle_) == 0; }
-bool DiskFile::close() {
-    if (!isOpen()) return true;
-    return ::close(std::exchange(handle_, -1)) == 0;
-}
-
-#endif
 
 namespace {
 
@@ -128,16 +45,13 @@ fs::path pathOf(TextView name) {
     return fs::path{std::u8string{utf8.begin(), utf8.end()}};
 }
 
-Text nameOn(const fs::path& path) {
-    const std::u8string name = path.filename().u8string();
-    return fromUtf8({reinterpret_cast<const char*>(name.data()), name.size()});
-}
+Text nameOn(const fs::path& path) { return fromUtf8(disk::utf8Name(path)); }
 
 void checkFileName(TextView name) {
     const bool control = std::any_of(name.begin(), name.end(), [](char c) { return c >= 0 && c < ' '; });
     const bool leadsElsewhere = name.find_first_of("/\\:") != TextView::npos || name == "." || name == "..";
     constexpr std::size_t longestName = 200;
-    if (name.empty() || control || leadsElsewhere || name.size() > longestName)
+    if (name.empty() || control || leadsElsewhere || name.size() > longestName || disk::isReservedName(name))
         fail("\"" + Text{name.substr(0, 60)} + "\" is no file name");
 }
 
@@ -151,10 +65,10 @@ std::optional<fs::path> foundIgnoringCase(const fs::path& folder, TextView name)
 }
 
 fs::path childIgnoringCase(const fs::path& folder, TextView name) {
-    std::error_code error;
-    const fs::path plain = folder.empty() ? pathOf(name) : folder / pathOf(name);
-    if (fs::exists(plain, error)) return plain;
-    return foundIgnoringCase(folder.empty() ? fs::path{"."} : folder, name).value_or(plain);
+    const fs::path plain = disk::reachable(folder / pathOf(name));
+    if (disk::isThere(plain)) return disk::asStored(plain);
+    const auto found = foundIgnoringCase(folder.empty() ? fs::path{"."} : folder, name);
+    return found ? disk::reachable(*found) : plain;
 }
 
 bool endsWithoutLineEnd(const fs::path& path) {
@@ -180,11 +94,7 @@ Text shownPath(const FilePlace& place) {
 
 fs::path folderOnDisk(Folder folder) {
     if (folder == Folder::working) return {};
-#ifdef _WIN32
-    const fs::path root = childIgnoringCase("C:\\", programFolder);
-#else
-    const fs::path root = childIgnoringCase({}, programFolder);
-#endif
+    const fs::path root = childIgnoringCase(disk::root(), programFolder);
     return folder == Folder::program ? root : childIgnoringCase(root, nameOf(folder));
 }
 
@@ -210,8 +120,7 @@ std::vector<Text> filesIn(Folder folder, TextView extension) {
 
 std::optional<Text> fileContent(const FilePlace& place) {
     const fs::path path = pathOnDisk(place);
-    std::error_code error;
-    if (!fs::is_regular_file(path, error)) return std::nullopt;
+    if (!disk::isFile(path)) return std::nullopt;
     std::ifstream file{path, std::ios::binary | std::ios::ate};
     if (!file) return std::nullopt;
     const auto size = file.tellg();
@@ -230,8 +139,7 @@ Text readFile(const FilePlace& place) {
 
 FilePieces::FilePieces(const FilePlace& place) {
     const fs::path path = pathOnDisk(place);
-    std::error_code error;
-    if (fs::is_regular_file(path, error)) file_.open(path, std::ios::binary | std::ios::ate);
+    if (disk::isFile(path)) file_.open(path, std::ios::binary | std::ios::ate);
     const auto size = file_.is_open() ? static_cast<std::streamoff>(file_.tellg()) : -1;
     if (size < 0) fail(shownPath(place) + " can't be read");
     size_ = static_cast<std::uint64_t>(size);
@@ -256,6 +164,7 @@ void makeFolder(Folder folder) {
 }
 
 PreparedFile::PreparedFile(const FilePlace& place) : target_(pathOnDisk(place)), temporary_(target_) {
+    if (disk::isWriteProtected(target_)) fail(shownPath(place) + " is write-protected");
     temporary_ += ".quillon-new";
     file_ = std::make_unique<DiskFile>(temporary_, DiskFile::Mode::rewrite);
     if (!file_->isOpen()) fail(shownPath(place) + " can't be written");
@@ -268,9 +177,7 @@ PreparedFile::PreparedFile(const FilePlace& place, TextView content) : PreparedF
 
 PreparedFile::~PreparedFile() {
     if (file_) file_->close();
-    if (temporary_.empty()) return;
-    std::error_code error;
-    fs::remove(temporary_, error);
+    if (!temporary_.empty()) disk::removeFile(temporary_);
 }
 
 void PreparedFile::write(TextView piece) {
@@ -297,30 +204,23 @@ void PreparedFile::finish() {
 
 void PreparedFile::putInPlace() {
     finish();
-    std::error_code error;
-    fs::rename(temporary_, target_, error);
-    if (error) fail(nameOn(target_) + " can't be replaced");
+    if (!disk::replaceFile(temporary_, target_)) fail(nameOn(target_) + " can't be replaced");
     temporary_.clear();
 }
 
 void putInPlaceTogether(PreparedFile& first, PreparedFile& second) {
-    std::error_code error;
     const fs::path target = first.target_;
     fs::path old = target; // a second name for the old first file while the second is replaced
     old += ".quillon-old";
-    fs::remove(old, error);
-    const bool replaces = fs::exists(target, error);
-    if (replaces) {
-        fs::create_hard_link(target, old, error);
-        if (error) fs::copy_file(target, old, error); // a disk without links
-        if (error) fail(nameOn(target) + " can't be kept while it is replaced");
-    }
+    disk::removeFile(old);
+    const bool replaces = disk::isThere(target);
+    if (replaces && !disk::keepAs(target, old)) fail(nameOn(target) + " can't be kept while it is replaced");
     const bool bothInPlace = attempt([&] { first.putInPlace(); }) && attempt([&] { second.putInPlace(); });
     const bool firstAlone = !bothInPlace && first.temporary_.empty();
     if (firstAlone && replaces)
-        fs::rename(old, target, error);
+        disk::replaceFile(old, target);
     else
-        fs::remove(firstAlone ? target : old, error);
+        disk::removeFile(firstAlone ? target : old);
     if (!bothInPlace) fail(nameOn(target) + " is left as it was");
 }
 

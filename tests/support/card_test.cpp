@@ -1,6 +1,7 @@
 #include "support/card_test.h"
 
 #include <algorithm>
+#include <array>
 #include <fstream>
 #include <sstream>
 
@@ -9,11 +10,43 @@ namespace {
 
 namespace fs = std::filesystem;
 
+#ifdef _WIN32
+
+// The fixed folders lie on drive C:, so a test works there. It takes the drive over, which must be made for
+// it.
+constexpr std::array partsOfTheDrive{
+    L"made for tests", L"Program Files", L"Program Files (x86)", L"ProgramData", L"users", L"windows",
+};
+
+void clearAway(const fs::path& drive) {
+    std::error_code error;
+    for (const auto& entry : fs::directory_iterator{drive})
+        if (std::none_of(partsOfTheDrive.begin(), partsOfTheDrive.end(),
+                         [&](const wchar_t* part) { return entry.path().filename() == part; }))
+            fs::remove_all(entry.path(), error);
+}
+
+fs::path freshFolder() {
+    const fs::path drive = "C:\\";
+    if (!fs::is_directory(drive / partsOfTheDrive[0])) throw std::runtime_error("drive C: is not made for tests");
+    clearAway(drive);
+    return drive;
+}
+
+#else
+
 fs::path freshFolder() {
     std::string pattern = (fs::temp_directory_path() / "quillon-test-XXXXXX").string();
     if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
     return pattern;
 }
+
+void clearAway(const fs::path& folder) {
+    std::error_code error;
+    fs::remove_all(folder, error);
+}
+
+#endif
 
 std::string titled(const std::string& kind, const Text& title) {
     return title.empty() ? kind + ": " : kind + " [" + title + "]: ";
@@ -64,8 +97,7 @@ CardTest::CardTest() : folder_(freshFolder()), before_(fs::current_path()) {
 CardTest::~CardTest() {
     ports = {};
     fs::current_path(before_);
-    std::error_code error;
-    fs::remove_all(folder_, error);
+    clearAway(folder_);
 }
 
 std::string CardTest::contentOf(const fs::path& path) {

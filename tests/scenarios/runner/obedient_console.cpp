@@ -1,8 +1,9 @@
 // Does as its script says: "print TEXT", "write FILE TEXT", "append FILE TEXT", "remove FILE", "bytes FILE"
-// (prints the file's size), "exit STATUS".
+// (prints the file's size), "exit STATUS". A name with blanks stands in quotes.
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iomanip>
 #include <iostream>
 #include <string>
 
@@ -13,7 +14,7 @@ int main() {
     while (std::cin >> verb) {
         std::string name;
         std::string text;
-        if (verb != "print") std::cin >> name;
+        if (verb != "print") std::cin >> std::quoted(name);
         if (verb == "print" || verb == "write" || verb == "append") {
             std::cin.get();
             std::getline(std::cin, text);

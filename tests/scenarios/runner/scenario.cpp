@@ -15,6 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr const char* programFolder = "A Quillon PRO";
 constexpr const char* sourceFolder = "A Quillon PRO/TrackMaster ExE Files";
 constexpr int mostScripts = 9;
 
@@ -65,7 +66,8 @@ bool hasCommand(const fs::path& script) {
 }
 
 // The shell's command that runs the console on a script.
-std::string commandLine(const fs::path& console, const fs::path& script, const fs::path& transcript) {
+std::string commandLine(const std::string& launcher, const fs::path& console, const fs::path& script,
+                        const fs::path& transcript) {
     const auto quoted = [](const fs::path& path) {
 #ifdef _WIN32
         return '"' + path.string() + '"';
@@ -75,7 +77,8 @@ std::string commandLine(const fs::path& console, const fs::path& script, const f
         return text + "'";
 #endif
     };
-    const std::string command = quoted(console) + " < " + quoted(script) + " > " + quoted(transcript);
+    const std::string program = (launcher.empty() ? "" : quoted(launcher) + " ") + quoted(console);
+    const std::string command = program + " < " + quoted(script) + " > " + quoted(transcript);
 #ifdef _WIN32
     return '"' + command + '"'; // the shell there takes the outermost quotes off
 #else
@@ -83,15 +86,22 @@ std::string commandLine(const fs::path& console, const fs::path& script, const f
 #endif
 }
 
+void moveProgramFolder(const fs::path& from, const fs::path& to) {
+    if (from != to && fs::exists(from / programFolder)) fs::rename(from / programFolder, to / programFolder);
+}
+
 class Run {
 public:
     Run(const fs::path& scenario, const Setting& setting)
         : scenario_(fs::absolute(scenario)), console_(fs::absolute(setting.console)),
-          sample_(setting.sampleFolder), work_(fs::absolute(setting.workFolder) / scenario_.filename()),
-          folder_(work_ / "folder") {}
+          launcher_(setting.launcher), sample_(setting.sampleFolder),
+          work_(fs::absolute(setting.workFolder) / scenario_.filename()), folder_(work_ / "folder"),
+          drive_(setting.drive.empty() ? folder_ : fs::absolute(setting.drive)) {}
 
     std::vector<std::string> complaints() {
         checkParts();
+        if (drive_ != folder_ && fs::exists(drive_ / programFolder)) // never to be moved away or written over
+            complain((drive_ / programFolder).string() + " is in use");
         if (complaints_.empty()) layOutFolder();
         if (complaints_.empty()) runScripts();
         return std::move(complaints_);
@@ -110,14 +120,17 @@ private:
     void layOutCard();
     void runScripts();
     void runScript(int number);
+    int runConsole(int number) const;
     void compareFiles(const Files& before);
     void compareOutcome(const std::string& path, const std::string& content, const Files& before);
 
     fs::path scenario_;
     fs::path console_;
+    std::string launcher_;
     fs::path sample_;
     fs::path work_;
     fs::path folder_; ///< the console's working folder
+    fs::path drive_;  ///< has the fixed folders while the console runs
     int scripts_ = 0;
     std::vector<std::string> complaints_;
 };
@@ -161,7 +174,7 @@ void Run::layOutSample() {
         return complain("uses: only \"sample\" can be used");
     const auto before = entriesOf(folder_);
     for (const fs::path& entry : entriesOf(sample_))
-        if (entry.extension() == ".ini" || entry.filename() == "A Quillon PRO")
+        if (entry.extension() == ".ini" || entry.filename() == programFolder)
             fs::copy(entry, folder_ / entry.filename(), fs::copy_options::recursive);
     if (entriesOf(folder_) == before) complain("uses: the sample working folder is missing");
 }
@@ -193,12 +206,20 @@ void Run::runScripts() {
     if (!complaints_.empty()) complain("what came is in " + work_.string());
 }
 
+int Run::runConsole(int number) const {
+    const fs::path transcript = work_ / numberedName("transcript", number);
+    const fs::path outside = fs::current_path();
+    moveProgramFolder(folder_, drive_);
+    fs::current_path(folder_);
+    const int status = std::system(commandLine(launcher_, console_, script(number), transcript).c_str());
+    fs::current_path(outside);
+    moveProgramFolder(drive_, folder_);
+    return status;
+}
+
 void Run::runScript(int number) {
     const std::string name = numberedName("transcript", number);
-    const fs::path outside = fs::current_path();
-    fs::current_path(folder_);
-    const int status = std::system(commandLine(console_, script(number), work_ / name).c_str());
-    fs::current_path(outside);
+    const int status = runConsole(number);
     if (status != 0)
         complain(numberedName("script", number) + " ended with status " + std::to_string(status));
     const std::string changes = difference(samples::readFile(expected(name)).value_or(""),

@@ -181,5 +181,36 @@ TEST_F(ScenarioTest, RunsInAFolderOfAnyName) {
     EXPECT_EQ(Complaints{}, all);
 }
 
+class DriveTest : public ScenarioTest {
+protected:
+    const Setting setting{.console = OBEDIENT_CONSOLE,
+                          .sampleFolder = "sample",
+                          .workFolder = "work",
+                          .launcher = "env", // starts what it is told to, as wine does
+                          .drive = "drive"};
+
+    DriveTest() { fs::create_directory("drive"); }
+};
+
+TEST_F(DriveTest, HasTheFixedFoldersWhileTheConsoleRuns) {
+    put("claim/folder/A Quillon PRO/Results/a.txt", "123");
+    put("claim/script.txt", "bytes \"../../../drive/A Quillon PRO/Results/a.txt\"\n"
+                            "write \"../../../drive/A Quillon PRO/Entries/b.txt\" text\n");
+    put("claim/script2.txt", "bytes \"../../../drive/A Quillon PRO/Entries/b.txt\"\n");
+    put("claim/expected/transcript.txt", "../../../drive/A Quillon PRO/Results/a.txt 3\n");
+    put("claim/expected/transcript2.txt", "../../../drive/A Quillon PRO/Entries/b.txt 5\n");
+    put("claim/expected/files/A Quillon PRO/Entries/b.txt", "text\n");
+    EXPECT_EQ(Complaints{}, complaintsAbout("claim", setting));
+    EXPECT_FALSE(exists("drive/A Quillon PRO"));
+}
+
+TEST_F(DriveTest, KeepsTheFixedFoldersOfItsUser) {
+    put("drive/A Quillon PRO/HRA.ini", "a user's");
+    EXPECT_EQ(Complaints{fs::absolute("drive/A Quillon PRO").string() + " is in use"},
+              complaintsAbout("claim", setting));
+    EXPECT_EQ("a user's", contentOf("drive/A Quillon PRO/HRA.ini"));
+    EXPECT_FALSE(exists("work/claim"));
+}
+
 } // namespace
 } // namespace scenarios
