@@ -185,7 +185,7 @@ void ChoiceDialog::buildWaitingButton() {
     waiting_->hide();
     connect(waiting_, &QPushButton::clicked, this, [this] {
         for (Page& page : pages_)
-            if (page.waits) return open(page);
+            if (page.waits) return openPage(page);
     });
 }
 
@@ -230,7 +230,7 @@ void ChoiceDialog::refresh() {
         if ((theScreen.*page.list).visible) page.lines->refresh();
     Page* wanted = pageWanted();
     if (wanted && (wanted != current_ || !isVisible())) {
-        open(*wanted);
+        openPage(*wanted);
     } else if (!wanted) {
         current_ = nullptr;
         hide();
@@ -238,7 +238,7 @@ void ChoiceDialog::refresh() {
     showState();
 }
 
-void ChoiceDialog::open(Page& page) {
+void ChoiceDialog::openPage(Page& page) {
     page.waits = false;
     current_ = &page;
     setWindowTitle(page.title);

@@ -85,7 +85,7 @@ private:
     void buildFrame();
     void buildWaitingButton();
     Page* pageWanted();
-    void open(Page& page);
+    void openPage(Page& page);
     void pick(Page& page, const QModelIndex& index);
     void find(const QString& text);
     void selectFirst(Page& page);
