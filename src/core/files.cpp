@@ -16,6 +16,8 @@
 #include <windows.h>
 #else
 #include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -23,7 +25,8 @@ namespace quillon {
 
 namespace fs = std::filesystem;
 
-// A file handle of the system, so that what was written can be flushed to the disk.
+// A file handle of the system, so that what was written can be flushed to the disk. A file that is rewritten
+// is this program's own as long as the handle is open.
 class DiskFile {
 public:
     enum class Mode { rewrite, append };
@@ -34,6 +37,7 @@ public:
     DiskFile& operator=(const DiskFile&) = delete;
 
     bool isOpen() const;
+    bool isTaken() const { return taken_; } ///< another program is rewriting it
     bool write(TextView content);
     bool flush();
     bool close();
@@ -44,6 +48,7 @@ private:
 #else
     int handle_ = -1;
 #endif
+    bool taken_ = false;
 };
 
 #ifdef _WIN32
@@ -52,7 +57,8 @@ DiskFile::DiskFile(const fs::path& path, Mode mode)
     : handle_(CreateFileW(path.c_str(), mode == Mode::append ? FILE_APPEND_DATA : GENERIC_WRITE,
                           FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
                           mode == Mode::append ? OPEN_ALWAYS : CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
-                          nullptr)) {}
+                          nullptr)),
+      taken_(!isOpen() && mode == Mode::rewrite && GetLastError() == ERROR_SHARING_VIOLATION) {}
 DiskFile::~DiskFile() { close(); }
 bool DiskFile::isOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
 bool DiskFile::write(TextView content) {
@@ -73,9 +79,28 @@ bool DiskFile::close() {
 
 #else
 
+namespace {
+
+// Another program may have renamed the file between our opening and our locking it.
+bool isStillAt(const fs::path& path, int handle) {
+    struct stat opened {};
+    struct stat there {};
+    return ::fstat(handle, &opened) == 0 && ::stat(path.c_str(), &there) == 0 &&
+           opened.st_dev == there.st_dev && opened.st_ino == there.st_ino;
+}
+
+// The lock ends with its process, so that a file left by a crash is free. A disk without locks has none.
+bool isLockedElsewhere(int handle) { return ::flock(handle, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK; }
+
+} // namespace
+
 DiskFile::DiskFile(const fs::path& path, Mode mode)
-    : handle_(::open(path.c_str(),
-                     O_WRONLY | O_CREAT | O_CLOEXEC | (mode == Mode::append ? O_APPEND : O_TRUNC), 0666)) {}
+    : handle_(::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | (mode == Mode::append ? O_APPEND : 0),
+                     0666)) {
+    if (mode == Mode::append || !isOpen()) return;
+    taken_ = isLockedElsewhere(handle_) || !isStillAt(path, handle_);
+    if (taken_ || ::ftruncate(handle_, 0) != 0) close();
+}
 DiskFile::~DiskFile() { close(); }
 bool DiskFile::isOpen() const { return handle_ >= 0; }
 bool DiskFile::write(TextView content) {
@@ -162,6 +187,25 @@ bool endsWithoutLineEnd(const fs::path& path) {
     if (!file || file.tellg() <= 0) return false;
     file.seekg(-1, std::ios::end);
     return file.get() != '\n';
+}
+
+// True where nothing stands behind the first `size` bytes of the file but a part of the record, or all of it.
+bool isStartOf(TextView record, const fs::path& path, std::uintmax_t size) {
+    std::ifstream file{path, std::ios::binary};
+    file.seekg(static_cast<std::streamoff>(size));
+    Text behind(record.size() + 1, '\0');
+    file.read(behind.data(), static_cast<std::streamsize>(behind.size()));
+    return record.starts_with(TextView{behind}.substr(0, static_cast<std::size_t>(file.gcount())));
+}
+
+// A record that could not be written whole, or not flushed, leaves nothing of it, so that it can be asked for
+// again.
+void takeBack(const fs::path& path, bool isNew, std::uintmax_t size) {
+    std::error_code error;
+    if (isNew)
+        fs::remove(path, error);
+    else
+        fs::resize_file(path, size, error);
 }
 
 } // namespace
@@ -255,9 +299,16 @@ void makeFolder(Folder folder) {
     if (!fs::is_directory(path, error)) fail("the folder " + shownPath({folder, ""}) + " can't be made");
 }
 
-PreparedFile::PreparedFile(const FilePlace& place) : target_(pathOnDisk(place)), temporary_(target_) {
-    temporary_ += ".quillon-new";
-    file_ = std::make_unique<DiskFile>(temporary_, DiskFile::Mode::rewrite);
+// Programs that replace the same file at the same time write each to a temporary file of its own.
+PreparedFile::PreparedFile(const FilePlace& place) : target_(pathOnDisk(place)) {
+    constexpr int mostPrograms = 9;
+    for (int program = 1; program <= mostPrograms; ++program) {
+        ending_ = program == 1 ? Text{} : std::to_string(program);
+        temporary_ = target_;
+        temporary_ += ".quillon-new" + ending_;
+        file_ = std::make_unique<DiskFile>(temporary_, DiskFile::Mode::rewrite);
+        if (!file_->isTaken()) break;
+    }
     if (!file_->isOpen()) fail(shownPath(place) + " can't be written");
 }
 
@@ -267,10 +318,9 @@ PreparedFile::PreparedFile(const FilePlace& place, TextView content) : PreparedF
 }
 
 PreparedFile::~PreparedFile() {
-    if (file_) file_->close();
     if (temporary_.empty()) return;
     std::error_code error;
-    fs::remove(temporary_, error);
+    fs::remove(temporary_, error); // while it is still ours
 }
 
 void PreparedFile::write(TextView piece) {
@@ -288,11 +338,10 @@ void PreparedFile::writeGathered() {
 }
 
 void PreparedFile::finish() {
-    if (!file_) return;
+    if (finished_) return;
     writeGathered();
-    const bool written = file_->flush() && file_->close();
-    if (!written) fail(nameOn(target_) + " can't be written");
-    file_.reset();
+    if (!file_->flush()) fail(nameOn(target_) + " can't be written");
+    finished_ = true;
 }
 
 void PreparedFile::putInPlace() {
@@ -307,7 +356,7 @@ void putInPlaceTogether(PreparedFile& first, PreparedFile& second) {
     std::error_code error;
     const fs::path target = first.target_;
     fs::path old = target; // a second name for the old first file while the second is replaced
-    old += ".quillon-old";
+    old += ".quillon-old" + second.ending_;
     fs::remove(old, error);
     const bool replaces = fs::exists(target, error);
     if (replaces) {
@@ -332,12 +381,17 @@ void writeFile(const FilePlace& place, TextView content) {
 void appendToFile(const FilePlace& place, TextView content) {
     makeFolder(place.folder);
     const fs::path path = pathOnDisk(place);
+    std::error_code error;
+    const bool isNew = !fs::exists(path, error);
+    const std::uintmax_t size = isNew ? 0 : fs::file_size(path, error);
     Text record;
     if (!content.empty() && endsWithoutLineEnd(path)) record += crLf;
     record += content;
     DiskFile file{path, DiskFile::Mode::append};
-    if (!(file.isOpen() && file.write(record) && file.flush() && file.close()))
-        fail(shownPath(place) + " can't be written");
+    if (!file.isOpen()) fail(shownPath(place) + " can't be written");
+    if (file.write(record) && file.flush() && file.close()) return;
+    if (!error && isStartOf(record, path, size)) takeBack(path, isNew, size);
+    fail(shownPath(place) + " can't be written");
 }
 
 std::optional<TextView> LineReader::next() {
