@@ -61,7 +61,7 @@ TEST_F(TwoPrograms, SavingTheSameCardNeverTearsIt) {
     ASSERT_EQ(3u, whole.size());
     const std::string archive = bytesOf(work_ / archivePath);
 
-    constexpr int saves = 60;
+    constexpr int saves = 30;
     ConsoleProcess first{work_, one + repeated("Save\n", saves) + lastCommand};
     ConsoleProcess second{work_, two + repeated("Save\n", saves) + lastCommand};
     int looks = 0;
