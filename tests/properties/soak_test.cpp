@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <sstream>
 #include <string>
+#include <utility>
 
 #if defined(__SANITIZE_ADDRESS__)
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // g++ 12 comes without its header
@@ -39,7 +40,11 @@ class RandomUser {
 public:
     explicit RandomUser(std::uint64_t seed) : random_(seed) {}
 
+    std::string firstLine() { return random_.chance(60) ? "Start" : "RecallRaceCard"; }
+
     std::string line() {
+        if (random_.chance(25))
+            if (const std::string choice = choiceOfShownList(); !choice.empty()) return choice;
         if (random_.chance(12)) return "Answer " + answer();
         if (random_.chance(2)) return "Cancel";
         if (random_.chance(6)) return "show " + std::string{random_.pick(parts)};
@@ -101,7 +106,8 @@ private:
     }
 
     std::string number() {
-        return std::to_string(random_.chance(90) ? random_.between(0, 13) : random_.between(-3, 40));
+        if (random_.chance(60)) return std::to_string(random_.between(1, 5));
+        return std::to_string(random_.chance(80) ? random_.between(0, 13) : random_.between(-3, 40));
     }
 
     std::string commandLine(const Command& command) {
@@ -112,6 +118,16 @@ private:
         for (int at = 0; at < numbersOf(command.takes); ++at) line += " " + number();
         if (takesText(command.takes)) line += " " + text();
         return line;
+    }
+
+    std::string choiceOfShownList() {
+        const std::array lists{
+            std::pair{"ChooseFile", &screen.fileList},     std::pair{"SelectTrack", &screen.trackList},
+            std::pair{"DriverChoice", &screen.driverList}, std::pair{"MarginChoice", &screen.marginList},
+            std::pair{"OddsChoice", &screen.oddsList},     std::pair{"MaxOddsChoice", &screen.maxOddsList}};
+        const auto& [command, list] = random_.pick(lists);
+        if (!list->visible || list->lines.empty()) return {};
+        return std::string{command} + " " + random_.pick(list->lines);
     }
 
     static int numbersOf(Takes takes) {
@@ -137,7 +153,7 @@ protected:
         constexpr int enough = 60;
         std::ostringstream transcript;
         Console console{transcript};
-        std::string script = "Start\n";
+        std::string script = user.firstLine() + "\n";
         for (int commands = 1; commands <= enough; ++commands) {
             transcript.str("");
             std::istringstream line{script};
