@@ -9,11 +9,10 @@ namespace quillon {
 
 std::optional<std::string> InputLines::nextBytes() {
     using Traits = std::streambuf::traits_type;
-    std::streambuf& source = *in_.rdbuf();
     std::string line;
     for (;;) {
-        if (source.in_avail() <= 0) transcript_.flush();
-        const auto next = source.sbumpc();
+        if (in_.rdbuf()->in_avail() <= 0) transcript_.flush();
+        const auto next = in_.get(); // an input that can't be read has ended
         const bool ended = Traits::eq_int_type(next, Traits::eof());
         if (ended && line.empty()) return std::nullopt;
         if (ended || next == '\n') return line;

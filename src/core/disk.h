@@ -10,7 +10,7 @@
 namespace quillon {
 
 /// A file opened for writing, so that what was written can be flushed to the disk. Each step tells whether it
-/// was done.
+/// was done. A file that is rewritten is this program's own as long as it is open.
 class DiskFile {
 public:
     enum class Mode { rewrite, append };
@@ -21,6 +21,7 @@ public:
     DiskFile& operator=(const DiskFile&) = delete;
 
     bool isOpen() const { return handle_ != noHandle; }
+    bool isTaken() const { return taken_; } ///< another program is rewriting it
     bool write(TextView content);
     bool flush();
     bool close();
@@ -29,6 +30,7 @@ private:
     static constexpr std::intptr_t noHandle = -1; // both systems' mark of a file that did not open
 
     std::intptr_t handle_ = noHandle;
+    bool taken_ = false;
 };
 
 namespace disk {

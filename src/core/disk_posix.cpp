@@ -2,6 +2,8 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
@@ -9,9 +11,29 @@ namespace quillon {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+// Another program may have renamed the file between our opening and our locking it.
+bool isStillAt(const fs::path& path, int handle) {
+    struct stat opened {};
+    struct stat there {};
+    return ::fstat(handle, &opened) == 0 && ::stat(path.c_str(), &there) == 0 &&
+           opened.st_dev == there.st_dev && opened.st_ino == there.st_ino;
+}
+
+// The lock ends with its process, so that a file left by a crash is free. A disk without locks has none.
+bool isLockedElsewhere(int handle) { return ::flock(handle, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK; }
+
+} // namespace
+
 DiskFile::DiskFile(const fs::path& path, Mode mode)
-    : handle_(::open(path.c_str(),
-                     O_WRONLY | O_CREAT | O_CLOEXEC | (mode == Mode::append ? O_APPEND : O_TRUNC), 0666)) {}
+    : handle_(::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | (mode == Mode::append ? O_APPEND : 0),
+                     0666)) {
+    if (mode == Mode::append || !isOpen()) return;
+    const auto handle = static_cast<int>(handle_);
+    taken_ = isLockedElsewhere(handle) || !isStillAt(path, handle);
+    if (taken_ || ::ftruncate(handle, 0) != 0) close();
+}
 
 DiskFile::~DiskFile() { close(); }
 

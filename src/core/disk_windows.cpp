@@ -37,24 +37,31 @@ bool isOneOf(DWORD attributes, DWORD marks) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & marks) != 0;
 }
 
-HANDLE openForWriting(const fs::path& path, bool appends) {
+HANDLE openToAppend(const fs::path& path) {
     HANDLE handle = INVALID_HANDLE_VALUE;
     if (disk::isWriteProtected(path)) return handle;
     patiently(
         [&] {
-            handle = CreateFileW(path.c_str(), appends ? FILE_APPEND_DATA : GENERIC_WRITE,
-                                 FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
-                                 appends ? OPEN_ALWAYS : CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+            handle = CreateFileW(path.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
+                                 OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
             return handle != INVALID_HANDLE_VALUE;
         },
         isShared);
     return handle;
 }
 
+HANDLE openToRewrite(const fs::path& path) {
+    return CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
+                       CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
 } // namespace
 
 DiskFile::DiskFile(const fs::path& path, Mode mode)
-    : handle_(reinterpret_cast<std::intptr_t>(openForWriting(path, mode == Mode::append))) {}
+    : handle_(
+          reinterpret_cast<std::intptr_t>(mode == Mode::append ? openToAppend(path) : openToRewrite(path))) {
+    taken_ = !isOpen() && mode == Mode::rewrite && isShared(GetLastError());
+}
 
 DiskFile::~DiskFile() { close(); }
 

@@ -78,6 +78,25 @@ bool endsWithoutLineEnd(const fs::path& path) {
     return file.get() != '\n';
 }
 
+// True where nothing stands behind the first `size` bytes of the file but a part of the record, or all of it.
+bool isStartOf(TextView record, const fs::path& path, std::uintmax_t size) {
+    std::ifstream file{path, std::ios::binary};
+    file.seekg(static_cast<std::streamoff>(size));
+    Text behind(record.size() + 1, '\0');
+    file.read(behind.data(), static_cast<std::streamsize>(behind.size()));
+    return record.starts_with(TextView{behind}.substr(0, static_cast<std::size_t>(file.gcount())));
+}
+
+// A record that could not be written whole, or not flushed, leaves nothing of it, so that it can be asked for
+// again.
+void takeBack(const fs::path& path, bool isNew, std::uintmax_t size) {
+    std::error_code error;
+    if (isNew)
+        fs::remove(path, error);
+    else
+        fs::resize_file(path, size, error);
+}
+
 } // namespace
 
 Text shownPath(const FilePlace& place) {
@@ -163,10 +182,17 @@ void makeFolder(Folder folder) {
     if (!fs::is_directory(path, error)) fail("the folder " + shownPath({folder, ""}) + " can't be made");
 }
 
-PreparedFile::PreparedFile(const FilePlace& place) : target_(pathOnDisk(place)), temporary_(target_) {
+// Programs that replace the same file at the same time write each to a temporary file of its own.
+PreparedFile::PreparedFile(const FilePlace& place) : target_(pathOnDisk(place)) {
+    constexpr int mostPrograms = 9;
     if (disk::isWriteProtected(target_)) fail(shownPath(place) + " is write-protected");
-    temporary_ += ".quillon-new";
-    file_ = std::make_unique<DiskFile>(temporary_, DiskFile::Mode::rewrite);
+    for (int program = 1; program <= mostPrograms; ++program) {
+        ending_ = program == 1 ? Text{} : std::to_string(program);
+        temporary_ = target_;
+        temporary_ += ".quillon-new" + ending_;
+        file_ = std::make_unique<DiskFile>(temporary_, DiskFile::Mode::rewrite);
+        if (!file_->isTaken()) break;
+    }
     if (!file_->isOpen()) fail(shownPath(place) + " can't be written");
 }
 
@@ -176,8 +202,7 @@ PreparedFile::PreparedFile(const FilePlace& place, TextView content) : PreparedF
 }
 
 PreparedFile::~PreparedFile() {
-    if (file_) file_->close();
-    if (!temporary_.empty()) disk::removeFile(temporary_);
+    if (!temporary_.empty()) disk::removeFile(temporary_); // while it is still ours
 }
 
 void PreparedFile::write(TextView piece) {
@@ -195,11 +220,10 @@ void PreparedFile::writeGathered() {
 }
 
 void PreparedFile::finish() {
-    if (!file_) return;
+    if (finished_) return;
     writeGathered();
-    const bool written = file_->flush() && file_->close();
-    if (!written) fail(nameOn(target_) + " can't be written");
-    file_.reset();
+    if (!file_->flush()) fail(nameOn(target_) + " can't be written");
+    finished_ = true;
 }
 
 void PreparedFile::putInPlace() {
@@ -211,7 +235,7 @@ void PreparedFile::putInPlace() {
 void putInPlaceTogether(PreparedFile& first, PreparedFile& second) {
     const fs::path target = first.target_;
     fs::path old = target; // a second name for the old first file while the second is replaced
-    old += ".quillon-old";
+    old += ".quillon-old" + second.ending_;
     disk::removeFile(old);
     const bool replaces = disk::isThere(target);
     if (replaces && !disk::keepAs(target, old)) fail(nameOn(target) + " can't be kept while it is replaced");
@@ -232,12 +256,18 @@ void writeFile(const FilePlace& place, TextView content) {
 void appendToFile(const FilePlace& place, TextView content) {
     makeFolder(place.folder);
     const fs::path path = pathOnDisk(place);
+    std::error_code error;
+    const bool isNew = !disk::isThere(path);
+    const std::uintmax_t size = isNew ? 0 : fs::file_size(path, error);
     Text record;
     if (!content.empty() && endsWithoutLineEnd(path)) record += crLf;
     record += content;
     DiskFile file{path, DiskFile::Mode::append};
-    if (!(file.isOpen() && file.write(record) && file.flush() && file.close()))
-        fail(shownPath(place) + " can't be written");
+    if (!file.isOpen()) fail(shownPath(place) + " can't be written");
+    if (file.write(record) && file.flush() && file.close()) return;
+    file.close();
+    if (!error && isStartOf(record, path, size)) takeBack(path, isNew, size);
+    fail(shownPath(place) + " can't be written");
 }
 
 std::optional<TextView> LineReader::next() {

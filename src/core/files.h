@@ -106,11 +106,13 @@ private:
     friend void putInPlaceTogether(PreparedFile& first, PreparedFile& second);
 
     void writeGathered();
-    void finish(); ///< everything on the disk and the file closed
+    void finish(); ///< everything on the disk
 
     std::filesystem::path target_;
-    std::filesystem::path temporary_;
-    std::unique_ptr<DiskFile> file_; ///< none once it is finished
+    std::filesystem::path temporary_; ///< none once it is in place
+    Text ending_;                     ///< of its name, where other programs replace the same file
+    std::unique_ptr<DiskFile> file_;  ///< open to the end: no other program takes the temporary file
+    bool finished_ = false;
     Text gathered_;
 };
 
@@ -121,7 +123,7 @@ void putInPlaceTogether(PreparedFile& first, PreparedFile& second);
 
 /// Adds to the end of the file in one write and flushes it; the file and its folder are created where
 /// missing. A last line without a line end gets one first, so that nothing merges with it; adding nothing to
-/// a file that is there leaves it as it is. Fails when it can't be written.
+/// a file that is there leaves it as it is. Fails when it can't be written, with nothing of it in the file.
 void appendToFile(const FilePlace& place, TextView content);
 
 /// Lines of a text, whether they end in LF or CR LF. A last line without an end counts; an end of the text
