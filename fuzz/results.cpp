@@ -42,6 +42,27 @@ void forgetResults() {
     showRace(1);
 }
 
+using Pass = void (*)();
+
+void runOver(Pass pass) {
+    forgetResults();
+    attempt(pass);
+}
+
+Text told() {
+    Text all;
+    const auto add = [&](const Text& text) {
+        all += text;
+        all += '\n';
+    };
+    for (int race = 1; race <= card.raceCount; ++race) {
+        for (int cell = 1; cell <= 9; ++cell) add(card.raceOutcome(race, cell));
+        for (int cell = 1; cell <= 21; ++cell) add(card.payoffRecord(race, cell));
+        for (int cell = 1; cell <= 20; ++cell) add(card.pickLegs(race, cell));
+    }
+    return all;
+}
+
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -51,11 +72,13 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
 
     journal.clear();
     fuzz::put("A Quillon PRO/Results/MVR_20260314.pmr", fuzz::textOf(data, size));
-    for (void (*const pass)() : {AutoRecord, AutoRecord2, EBET}) {
-        forgetResults();
-        attempt(pass);
+    for (const Pass pass : {AutoRecord, AutoRecord2, EBET}) {
+        runOver(pass);
+        const Text first = told();
         for (int n = 0; n < card.raceCount; ++n) attempt(Next);
         attempt(pass); // upon what it left
+        runOver(pass);
+        fuzz::ensure(told() == first, "the same results are read the same");
     }
     return 0;
 }

@@ -7,7 +7,6 @@
 #include "support/small_card.h"
 
 #include <array>
-#include <deque>
 #include <limits>
 #include <optional>
 
@@ -46,7 +45,7 @@ public:
 
     void run() {
         open();
-        constexpr int mostSteps = 200;
+        constexpr int mostSteps = 100;
         for (int taken = 0; taken < mostSteps && !bytes_.atEnd(); ++taken) takeStep();
         fuzz::lookAtScreen();
         checkFiles();
@@ -59,31 +58,29 @@ private:
         takePorts();
     }
 
+    // What the user answers is read when he is asked.
     void takePorts() {
-        ports.question = [this](auto&, auto&) { return nextAnswer() == "Yes"; };
-        ports.input = [this](auto&, auto&) { return nextAnswer(); };
-        ports.progress = [this](double) { return nextAnswer() != "No"; };
+        ports.question = [this](auto&, auto&) { return bytes_.choice(2) == 1; };
+        ports.input = [this](auto&, auto&) { return answer(); };
+        ports.progress = [this](double) { return bytes_.choice(2) == 0; };
         ports.end = [this] { ended_ = true; };
     }
 
-    std::optional<Text> nextAnswer() {
-        if (answers_.empty()) return std::nullopt;
-        Text answer = answers_.front();
-        answers_.pop_front();
-        return answer;
+    std::optional<Text> answer() {
+        constexpr std::size_t cancels = 8; // one of so many
+        if (bytes_.choice(cancels) == 0) return std::nullopt;
+        return text();
     }
 
     // A row of the command table, or one of the things that happen between commands.
     void takeStep() {
         const auto commands = commandTable();
-        constexpr std::size_t otherSteps = 5;
+        constexpr std::size_t otherSteps = 3;
         const std::size_t step = bytes_.choice(commands.size() + otherSteps);
         if (step < commands.size()) return runAsUser(commands[step]);
         switch (step - commands.size()) {
-        case 0: answers_.push_back(text()); break;
-        case 1: answers_.emplace_back("Yes"); break;
-        case 2: changeFile(); break;
-        case 3: removeFile(); break;
+        case 0: changeFile(); break;
+        case 1: removeFile(); break;
         default: fuzz::lookAtScreen(); break;
         }
     }
@@ -126,6 +123,7 @@ private:
         case 2: return Text{bytes_.text(bytes_.choice(32))};
         case 3: return fuzz::smallCardFile(which_);
         case 4: return Text(bytes_.byte() * std::size_t{4}, 'W');
+        case 5: return std::to_string(number());
         default: return Text{bytes_.oneOf(usualTexts)};
         }
     }
@@ -175,7 +173,6 @@ private:
     }
 
     fuzz::ByteReader bytes_;
-    std::deque<Text> answers_;
     std::size_t which_ = 0;
     bool ended_ = false;
 };

@@ -3,6 +3,7 @@
 #include "app/ports.h"
 #include "app/start_up.h"
 #include "console/show.h"
+#include "console/show_store.h"
 #include "core/failure.h"
 #include "core/journal.h"
 #include "core/race_card.h"
@@ -14,6 +15,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <ostream>
+#include <sstream>
 #include <streambuf>
 
 namespace quillon::fuzz {
@@ -104,11 +106,18 @@ void lookAtScreen() {
     for (const char* part : {"header", "buttons", "board", "menu", "racelist", "filelist", "tracklist",
                              "driverlist", "starsfields", "faults"})
         show(part, commandTable(), transcript);
-    for (const Grid& view : screen.raceView) lookAt(view);
+    for (const int view : {1, 2, ratedRaces}) lookAt(screen.raceView[static_cast<std::size_t>(view)]);
     for (const int view : {1, 2, ratedRaces, lineTableView, pastPerformanceView})
         lookAt(screen.dataView[static_cast<std::size_t>(view)]);
     for (const Grid* view : {&screen.summary, &screen.profile, &screen.tracks, &screen.picks, &screen.stars})
         lookAt(*view);
+}
+
+Text storeText() {
+    std::ostringstream out;
+    Transcript transcript{out};
+    showStore(transcript);
+    return out.str();
 }
 
 } // namespace quillon::fuzz

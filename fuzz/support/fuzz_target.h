@@ -40,6 +40,9 @@ void lookAt(const Grid& view);
 /// Reads everything that a user could look at.
 void lookAtScreen();
 
+/// The whole store as the console shows it: the same after the same steps, whatever was there before them.
+Text storeText();
+
 inline const std::filesystem::path sourceFolder = "A Quillon PRO/TrackMaster ExE Files";
 
 } // namespace quillon::fuzz
