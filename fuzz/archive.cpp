@@ -1,4 +1,5 @@
-// The archive of recorded cards, parts "HRA" and "Stars5", through all profiles and what they write.
+// The archive of recorded cards, parts "HRA" and "Stars5", through all profiles and what they write. A part
+// "long" is the length of a piece without a line end between two copies of the cards.
 #include "analysis/archive_records.h"
 #include "analysis/archive_scan.h"
 #include "core/failure.h"
@@ -27,6 +28,7 @@ void compareReadings(TextView line) {
 
 // Both ways through the file come by the same lines.
 void compareWalks(TextView content) {
+    fuzz::put("HRA.ini", content);
     std::vector<TextView> lines;
     LineReader reader{content};
     while (const auto line = reader.next()) lines.push_back(*line);
@@ -43,6 +45,14 @@ void compareWalks(TextView content) {
         fuzz::ensure(read && *read == *line, "the lines are read backwards");
     }
     fuzz::ensure(!backwards.next(), "the lines end backwards");
+}
+
+// The file is read in blocks of a quarter of a megabyte, which an input is too short for.
+Text withLongPiece(TextView cards, double length) {
+    constexpr double longest = 1 << 20;
+    Text content{cards};
+    content.append(static_cast<std::size_t>(std::min(length, longest)), 'x');
+    return content += cards;
 }
 
 void profileTracks() {
@@ -79,12 +89,15 @@ void profileStars() {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     fuzz::beginInput();
+    TextView cards;
+    double longest = 0;
     for (const fuzz::Part& part : fuzz::partsOf(fuzz::textOf(data, size))) {
+        if (part.name == "HRA") cards = part.content;
         if (part.name == "Stars5") fuzz::put("Stars5.ini", part.content);
-        if (part.name != "HRA") continue;
-        fuzz::put("HRA.ini", part.content);
-        compareWalks(part.content);
+        if (part.name == "long") longest = lenientNumber(part.content);
     }
+    if (longest > 0) compareWalks(withLongPiece(cards, longest));
+    compareWalks(cards);
     profileTracks();
     fuzz::press("MainScreen");
     profileStars();

@@ -14,6 +14,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <iterator>
 #include <ostream>
 #include <sstream>
 #include <streambuf>
@@ -33,22 +34,27 @@ public:
                                                        : fs::temp_directory_path();
         std::string pattern = (base / "quillon-fuzz-XXXXXX").string();
         ensure(mkdtemp(pattern.data()) != nullptr, "there is a temporary folder");
-        path_ = pattern;
+        outer_ = pattern;
+        path_ = outer_ / "work";
+        fs::create_directory(path_);
         fs::current_path(path_);
     }
     ~WorkingFolder() {
         std::error_code error;
         fs::current_path("/", error);
-        fs::remove_all(path_, error);
+        fs::remove_all(outer_, error);
     }
     WorkingFolder(const WorkingFolder&) = delete;
     WorkingFolder& operator=(const WorkingFolder&) = delete;
 
     void empty() const {
+        const auto beside = std::distance(fs::directory_iterator{outer_}, {});
+        ensure(beside == 1, "nothing is written outside the working folder");
         for (const auto& entry : fs::directory_iterator{path_}) fs::remove_all(entry.path());
     }
 
 private:
+    fs::path outer_; // holds nothing else, so that what leads out of the working folder is seen
     fs::path path_;
 };
 
