@@ -1,0 +1,55 @@
+// The track table, and the steps that look a card's and a line's track up in it.
+#include "source/track_table.h"
+#include "core/failure.h"
+#include "core/race_card.h"
+#include "source/source_tables.h"
+#include "support/fuzz_target.h"
+
+#include <string>
+
+using namespace quillon;
+
+namespace {
+
+// A line and a card on this track, from a post inside and one outside.
+void takeTrack(const TrackRecord& track) {
+    card.trackSize = track.courseSize;
+    card.stretchLength = track.stretchLength;
+    card.maxPosts = track.maxPosts;
+    screen.header.track.caption = track.trackKey;
+    sourceLine.TRACK = track.trackKey;
+    sourceLine.TRACKSIZE = track.lineCourseSize;
+    for (const Integer post : {Integer{0}, Integer{1}, Integer{9}, Integer{12}}) {
+        cursor.entry = post;
+        cursor.lineValue = "60.0";
+        sourceLine.POST = std::to_string(post);
+        attempt(Tracks);
+        attempt(PostPosition);
+        attempt(Last_PP);
+    }
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const TextView content = fuzz::textOf(data, size);
+    static bool begun = false;
+    if (!begun) fuzz::beginInput();
+    begun = true;
+
+    fuzz::put("TrackEditor.ini", content);
+    readTrackTable();
+    const TrackTable& table = trackTable();
+    const TrackTable again = trackTableOf(content);
+    fuzz::ensure(table.rows.size() == again.rows.size(), "the file gives what its bytes give");
+    for (const TrackRecord& track : table.rows) {
+        const TrackRecord* first = table.first(track.trackKey);
+        const TrackRecord* last = table.last(track.trackKey);
+        fuzz::ensure(first != nullptr && last != nullptr && first <= &track && &track <= last,
+                     "every track is found between the first and the last of its name");
+        fuzz::ensure(track.maxPosts > 0, "a track starts a horse");
+        attempt([&] { takeTrack(track); });
+    }
+    attempt(TrackData);
+    return 0;
+}
