@@ -14,6 +14,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <cstdint>
 #include <utility>
 
 namespace quillon {
@@ -165,15 +166,38 @@ std::vector<int> CellTableView::textWidths() const {
     return widths;
 }
 
-int CellTableView::widthFor(int column, int textWidth) const {
+CellTableView::ColumnWidth CellTableView::widthFor(int column, int textWidth) const {
     const auto place = static_cast<std::size_t>(model_.tableColumn(column));
     const int wanted = twips_.empty() ? plainColumn : place < twips_.size() ? twips_[place] : 0;
-    if (wanted == 0) return 0;
+    if (wanted == 0) return {};
     const auto section = static_cast<std::size_t>(column);
-    if (dragged_[section]) return appearance_.pixels(*dragged_[section]);
+    if (dragged_[section]) {
+        const int pixels = appearance_.pixels(*dragged_[section]);
+        return {pixels, pixels};
+    }
     const QString head = model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
     const int headWidth = QFontMetrics{horizontalHeader()->font()}.horizontalAdvance(head) + cellMargin;
-    return std::max({appearance_.pixels(wanted), headWidth, textWidth});
+    const int needed = std::max({headWidth, textWidth, horizontalHeader()->minimumSectionSize()});
+    return {std::max(appearance_.pixels(wanted), needed), needed};
+}
+
+// Each gives its share. Where that is not enough, the view scrolls, and all keep their widths.
+void CellTableView::fit(std::vector<ColumnWidth>& widths) const {
+    int tooWide = -viewport()->width();
+    int spare = 0;
+    for (const ColumnWidth& column : widths) {
+        tooWide += column.wanted;
+        spare += column.wanted - column.needed;
+    }
+    if (tooWide <= 0 || tooWide > spare) return;
+    int spareSoFar = 0;
+    int given = 0;
+    for (ColumnWidth& column : widths) {
+        spareSoFar += column.wanted - column.needed;
+        const int due = static_cast<int>(std::int64_t{tooWide} * spareSoFar / spare);
+        column.wanted -= due - given;
+        given = due;
+    }
 }
 
 void CellTableView::lay() {
@@ -185,8 +209,12 @@ void CellTableView::lay() {
     const int columns = model_.columnCount();
     dragged_.resize(static_cast<std::size_t>(columns));
     const std::vector<int> texts = textWidths();
+    std::vector<ColumnWidth> widths;
+    for (int column = 0; column < columns; ++column)
+        widths.push_back(widthFor(column, texts[static_cast<std::size_t>(column)]));
+    if (fitted_) fit(widths);
     for (int column = 0; column < columns; ++column) {
-        const int width = widthFor(column, texts[static_cast<std::size_t>(column)]);
+        const int width = widths[static_cast<std::size_t>(column)].wanted;
         setColumnHidden(column, width == 0);
         if (width > 0) setColumnWidth(column, width);
     }
@@ -194,6 +222,11 @@ void CellTableView::lay() {
         for (int row = 0; row < model_.rowCount(); ++row) setRowHidden(row, model_.isEmptyRow(row));
     if (frozen_) layFrozen();
     laying_ = false;
+}
+
+void CellTableView::setFitted() {
+    fitted_ = true;
+    lay();
 }
 
 void CellTableView::setEmptyRowsHidden() {
@@ -251,6 +284,11 @@ void CellTableView::layFrozen() {
     if (emptyRowsHidden_)
         for (int row = 0; row < model_.rowCount(); ++row) frozen_->setRowHidden(row, isRowHidden(row));
     updateGeometries();
+}
+
+void CellTableView::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    if (fitted_ && event->size().width() != event->oldSize().width()) lay();
 }
 
 void CellTableView::updateGeometries() {

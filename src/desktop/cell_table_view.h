@@ -83,6 +83,9 @@ public:
     void setColumnWidths(std::vector<int> twips);
     void setColumnWidths(std::span<const ViewColumn> columns);
 
+    /// Where the view is a little too narrow for all columns, they give up what their texts do not need.
+    void setFitted();
+
     void setRowHeight(int twips); ///< of all rows, head aside
     int rowPixels() const;
 
@@ -122,6 +125,7 @@ public:
 
 protected:
     void updateGeometries() override;
+    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
@@ -134,7 +138,13 @@ private:
 
     void lay();
     std::vector<int> textWidths() const;
-    int widthFor(int column, int textWidth) const;
+    struct ColumnWidth {
+        int wanted = 0;
+        int needed = 0; ///< by the texts and the head
+    };
+
+    ColumnWidth widthFor(int column, int textWidth) const;
+    void fit(std::vector<ColumnWidth>& widths) const;
     void layFrozen();
     CopiedRows copiedRows() const;
 
@@ -151,6 +161,7 @@ private:
     bool laying_ = false;
     bool emptyRowsHidden_ = false;
     bool roomForBold_ = false;
+    bool fitted_ = false;
 };
 
 } // namespace quillon

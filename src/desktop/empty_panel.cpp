@@ -31,6 +31,7 @@ constexpr std::array vendorTables{
     SourceTable{"RUNLINHR.DBF", "past lines"},   SourceTable{"DRIVERHR.DBF", "drivers"},
     SourceTable{"TRAINRHR.DBF", "trainers"},
 };
+constexpr int buttonMargins = 480;   ///< twips, left and right of a caption together
 constexpr std::size_t raceTable = 0; ///< there is no card without it
 
 bool isThere(const char* file) {
@@ -124,6 +125,9 @@ void EmptyPanel::lay() {
     for (QPushButton* button : {start_, open_, recall_}) {
         button->setFont(appearance_.viewFont(12, button == start_));
         button->setMinimumHeight(appearance_.pixels(480));
+        // The style leaves no room beside a caption in a larger font.
+        button->setMinimumWidth(button->fontMetrics().horizontalAdvance(button->text()) +
+                                appearance_.pixels(buttonMargins));
     }
     start_->setMinimumWidth(appearance_.pixels(1800));
 }

@@ -73,6 +73,8 @@ void HeaderPanel::refresh() {
                                  distance.isEmpty() ? QString{} : tr("%1 Mi").arg(distance),
                                  named({}, header.purse), named(tr("CR: "), header.cr)}));
     track_->setText(joined({label(header.track), label(header.date), shown(header.trackInfo).simplified()}));
+    conditions_->setToolTip(conditions_->text());
+    track_->setToolTip(track_->text());
     classText_->setText(shown(header.classText).simplified());
     classText_->setToolTip(classText_->text());
     wagering_->setText(shown(header.wagering).simplified());

@@ -61,24 +61,31 @@ void MainWindow::buildPages() {
     column->addWidget(pages_, 1);
     column->addWidget(find_);
 
-    racePage_ = new QWidget{pages_};
-    auto* race = new QVBoxLayout{racePage_};
+    auto* racePage = new QWidget{pages_};
+    auto* race = new QVBoxLayout{racePage};
     race->setContentsMargins(0, 0, 0, 0);
     race->setSpacing(4);
-    header_ = new HeaderPanel{appearance_, racePage_};
-    race_ = new RacePanel{runner_, appearance_, racePage_};
-    board_ = new BoardPanel{runner_, appearance_, racePage_};
-    pastLines_ = new PastLinesPanel{runner_, appearance_, racePage_};
+    header_ = new HeaderPanel{appearance_, racePage};
+    race_ = new RacePanel{runner_, appearance_, racePage};
+    board_ = new BoardPanel{runner_, appearance_, racePage};
+    pastLines_ = new PastLinesPanel{runner_, appearance_, racePage};
     race->addWidget(header_);
     race->addWidget(race_);
     race->addWidget(board_);
     race->addWidget(pastLines_, 1);
+    // On a small screen, or much enlarged, the page scrolls.
+    racePage_ = new QScrollArea{pages_};
+    racePage_->setObjectName("RacePage");
+    racePage_->setWidget(racePage);
+    racePage_->setWidgetResizable(true);
+    racePage_->setFrameShape(QFrame::NoFrame);
+    racePage_->setFocusPolicy(Qt::NoFocus);
 
     analysis_ = new AnalysisPanel{runner_, appearance_, pages_};
     overview_ = new OverviewPanel{runner_, appearance_, pages_};
     empty_ = new EmptyPanel{runner_, appearance_, pages_};
-    for (QWidget* page : {racePage_, static_cast<QWidget*>(analysis_), static_cast<QWidget*>(overview_),
-                          static_cast<QWidget*>(empty_)})
+    for (QWidget* page : {static_cast<QWidget*>(racePage_), static_cast<QWidget*>(analysis_),
+                          static_cast<QWidget*>(overview_), static_cast<QWidget*>(empty_)})
         pages_->addWidget(page);
     setCentralWidget(centre);
     statusBar(); // hints of the menus

@@ -5,6 +5,7 @@
 #include "desktop/command_runner.h"
 
 #include <QMainWindow>
+#include <QScrollArea>
 #include <QStackedWidget>
 
 namespace quillon {
@@ -76,7 +77,7 @@ private:
     FaultJournalDialog* journal_ = nullptr;
     FindBar* find_ = nullptr;
     QStackedWidget* pages_ = nullptr;
-    QWidget* racePage_ = nullptr;
+    QScrollArea* racePage_ = nullptr;
     QAction* overviewAction_ = nullptr;
     bool overviewWanted_ = false;
     Text raceShown_; ///< at the last refresh

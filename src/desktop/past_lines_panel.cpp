@@ -8,6 +8,7 @@
 #include "rating/race_views.h"
 #include "results/board.h"
 
+#include <QDate>
 #include <QHBoxLayout>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -21,6 +22,9 @@ constexpr int headingPoints = 11;
 constexpr int legendPoints = 9;
 constexpr int lineButtons = 13;
 constexpr int lineButtonTwips = 700;
+constexpr int recentDays = 33;
+constexpr int olderDays = 50;
+constexpr int leastHeight = 2400; ///< twips
 
 // Marks in front of a line's number.
 constexpr QChar programsMark{0x25CF};   // a disc: the line in use, chosen by the program
@@ -28,6 +32,14 @@ constexpr QChar usersMark{0x25B6};      // a pointer: the line in use, taken by 
 constexpr QChar passedOverMark{0x25CB}; // a ring: the program's line, where the user took another
 
 const Grid& entryLines() { return theScreen.dataView[pastPerformanceView]; }
+
+// "33 days: since 20260209", the dates as the lines have them.
+QString withLimit(const QString& shade, int days) {
+    constexpr const char* format = "yyyyMMdd";
+    const QDate day = QDate::fromString(shown(theScreen.header.date.caption).trimmed(), format);
+    return day.isValid() ? EntryLinesFrame::tr("%1: since %2").arg(shade, day.addDays(-days).toString(format))
+                         : shade;
+}
 
 /// The number that a line is taken by; empty where there is no line.
 QString numberIn(int row) {
@@ -68,9 +80,11 @@ QLabel* swatch(const char* name, Colour colour, QWidget* parent) {
 ShadeLegend::ShadeLegend(QWidget* parent) : QWidget{parent} {
     recent_ = swatch("RecentLines", recentYellow, this);
     recent_->setToolTip(tr("The lines that the rating looks at first: at most 33 days old on the day of the "
-                           "card. Where these don't do, older ones are added."));
+                           "card. Where these don't do, older ones are added. The shade begins with an "
+                           "entry's latest line whatever its age, and may take in one line more."));
     older_ = swatch("OlderLines", olderCyan, this);
-    older_->setToolTip(tr("The lines behind them that are at most 50 days old"));
+    older_->setToolTip(tr("The lines behind them that are at most 50 days old. The shade may take in one "
+                          "line more."));
     auto* row = new QHBoxLayout{this};
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(4);
@@ -78,17 +92,13 @@ ShadeLegend::ShadeLegend(QWidget* parent) : QWidget{parent} {
     row->addWidget(older_);
 }
 
-void ShadeLegend::count(const Grid& lines) {
-    int recent = 0;
-    int older = 0;
-    for (int row = 1; row < lines.rows(); ++row) {
-        const auto& shade = lines.read(row, dataColumn::date).background;
-        if (shade == recentYellow) ++recent;
-        if (shade == olderCyan) ++older;
-    }
-    recent_->setText(tr("at most 33 days: %1").arg(recent));
-    older_->setText(tr("34 to 50 days: %1").arg(older));
-    setVisible(recent + older > 0);
+void ShadeLegend::showFor(const Grid& lines) {
+    recent_->setText(withLimit(tr("33 days"), recentDays));
+    older_->setText(withLimit(tr("50 days"), olderDays));
+    bool anyShade = false;
+    for (int row = 1; row < lines.rows() && !anyShade; ++row)
+        anyShade = lines.read(row, dataColumn::date).background.has_value();
+    setVisible(anyShade);
 }
 
 void ShadeLegend::setTextFont(const QFont& font) {
@@ -156,6 +166,7 @@ void EntryLinesFrame::buildTable() {
     for (const ViewColumn& column : lineViewColumns()) widths.push_back(column.width);
     widths.front() = 0; // the names, which the frame's heading tells
     table_->setColumnWidths(std::move(widths));
+    table_->setFitted();
     table_->cells().setTailHidden(true);
     table_->show(&entryLines());
 }
@@ -183,7 +194,7 @@ void EntryLinesFrame::refresh() {
     heading_->setText(shown(theScreen.pastPerformanceHeading));
     heading_->setToolTip(heading_->text());
     table_->refresh();
-    shades_->count(entryLines());
+    shades_->showFor(entryLines());
     const LineInUse used = lineInUse();
     refreshUse(used);
     for (int row = 1; row <= lineButtons; ++row) refreshButton(row, used);
@@ -235,6 +246,7 @@ QWidget* PastLinesPanel::buildRacePage() {
     raceTable_->setObjectName("RaceLines");
     raceTable_->setFonts(headPoints, bodyPoints, false);
     raceTable_->setColumnWidths(lineViewColumns());
+    raceTable_->setFitted();
     raceTable_->cells().setTailHidden(true);
     auto* head = new QHBoxLayout;
     head->addWidget(raceHeading_, 1);
@@ -248,6 +260,7 @@ QWidget* PastLinesPanel::buildRacePage() {
 }
 
 void PastLinesPanel::lay() {
+    setMinimumHeight(appearance_.pixels(leastHeight));
     raceHeading_->setFont(appearance_.viewFont(headingPoints, true));
     raceShades_->setTextFont(appearance_.viewFont(legendPoints, false));
 }
@@ -270,7 +283,7 @@ void PastLinesPanel::refreshRacePage() {
     race_ = race;
     raceHeading_->setText(race > 0 ? tr("Past lines of race %1").arg(race) : QString{});
     raceShades_->setVisible(false);
-    if (race > 0) raceShades_->count(theScreen.dataView[static_cast<std::size_t>(race)]);
+    if (race > 0) raceShades_->showFor(theScreen.dataView[static_cast<std::size_t>(race)]);
 }
 
 } // namespace quillon

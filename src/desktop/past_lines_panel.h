@@ -18,14 +18,14 @@ namespace quillon {
 class CellTableView;
 class RowButtons;
 
-/// The two shades of past lines, and how many lines of a view have each.
+/// The two shades of past lines, and the days that they reach back to.
 class ShadeLegend : public QWidget {
     Q_OBJECT
 
 public:
     explicit ShadeLegend(QWidget* parent = nullptr);
 
-    void count(const Grid& lines);
+    void showFor(const Grid& lines);
     void setTextFont(const QFont& font);
 
 private:

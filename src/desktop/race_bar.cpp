@@ -2,12 +2,17 @@
 
 #include "desktop/shown_text.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
+
+#include <algorithm>
 
 namespace quillon {
 namespace {
 
 constexpr int raceButtonTwips = 480;
+constexpr int captionMargin = 8; ///< pixels, both sides together
+constexpr int spacing = 3;       ///< pixels
 const char* const currentStyle =
     "QPushButton { background-color: #ff0000; color: white; border: 1px solid #900000; border-radius: 3px;"
     " padding: 3px; }"
@@ -16,10 +21,10 @@ const char* const currentStyle =
 } // namespace
 
 RaceBar::RaceBar(CommandRunner& runner, Appearance& appearance, QWidget* parent)
-    : QWidget{parent}, runner_{runner}, appearance_{appearance} {
+    : QWidget{parent}, runner_{runner}, appearance_{appearance}, strip_{new QWidget{this}} {
     auto* row = new QHBoxLayout{this};
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(3);
+    row->setSpacing(spacing);
 
     start_ = new QPushButton{this};
     start_->setObjectName("Start");
@@ -45,28 +50,66 @@ RaceBar::RaceBar(CommandRunner& runner, Appearance& appearance, QWidget* parent)
     next_ = arrow(Qt::RightArrow, "Next", tr("Next race"),
                   tr("Store the board and go to the next race (Alt+Right)"));
 
+    for (QWidget* button :
+         {static_cast<QWidget*>(start_), static_cast<QWidget*>(previous_), static_cast<QWidget*>(next_)})
+        row->setAlignment(button, Qt::AlignTop);
+    buildRaces();
+    row->addWidget(strip_, 1, Qt::AlignTop);
+    connect(&appearance_, &Appearance::changed, this, &RaceBar::lay);
+    lay();
+}
+
+void RaceBar::buildRaces() {
     for (int n = 1; n < static_cast<int>(theScreen.raceButtons.size()); ++n) {
-        auto* button = new QPushButton{this};
+        auto* button = new QPushButton{strip_};
         button->setObjectName(QString{"RaceButton%1"}.arg(n));
         button->setProperty("command", "RaceButton");
         button->setToolTip(
             tr("Show race %1. The arrows keep what was typed on the board; this button does not.").arg(n));
         connect(button, &QPushButton::clicked, this,
                 [this, n] { runner_.run("RaceButton", numberArgument(n)); });
-        row->addWidget(button);
         races_.push_back(button);
     }
-    row->addStretch(1);
-    connect(&appearance_, &Appearance::changed, this, &RaceBar::lay);
-    lay();
+    strip_->installEventFilter(this);
 }
 
 void RaceBar::lay() {
-    for (QPushButton* button : races_) {
-        button->setFont(appearance_.viewFont(10, true));
-        button->setFixedWidth(appearance_.pixels(raceButtonTwips) + 8);
-    }
+    for (QPushButton* button : races_) button->setFont(appearance_.viewFont(10, true));
     start_->setFont(appearance_.viewFont(10, true));
+    placeRaces();
+}
+
+// As wide as designed, else as all go into one row, but not below their captions.
+int RaceBar::widthOfRaces(const std::vector<QPushButton*>& races) const {
+    int narrowest = 1;
+    for (const QPushButton* button : races)
+        narrowest =
+            std::max(narrowest, button->fontMetrics().horizontalAdvance(button->text()) + captionMargin);
+    const int inOneRow = (strip_->width() + spacing) / static_cast<int>(races.size()) - spacing;
+    const int designed = appearance_.pixels(raceButtonTwips) + captionMargin;
+    return std::max(narrowest, std::min(designed, inOneRow));
+}
+
+// On a narrow or much enlarged window the races go on in further rows, rather than out of the window.
+void RaceBar::placeRaces() {
+    std::vector<QPushButton*> races;
+    for (QPushButton* button : races_)
+        if (button->isVisibleTo(strip_)) races.push_back(button);
+    const int height = start_->sizeHint().height();
+    if (races.empty()) return strip_->setFixedHeight(height);
+    const int width = widthOfRaces(races);
+    const int perRow = std::max(1, (strip_->width() + spacing) / (width + spacing));
+    int at = 0;
+    for (QPushButton* button : races) {
+        button->setGeometry(at % perRow * (width + spacing), at / perRow * (height + spacing), width, height);
+        ++at;
+    }
+    strip_->setFixedHeight((at - 1) / perRow * (height + spacing) + height);
+}
+
+bool RaceBar::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == strip_ && event->type() == QEvent::Resize) placeRaces();
+    return QWidget::eventFilter(watched, event);
 }
 
 void RaceBar::refresh() {
@@ -78,14 +121,16 @@ void RaceBar::refresh() {
     for (std::size_t i = 0; i < races_.size(); ++i) {
         const Button& button = theScreen.raceButtons[i + 1];
         QPushButton& race = *races_[i];
-        anyRace = anyRace || button.visible;
-        race.setVisible(button.visible);
+        const bool visible = button.visible && cardIsOpen(); // a closed card leaves them as they were
+        anyRace = anyRace || visible;
+        race.setVisible(visible);
         race.setText(shown(button.caption));
         race.setAccessibleName(tr("Race %1").arg(shown(button.caption)));
         race.setStyleSheet(button.current ? currentStyle : "");
     }
     previous_->setEnabled(anyRace);
     next_->setEnabled(anyRace);
+    placeRaces();
 }
 
 } // namespace quillon

@@ -20,15 +20,22 @@ public:
 
     void refresh();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    void buildRaces();
     void lay();
+    void placeRaces();
+    int widthOfRaces(const std::vector<QPushButton*>& races) const;
 
     CommandRunner& runner_;
     Appearance& appearance_;
     QPushButton* start_;
     QToolButton* previous_;
     QToolButton* next_;
-    std::vector<QPushButton*> races_; ///< race n at n - 1
+    QWidget* strip_;
+    std::vector<QPushButton*> races_; ///< race n at n - 1, in the strip
 };
 
 } // namespace quillon

@@ -81,11 +81,13 @@ void RacePanel::buildTable() {
                             "Enter on a name shows the past lines."));
     table_->setFonts(headPoints, bodyPoints, true);
     table_->setColumnWidths(entryViewColumns());
+    table_->setFitted();
     table_->setRowHeight(rowTwips);
     table_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table_->installEventFilter(this);
     table_->cells().setEditing([this](int row, int column) { return mayEdit(row, column); },
                                [this](int row, int column, const Text& text) { edit(row, column, text); });
+    connect(table_->horizontalScrollBar(), &QScrollBar::rangeChanged, this, &RacePanel::holdHeight);
     connect(table_, &QTableView::clicked, this, [this](const QModelIndex& cell) {
         if (table_->cells().tableColumn(cell) == raceColumn::driver &&
             QApplication::keyboardModifiers() == Qt::NoModifier)
