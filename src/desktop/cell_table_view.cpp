@@ -9,8 +9,10 @@
 #include <QElapsedTimer>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QToolTip>
 
 #include <algorithm>
@@ -22,7 +24,8 @@ namespace {
 
 constexpr int cellMargin = 4; ///< pixels on both sides of a text
 constexpr int measuredRows = 60;
-constexpr int plainColumn = 900; ///< twips of a column that has no width of its own
+constexpr int plainColumn = 900;  ///< twips of a column that has no width of its own
+constexpr int longestTyped = 255; ///< as in the boxes: a pasted megabyte would make its column miles wide
 
 /// The number a text begins with, behind blanks, "$" and a sign; nothing where it is no number.
 std::optional<double> leadingNumber(const QString& text) {
@@ -55,6 +58,19 @@ std::vector<int> columnsIn(const QItemSelection& ranges, int row) {
     return columns;
 }
 
+/// Edits a cell in its place.
+class CellDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override {
+        QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+        if (auto* line = qobject_cast<QLineEdit*>(editor)) line->setMaxLength(longestTyped);
+        return editor;
+    }
+};
+
 } // namespace
 
 bool NumberSortProxy::lessThan(const QModelIndex& left, const QModelIndex& right) const {
@@ -75,6 +91,7 @@ CellTableView::CellTableView(Appearance& appearance, const QString& name, QWidge
     : QTableView{parent}, appearance_{appearance} {
     setAccessibleName(name);
     setModel(&model_);
+    setItemDelegate(new CellDelegate{this});
     setSelectionMode(ExtendedSelection);
     setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
     setHorizontalScrollMode(ScrollPerPixel);

@@ -244,6 +244,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     keepLook();
     event->accept();
     stars_->hide(); // its close control goes back to the races
+    choices_->hide();
     QApplication::quit();
 }
 

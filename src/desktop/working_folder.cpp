@@ -8,6 +8,7 @@
 #include <QStandardPaths>
 
 #include <array>
+#include <system_error>
 
 namespace quillon {
 namespace {
@@ -42,7 +43,10 @@ void enterWorkingFolder() {
 }
 
 QString sourceFolderOnDisk() {
-    const auto folder = std::filesystem::absolute(folderOnDisk(Folder::sourceTables)).u8string();
+    const std::filesystem::path place = folderOnDisk(Folder::sourceTables);
+    std::error_code error; // a working folder that is gone has no path
+    const std::filesystem::path whole = std::filesystem::absolute(place, error);
+    const auto folder = (error ? place : whole).u8string();
     const auto* bytes = reinterpret_cast<const char*>(folder.data());
     return QDir::toNativeSeparators(QString::fromUtf8(bytes, static_cast<qsizetype>(folder.size())));
 }
