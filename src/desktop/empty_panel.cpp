@@ -146,8 +146,8 @@ void EmptyPanel::lookForTables() {
     Tables there{};
     for (std::size_t i = 0; i < tableCount; ++i) {
         there[i] = isThere(vendorTables.at(i).file);
-        const QString state =
-            there[i] ? QString{tick} + "  %1 (%2)" : QString{cross} + tr("  %1 (%2) is missing");
+        QString state = QString{tick} + "  %1 (%2)";
+        if (!there[i]) state = QString{cross} + tr("  %1 (%2) is missing");
         tables_[i]->setText(state.arg(vendorTables.at(i).file, tr(vendorTables.at(i).holds)));
         tables_[i]->setEnabled(there[i]);
     }

@@ -28,7 +28,8 @@ protected:
     static std::vector<std::string> filesUnder(const char* folder) {
         std::vector<std::string> names;
         if (fs::is_directory(folder))
-            for (const auto& file : fs::directory_iterator{folder}) names.push_back(file.path().filename().string());
+            for (const auto& file : fs::directory_iterator{folder})
+                names.push_back(file.path().filename().string());
         std::sort(names.begin(), names.end());
         return names;
     }

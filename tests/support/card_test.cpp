@@ -28,7 +28,8 @@ void clearAway(const fs::path& drive) {
 
 fs::path freshFolder() {
     const fs::path drive = "C:\\";
-    if (!fs::is_directory(drive / partsOfTheDrive[0])) throw std::runtime_error("drive C: is not made for tests");
+    if (!fs::is_directory(drive / partsOfTheDrive[0]))
+        throw std::runtime_error("drive C: is not made for tests");
     clearAway(drive);
     return drive;
 }
