@@ -156,8 +156,9 @@ protected:
     }
 
     /// The folder as the fault left it serves the next console as any other does.
-    void checkNextRun() const {
+    void checkNextRun() {
         const Files left = filesBelow(work_);
+        if (!served_.insert(left).second) return; // many faults leave the same files
         const Outcome next = runConsole(work_, script_);
         EXPECT_EQ(0, next.status);
         EXPECT_TRUE(next.transcript == undisturbed_.transcript || next.transcript == again_.transcript)
@@ -191,6 +192,7 @@ protected:
     Allowed allowed_;
     Outcome undisturbed_, again_;
     std::size_t callsBefore_ = 0;
+    std::set<Files> served_; ///< what a next console was tried on
 };
 
 TEST_P(EachFault, LeavesEveryFileWholeAndTheConsoleGoingOn) {
