@@ -37,5 +37,5 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 file(READ debian/description CPACK_DEBIAN_PACKAGE_DESCRIPTION)
 if(TARGET quillon)
   # The window draws SVG icons of themes and reads fonts of the system where there are any.
-  set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "hicolor-icon-theme, fonts-dejavu-core, xdg-utils")
+  set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "hicolor-icon-theme, fonts-dejavu-core, fonts-urw-base35, xdg-utils")
 endif()

@@ -29,7 +29,7 @@ constexpr int rows = 4;
 constexpr int numberTwips = 600;
 constexpr int payoffTwips = 1020;
 constexpr int exoticTwips = 1200;
-constexpr int wideTwips = 2400;
+constexpr int wideTwips = 2000;
 
 struct RunnerBox {
     int row;

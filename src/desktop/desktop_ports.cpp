@@ -119,6 +119,7 @@ void DesktopPorts::fillDialogs() {
     };
     ports.input = [this](const Text& text, const Text& title) { return askForText(front(), text, title); };
     ports.error = [this](const Text& text) {
+        errorShown_ = true;
         ask(front(), QMessageBox::Critical, text, {}, QMessageBox::Ok, QMessageBox::Ok);
     };
     ports.beep = [] { QApplication::beep(); };

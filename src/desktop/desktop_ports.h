@@ -53,6 +53,10 @@ public:
     bool builtInViewer() const { return builtInViewer_; }
     void setBuiltInViewer(bool wanted);
 
+    /// The running command, or the last, has told of an error.
+    bool errorShown() const { return errorShown_; }
+    void commandBegins() { errorShown_ = false; }
+
     /// The command that may have asked for progress or paper has ended.
     void commandEnded();
 
@@ -72,6 +76,7 @@ private:
     WorkProgress progress_;
     bool builtInViewer_ = true;
     bool ended_ = false;
+    bool errorShown_ = false;
 };
 
 } // namespace quillon

@@ -39,7 +39,9 @@ MainWindow::MainWindow(Appearance& appearance, QWidget* parent)
     connectPanels();
     stars_ = new StarsWindow{runner_, appearance_, this};
     choices_ = new ChoiceDialog{runner_, appearance_, this};
+    connect(&runner_, &CommandRunner::aboutToRun, ports_, &DesktopPorts::commandBegins);
     connect(&runner_, &CommandRunner::ran, ports_, &DesktopPorts::commandEnded);
+    connect(&runner_, &CommandRunner::ran, this, &MainWindow::tellSaved);
     connect(&runner_, &CommandRunner::ran, this, &MainWindow::refresh);
     connect(&runner_, &CommandRunner::ran, this, &MainWindow::takeUpEnd, Qt::QueuedConnection);
     resize(appearance_.pixels(theScreen.width), appearance_.pixels(theScreen.height));
@@ -232,6 +234,13 @@ void MainWindow::refresh() {
     overviewAction_->setEnabled(cardIsOpen());
     overviewAction_->setChecked(overviewWanted_);
     pages_->setCurrentWidget(pageWanted());
+}
+
+// A save that went well says nothing of its own.
+void MainWindow::tellSaved(const QString& command) {
+    constexpr int aGlance = 8000; // milliseconds
+    if (command != "Save" || !cardIsOpen() || ports_->errorShown()) return;
+    statusBar()->showMessage(tr("The card is saved as %1").arg(shown(card.cardFileName)), aGlance);
 }
 
 void MainWindow::takeUpEnd() {

@@ -56,6 +56,7 @@ private:
     void restoreLook();
     void keepLook() const;
     void takeUpEnd();
+    void tellSaved(const QString& command);
     void leaveOverviewWithTheRace();
     QWidget* pageWanted() const;
 

@@ -76,6 +76,7 @@ void RaceBar::buildRaces() {
 void RaceBar::lay() {
     for (QPushButton* button : races_) button->setFont(appearance_.viewFont(10, true));
     start_->setFont(appearance_.viewFont(10, true));
+    for (QToolButton* arrow : {previous_, next_}) arrow->setFixedHeight(start_->sizeHint().height());
     placeRaces();
 }
 

@@ -63,6 +63,22 @@ TEST_F(CellTableTest, TheHeadRowHeadsTheColumnsAndTheCornerIsRed) {
               view.model()->headerData(0, Qt::Horizontal, Qt::ForegroundRole).value<QBrush>().color());
 }
 
+// 6000 and twice 3000 twips: 400, 200 and 200 pixels at 96 dots an inch.
+TEST_F(CellTableTest, ColumnsGiveUpSpareRoomWhereTheViewIsALittleTooNarrow) {
+    view.setColumnWidths({6000, 3000, 3000});
+    view.setFitted();
+    view.resize(1000, 300);
+    view.setVisible(true); // sends the sizes
+    const auto widths = [&] { return view.columnWidth(0) + view.columnWidth(1) + view.columnWidth(2); };
+    const int designed = appearance.pixels(6000) + 2 * appearance.pixels(3000);
+    ASSERT_EQ(designed, widths());
+    view.resize(700, 300);
+    EXPECT_EQ(view.viewport()->width(), widths());
+    EXPECT_GE(view.columnWidth(0), view.fontMetrics().horizontalAdvance("Blue Ribbon Bess"));
+    view.resize(100, 300); // too narrow for the texts: it scrolls
+    EXPECT_EQ(designed, widths());
+}
+
 TEST_F(CellTableTest, RowsBehindTheLastTextAreLeftAwayWhereAsked) {
     EXPECT_EQ(5, view.model()->rowCount());
     view.cells().setTailHidden(true);

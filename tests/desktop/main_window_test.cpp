@@ -8,6 +8,8 @@
 #include <QRegularExpression>
 #include <QSettings>
 #include <QStackedWidget>
+#include <QStatusBar>
+#include <QTableView>
 
 #include <set>
 
@@ -44,6 +46,50 @@ TEST_F(MainWindowTest, EveryMenuItemHasItsCommandsCaptionAKeyAndAHint) {
         EXPECT_EQ(QString{command.caption}.simplified(), caption) << command.name;
         EXPECT_FALSE(action->statusTip().isEmpty()) << command.name;
     }
+}
+
+// The sample card has 12 races, the most that a card can have buttons for is 23.
+TEST_F(MainWindowTest, OnASmallScreenAndEnlargedEveryRaceButtonStaysInTheWindow) {
+    startInWindow();
+    for (int n = 13; n <= 23; ++n) {
+        screen.raceButtons.at(static_cast<std::size_t>(n)).visible = true;
+        screen.raceButtons.at(static_cast<std::size_t>(n)).caption = std::to_string(n);
+    }
+    window->refresh();
+    appearance.setZoom(200);
+    window->resize(800, 600);
+    QTest::qWait(50);
+    EXPECT_EQ(QSize(800, 600), window->size());
+    QRegion taken;
+    for (int n = 1; n <= 23; ++n) {
+        const auto& button = child<QAbstractButton>(*window, QString{"RaceButton%1"}.arg(n));
+        const QRect place{button.mapTo(&*window, QPoint{}), button.size()};
+        EXPECT_TRUE(window->rect().contains(place)) << n;
+        EXPECT_FALSE(taken.intersects(place)) << n;
+        EXPECT_GT(place.width(), button.fontMetrics().horizontalAdvance(button.text())) << n;
+        taken += place;
+    }
+}
+
+TEST_F(MainWindowTest, InTheDefaultWindowTheRatingsAreInSight) {
+    startInWindow();
+    QTest::qWait(50);
+    const auto& table = child<QTableView>(*window, "RaceView");
+    const int last = table.model()->columnCount() - 1;
+    EXPECT_LE(table.columnViewportPosition(last) + table.columnWidth(last), table.viewport()->width());
+}
+
+TEST_F(MainWindowTest, ASaveIsToldInTheStatusBarUnlessItFailed) {
+    startInWindow();
+    choose("Save");
+    EXPECT_EQ("The card is saved as MVR_20260314.pmd", window->statusBar()->currentMessage().toStdString());
+}
+
+TEST_F(MainWindowTest, AClosedCardLeavesNoRaceButtons) {
+    startInWindow();
+    ASSERT_TRUE(child<QAbstractButton>(*window, "RaceButton2").isVisible());
+    choose("CloseRC");
+    EXPECT_FALSE(child<QAbstractButton>(*window, "RaceButton2").isVisible());
 }
 
 TEST_F(MainWindowTest, NoLetterIsUnderlinedTwiceInAMenuAndNoShortcutGivenTwice) {

@@ -81,7 +81,7 @@ public:
         run("RaceButton", numberArgument(3));
         run("EntryButton", numberArgument(2));
         take("past-lines");
-        run("Command3", numberArgument(1));
+        run("Command3", numberArgument(1)); // line 2 is the program's own
         take("line-taken");
         run("Command3", numberArgument(0));
         run("Command4", numberArgument(4));
