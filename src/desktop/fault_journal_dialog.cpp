@@ -49,6 +49,10 @@ FaultJournalDialog::FaultJournalDialog(Appearance& appearance, QWidget* parent)
     refresh();
 }
 
+// The table shows our grid until its end, so it goes first: a dialog that is open hides its children at the
+// very last.
+FaultJournalDialog::~FaultJournalDialog() { delete table_; }
+
 void FaultJournalDialog::build() {
     auto* column = new QVBoxLayout{this};
     auto* purpose =

@@ -15,6 +15,7 @@ class FaultJournalDialog : public QDialog {
 
 public:
     explicit FaultJournalDialog(Appearance& appearance, QWidget* parent = nullptr);
+    ~FaultJournalDialog() override;
 
     /// Takes up the journal as it stands, the newest line at the bottom and in sight.
     void refresh();

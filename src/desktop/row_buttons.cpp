@@ -115,6 +115,7 @@ bool RowButtons::walk(const Place& from, int key) {
 }
 
 bool RowButtons::eventFilter(QObject* watched, QEvent* event) {
+    if (!tableLives_) return false;
     if (watched == table_.viewport()) {
         if (movesRows(event->type())) align();
         return false;

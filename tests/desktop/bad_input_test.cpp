@@ -9,6 +9,7 @@
 #include "rating/race_views.h"
 #include "results/board.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QInputDialog>
 #include <QLabel>
@@ -302,6 +303,12 @@ TEST_F(ClosingTest, WhileWorkRunsIsNotTakenUp) {
     EXPECT_TRUE(window->isVisible());
     expectShowsScreen(*window);
     closeWithYes();
+}
+
+TEST_F(ClosingTest, WithTheFaultJournalOpen) {
+    child<QAction>(*window, "FaultJournal").trigger();
+    ASSERT_TRUE(child<QWidget>(*window, "FaultJournalDialog").isVisible());
+    window.reset();
 }
 
 TEST_F(ClosingTest, ByItsEndWithoutClosingFirst) {

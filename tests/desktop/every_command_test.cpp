@@ -302,7 +302,7 @@ public:
         putArchive();
         pickInMenu("ALL");
         EXPECT_TRUE(child<QWidget>(*window, "ProfileTable").isVisible());
-        EXPECT_EQ("2 Race Cards", textIn("ProfileTable", 9, 0));
+        EXPECT_EQ("5 Race Cards", textIn("ProfileTable", 9, 0));
     }
     void selectTrack() {
         putArchive();
