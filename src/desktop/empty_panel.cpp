@@ -51,7 +51,7 @@ EmptyPanel::EmptyPanel(CommandRunner& runner, Appearance& appearance, QWidget* p
     buildButtons();
     auto* column = new QVBoxLayout{this};
     auto* tables = new QGridLayout;
-    tables->setHorizontalSpacing(24);
+    tables->setVerticalSpacing(4);
     for (std::size_t i = 0; i < tableCount; ++i)
         tables->addWidget(tables_[i], static_cast<int>(i), 0, Qt::AlignLeft);
     auto* tableRow = new QHBoxLayout;
@@ -123,9 +123,8 @@ void EmptyPanel::lay() {
     notice_->setFont(appearance_.viewFont(12, true));
     for (QPushButton* button : {start_, open_, recall_}) {
         button->setFont(appearance_.viewFont(12, button == start_));
-        button->setMinimumHeight(appearance_.pixels(480));
+        button->setMinimumSize(appearance_.pixels(2550), appearance_.pixels(510));
     }
-    start_->setMinimumWidth(appearance_.pixels(1800));
 }
 
 void EmptyPanel::refresh() {
@@ -145,7 +144,6 @@ void EmptyPanel::lookForTables() {
         const QString state =
             there[i] ? QString{tick} + "  %1 (%2)" : QString{cross} + tr("  %1 (%2) is missing");
         tables_[i]->setText(state.arg(vendorTables.at(i).file, tr(vendorTables.at(i).holds)));
-        tables_[i]->setEnabled(there[i]);
     }
     if (there != there_) notice_->clear(); // it spoke of the tables as they were
     there_ = there;
