@@ -106,7 +106,7 @@ void EmptyPanel::buildButtons() {
     };
     start_ = button("EmptyStart", {}, tr("Load and rate the card of the vendor's tables (F5)"));
     start_->setProperty("command", "Start");
-    open_ = button("OpenFolder", tr("Open the &Folder"), tr("Show the folder in the file manager"));
+    open_ = button("OpenFolder", tr("&Open the Folder"), tr("Show the folder in the file manager"));
     recall_ = button("EmptyRecall", tr("&Recall a Saved Card"), tr("Open a card that was saved before"));
     recall_->setProperty("command", "RecallRaceCard");
     connect(start_, &QPushButton::clicked, this, [this] { runner_.run("Start"); });
