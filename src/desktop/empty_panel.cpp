@@ -52,7 +52,7 @@ EmptyPanel::EmptyPanel(CommandRunner& runner, Appearance& appearance, QWidget* p
     buildButtons();
     auto* column = new QVBoxLayout{this};
     auto* tables = new QGridLayout;
-    tables->setHorizontalSpacing(24);
+    tables->setVerticalSpacing(4);
     for (std::size_t i = 0; i < tableCount; ++i)
         tables->addWidget(tables_[i], static_cast<int>(i), 0, Qt::AlignLeft);
     auto* tableRow = new QHBoxLayout;
@@ -107,7 +107,7 @@ void EmptyPanel::buildButtons() {
     };
     start_ = button("EmptyStart", {}, tr("Load and rate the card of the vendor's tables (F5)"));
     start_->setProperty("command", "Start");
-    open_ = button("OpenFolder", tr("Open the &Folder"), tr("Show the folder in the file manager"));
+    open_ = button("OpenFolder", tr("&Open the Folder"), tr("Show the folder in the file manager"));
     recall_ = button("EmptyRecall", tr("&Recall a Saved Card"), tr("Open a card that was saved before"));
     recall_->setProperty("command", "RecallRaceCard");
     connect(start_, &QPushButton::clicked, this, [this] { runner_.run("Start"); });
@@ -129,7 +129,6 @@ void EmptyPanel::lay() {
         button->setMinimumWidth(button->fontMetrics().horizontalAdvance(button->text()) +
                                 appearance_.pixels(buttonMargins));
     }
-    start_->setMinimumWidth(appearance_.pixels(1800));
 }
 
 void EmptyPanel::refresh() {
@@ -149,7 +148,6 @@ void EmptyPanel::lookForTables() {
         QString state = QString{tick} + "  %1 (%2)";
         if (!there[i]) state = QString{cross} + tr("  %1 (%2) is missing");
         tables_[i]->setText(state.arg(vendorTables.at(i).file, tr(vendorTables.at(i).holds)));
-        tables_[i]->setEnabled(there[i]);
     }
     if (there != there_) notice_->clear(); // it spoke of the tables as they were
     there_ = there;

@@ -6,10 +6,12 @@
 #include "results/board.h"
 #include "results/race_display.h"
 
+#include <QDate>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QToolTip>
 #include <QVBoxLayout>
 
@@ -28,10 +30,15 @@ bool same(const Grid& left, const Grid& right) {
     return true;
 }
 
+QString cardDate() {
+    const QString stored = shown(card.cardDate).trimmed();
+    const QDate date = QDate::fromString(stored, QStringLiteral("yyyyMMdd"));
+    return date.isValid() ? QLocale{QLocale::English}.toString(date, QLocale::LongFormat) : stored;
+}
+
+// The track's description is a row of a table, columns blanks apart.
 QString headingOf(int races) {
-    const Label& date = theScreen.header.date;
-    const QString track = shown(card.raceInfo[{1}].trackInfo).simplified();
-    QStringList parts{track, date.visible ? shown(date.caption).trimmed() : QString{},
+    QStringList parts{shown(card.raceInfo[{1}].trackInfo).simplified(), cardDate(),
                       races == 1 ? OverviewPanel::tr("1 race") : OverviewPanel::tr("%1 races").arg(races)};
     parts.removeAll(QString{});
     return parts.join(QStringLiteral("     "));

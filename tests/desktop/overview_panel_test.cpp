@@ -46,6 +46,19 @@ TEST_F(OverviewPanelTest, ShowsARowARace) {
     EXPECT_TRUE(side & Qt::AlignRight);
 }
 
+TEST_F(OverviewPanelTest, TheHeadingTellsTheCard) {
+    card.raceInfo(1).trackInfo = "Miami Valley   5/8";
+    card.cardDate = "20260314";
+    card.raceCount = 1;
+    panel.refresh();
+    auto& heading = child<QLabel>(panel, "OverviewHeading");
+    EXPECT_EQ("Miami Valley 5/8     Saturday, March 14, 2026     1 race", heading.text());
+    card.cardDate = "soon";
+    card.raceCount = 2;
+    panel.refresh();
+    EXPECT_EQ("Miami Valley 5/8     soon     2 races", heading.text());
+}
+
 TEST_F(OverviewPanelTest, AClickOpensTheRace) {
     const QSignalSpy opened{&panel, &OverviewPanel::raceOpened};
     clickRow(2);
