@@ -123,7 +123,7 @@ void DesktopPorts::fillDialogs() {
         ask(front(), QMessageBox::Critical, text, {}, QMessageBox::Ok, QMessageBox::Ok);
     };
     ports.beep = [] { QApplication::beep(); };
-    ports.progress = [this](double done) { return progress_.show(done, front()); };
+    ports.progress = [this](double done) { return progress_.show(done, &window_); };
 }
 
 void DesktopPorts::fillOutside() {

@@ -91,7 +91,9 @@ Text editedLine(const QString& line) {
     return fromUtf8(text.toStdString());
 }
 
-bool canBeKept(const QString& line) { return editableLine(editedLine(line)) == line; }
+bool canBeKept(const QString& line, const Text& edited) {
+    return line.count('?') == std::count(edited.begin(), edited.end(), '?');
+}
 
 Text editedContent(const std::vector<FileLine>& old, const std::vector<Text>& lines) {
     const std::vector<TextView> ends = keptEnds(old, lines);

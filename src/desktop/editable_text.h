@@ -5,7 +5,6 @@
 #include "core/text.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <vector>
 
@@ -29,8 +28,8 @@ QString editableLine(TextView text);
 /// The same way back. A character outside the code page becomes "?".
 Text editedLine(const QString& line);
 
-/// False where the line holds a character that the file would lose.
-bool canBeKept(const QString& line);
+/// False where a character of the line became a "?" on that way.
+bool canBeKept(const QString& line, const Text& edited);
 
 /// The file with these lines now. A line that stood in the old file, or that took the place of one, ends as
 /// that one did; a new line ends in CR LF.

@@ -33,7 +33,7 @@ QString countWords() {
     else if (journal.count() > 0)
         words += '.';
     if (journal.expected() > 0)
-        words += QObject::tr(" Another %1 readings found nothing, as on any card in good order.")
+        words += QObject::tr(" Readings that found nothing, as on any card in good order: %1.")
                      .arg(number(journal.expected()));
     return words;
 }

@@ -38,21 +38,6 @@ bool isWindowedProgram(const QString& desktopFile) {
     return !file.readAll().toLower().replace(" ", "").contains("\nterminal=true");
 }
 
-QString askForEditor() {
-    constexpr int longestWait = 1000; // milliseconds
-    const QString asked = QStandardPaths::findExecutable("xdg-mime");
-    if (asked.isEmpty()) return {};
-    QProcess query;
-    query.start(asked, {"query", "default", "text/plain"});
-    if (!query.waitForFinished(longestWait)) {
-        query.kill();
-        query.waitForFinished(longestWait);
-        return {};
-    }
-    const QString editor = QString::fromUtf8(query.readAllStandardOutput()).trimmed();
-    return isWindowedProgram(editor) ? editor : QString{};
-}
-
 #endif
 
 } // namespace
@@ -62,13 +47,32 @@ bool hasDesktop() {
     return platform != "offscreen" && platform != "minimal";
 }
 
+#ifdef Q_OS_WIN
+QString findDesktopEditor() { return {}; }
+#else
+QString findDesktopEditor() {
+    constexpr int longestWait = 1000; // milliseconds
+    const QString asked = QStandardPaths::findExecutable("xdg-mime");
+    if (asked.isEmpty()) return {};
+    QProcess query;
+    query.start(asked, {"query", "default", "text/plain"});
+    if (!query.waitForFinished(longestWait)) {
+        query.kill();
+        query.waitForFinished(longestWait / 10);
+        return {};
+    }
+    const QString editor = QString::fromUtf8(query.readAllStandardOutput()).trimmed();
+    return isWindowedProgram(editor) ? editor : QString{};
+}
+#endif
+
 bool showInDesktopEditor(const FilePlace& file) {
     const QString path = pathOf(file);
     if (!QFileInfo{path}.isFile()) return false;
 #ifdef Q_OS_WIN
     return QProcess::startDetached("cmd.exe", {"/c", "Archives.bat"}, QDir::currentPath());
 #else
-    static const QString editor = askForEditor(); // does not change while the program runs
+    static const QString editor = findDesktopEditor(); // does not change while the program runs
     if (editor.isEmpty()) return false;
     const QString launcher = QStandardPaths::findExecutable("gtk-launch");
     if (!launcher.isEmpty() && QProcess::startDetached(launcher, {editor, path})) return true;

@@ -5,10 +5,16 @@
 #include "core/files.h"
 #include "core/text.h"
 
+#include <QString>
+
 namespace quillon {
 
 /// Whether there is a desktop here that may have a text editor of its own.
 bool hasDesktop();
+
+/// The desktop's text editor, by the name of its desktop file; empty where it has none with a window of its
+/// own. Waits for the answer, a second at most. Windows is not asked: its convention is the batch file.
+QString findDesktopEditor();
 
 /// Shows a text file in the desktop's text editor: on Windows through "Archives.bat", which names it. False
 /// where there is none; then nothing was started. Takes up to a second the first time.

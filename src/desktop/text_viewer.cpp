@@ -43,16 +43,12 @@ struct ReadFile {
     std::uint64_t size = 0;
 };
 
-std::optional<ReadFile> readForShow(const FilePlace& file) {
-    std::optional<ReadFile> read;
-    attempt([&] {
-        FilePieces pieces{file};
-        const std::uint64_t count =
-            pieces.size() > TextViewer::largestEdited ? TextViewer::shownOfLarge : pieces.size();
-        read = ReadFile{Text{pieces.read(pieces.size() - count, static_cast<std::size_t>(count))},
-                        pieces.size()};
-    });
-    return read;
+// Fails when the file can't be read.
+ReadFile readForShow(const FilePlace& file) {
+    FilePieces pieces{file};
+    const std::uint64_t size = pieces.size();
+    const std::uint64_t count = size > TextViewer::largestEdited ? TextViewer::shownOfLarge : size;
+    return {Text{pieces.read(size - count, static_cast<std::size_t>(count))}, size};
 }
 
 // The end of a large file begins with a whole line.
@@ -150,17 +146,15 @@ bool TextViewer::shows(const FilePlace& file) const {
 bool TextViewer::isModified() const { return editor_->document()->isModified(); }
 
 TextViewer::Stamp TextViewer::stampOnDisk() const {
-    Stamp stamp;
-    attempt([&] {
-        const QFileInfo info{std::filesystem::path{pathOnDisk(file_)}};
-        if (info.exists()) stamp = {true, info.size(), info.lastModified()};
-    });
-    return stamp;
+    QFileInfo info;
+    attempt([&] { info = QFileInfo{pathOnDisk(file_)}; });
+    return info.exists() ? Stamp{true, info.size(), info.lastModified()} : Stamp{};
 }
 
 void TextViewer::load() {
     stamp_ = stampOnDisk();
-    std::optional<ReadFile> read = stamp_.exists ? readForShow(file_) : std::nullopt;
+    std::optional<ReadFile> read;
+    if (stamp_.exists) attempt([&] { read = readForShow(file_); });
     if (!stamp_.exists) {
         showNotice(tr("This file is not there yet; saving makes it."), true);
     } else if (!read) {
@@ -213,19 +207,18 @@ QStringList TextViewer::editorLines() const {
     return lines;
 }
 
-bool TextViewer::mayOverwrite() const {
+bool TextViewer::mayOverwrite() {
     if (stampOnDisk() == stamp_) return true;
-    return QMessageBox::question(const_cast<TextViewer*>(this), shown(file_.name),
+    return QMessageBox::question(this, shown(file_.name),
                                  tr("The file has changed on the disk since it was read here. "
                                     "Replace it with the text of this window?"),
                                  QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
-bool TextViewer::mayLoseCharacters() const {
-    const QStringList lines = editorLines();
-    if (std::all_of(lines.begin(), lines.end(), canBeKept)) return true;
+bool TextViewer::mayLoseCharacters(const QStringList& lines, const std::vector<Text>& edited) {
+    if (std::equal(lines.begin(), lines.end(), edited.begin(), canBeKept)) return true;
     return QMessageBox::question(
-               const_cast<TextViewer*>(this), shown(file_.name),
+               this, shown(file_.name),
                tr("The text holds characters that the file can't hold; each becomes a \"?\". "
                   "Save all the same?"),
                QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
@@ -234,10 +227,11 @@ bool TextViewer::mayLoseCharacters() const {
 bool TextViewer::save() {
     if (editor_->isReadOnly()) return false;
     const QScopedValueRollback<bool> asking{asking_, true};
-    if (!mayOverwrite() || !mayLoseCharacters()) return false;
-    std::vector<Text> lines;
-    for (const QString& line : editorLines()) lines.push_back(editedLine(line));
-    const Text content = editedContent(loaded_, lines);
+    const QStringList lines = editorLines();
+    std::vector<Text> edited;
+    for (const QString& line : lines) edited.push_back(editedLine(line));
+    if (!mayOverwrite() || !mayLoseCharacters(lines, edited)) return false;
+    const Text content = editedContent(loaded_, edited);
     if (!attempt([&] { writeFile(file_, content); })) {
         QMessageBox::critical(this, shown(file_.name),
                               tr("The file can't be written: %1").arg(shown(shownPath(file_))));

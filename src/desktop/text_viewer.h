@@ -8,6 +8,7 @@
 #include <QDateTime>
 #include <QMainWindow>
 #include <QPlainTextEdit>
+#include <QStringList>
 
 #include <vector>
 
@@ -23,7 +24,7 @@ class TextViewer : public QMainWindow {
 
 public:
     /// Files up to this size are held whole and can be edited; of a larger one the end is shown.
-    static constexpr std::uint64_t largestEdited = 16U << 20;
+    static constexpr std::uint64_t largestEdited = 8U << 20;
     static constexpr std::uint64_t shownOfLarge = 2U << 20;
 
     /// Shows the file; one that is not there is empty, and made when it is saved.
@@ -58,8 +59,8 @@ private:
     void load();
     void showNotice(const QString& notice, bool mayEdit);
     void showPlace();
-    bool mayOverwrite() const;
-    bool mayLoseCharacters() const;
+    bool mayOverwrite();
+    bool mayLoseCharacters(const QStringList& lines, const std::vector<Text>& edited);
     QStringList editorLines() const;
     PrintDocument printDocument() const;
 

@@ -8,6 +8,7 @@
 #include "desktop/window_test.h"
 
 #include <QDesktopServices>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QInputDialog>
 #include <QLabel>
@@ -189,6 +190,63 @@ TEST_F(DesktopPortsTest, AProgramOfTheWorkingFolderIsStarted) {
 }
 #endif
 
+#ifdef Q_OS_LINUX
+/// A desktop that answers with an editor of ours.
+struct DesktopEditorTest : DesktopPortsTest {
+    DesktopEditorTest() {
+        putScript("xdg-mime", "[ \"$*\" = \"query default text/plain\" ] && echo our-editor.desktop");
+        putScript("gtk-launch", "echo \"$@\" > launched.txt");
+        qputenv("PATH", QDir::currentPath().toUtf8() + "/bin:" + path);
+        qputenv("XDG_DATA_DIRS", QDir::currentPath().toUtf8() + "/share");
+        put("HRA.ini", "x");
+    }
+    ~DesktopEditorTest() override {
+        qputenv("PATH", path);
+        qputenv("XDG_DATA_DIRS", folders);
+    }
+
+    static void putScript(const std::string& name, const std::string& line) {
+        put("bin/" + name, "#!/bin/sh\n" + line + "\n");
+        std::filesystem::permissions("bin/" + name, std::filesystem::perms::owner_all);
+    }
+    static void putEditor(const char* more) {
+        put("share/applications/our-editor.desktop", std::string{"[Desktop Entry]\nName=Editor\n"} + more);
+    }
+
+    const QByteArray path = qgetenv("PATH");
+    const QByteArray folders = qgetenv("XDG_DATA_DIRS");
+};
+
+TEST_F(DesktopEditorTest, ATextIsShownInTheDesktopsEditorWhereTheUserWantsIt) {
+    putEditor("Terminal=false\n");
+    outside.setBuiltInViewer(false);
+    ports.view({Folder::working, "HRA.ini"});
+    EXPECT_TRUE(openWindows<TextViewer>().empty());
+    ASSERT_TRUE(QTest::qWaitFor([] { return exists("launched.txt") && !contentOf("launched.txt").empty(); }));
+    EXPECT_EQ("our-editor.desktop " + std::filesystem::absolute("HRA.ini").string() + "\n",
+              contentOf("launched.txt"));
+
+    ports.view({Folder::working, "TEST.txt"}); // not there yet: ours can make it
+    EXPECT_EQ(1U, openWindows<TextViewer>().size());
+}
+
+TEST_F(DesktopEditorTest, AnEditorInATerminalIsNone) {
+    putEditor("Terminal = true\n");
+    EXPECT_EQ("", findDesktopEditor());
+}
+
+TEST_F(DesktopEditorTest, AnEditorThatIsNotInstalledIsNone) { EXPECT_EQ("", findDesktopEditor()); }
+
+TEST_F(DesktopEditorTest, ADesktopThatDoesNotAnswerIsNotWaitedForLong) {
+    putEditor("");
+    putScript("xdg-mime", "exec sleep 20");
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ("", findDesktopEditor());
+    EXPECT_LT(clock.elapsed(), 3000);
+}
+#endif
+
 TEST_F(DesktopPortsTest, WorkThatIsDoneAtOnceShowsNoDialog) {
     EXPECT_TRUE(ports.progress(0.1));
     EXPECT_TRUE(ports.progress(0.9));
@@ -261,6 +319,12 @@ TEST_F(PortsOfTheWindowTest, TheCondensedProgramPrintsAPageARace) {
     EXPECT_GE(preview.pageCount(), static_cast<int>(card.raceCount));
     EXPECT_TRUE(preview.isLandscape());
     EXPECT_TRUE(preview.windowTitle().contains(cardName())) << preview.windowTitle().toStdString();
+}
+
+TEST_F(PortsOfTheWindowTest, TheKeysOfFindOpenTheBar) {
+    QApplication::setActiveWindow(&window);
+    QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(child<FindBar>(window, "FindBar").isVisible());
 }
 
 TEST_F(PortsOfTheWindowTest, TheWindowsOwnCloseAsksAndNoKeepsIt) {

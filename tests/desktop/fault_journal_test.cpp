@@ -37,7 +37,7 @@ TEST_F(FaultJournalTest, TheLastThousandAreShownAndAllAreCounted) {
     passOver();
     FaultJournalDialog dialog{appearance};
     EXPECT_EQ("1,204 passed over since the start; the last 1,000 are kept."
-              " Another 1 readings found nothing, as on any card in good order.",
+              " Readings that found nothing, as on any card in good order: 1.",
               countsOf(dialog));
     const auto* model = tableOf(dialog).model();
     ASSERT_EQ(1000, model->rowCount());

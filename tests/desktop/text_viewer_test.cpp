@@ -57,8 +57,10 @@ TEST(EditableText, EndsFollowTheirLinesAndNewLinesEndInCrLf) {
 }
 
 TEST(EditableText, CharactersOutsideTheCodePageAreTold) {
-    EXPECT_TRUE(canBeKept(QString::fromUtf8("Ren\u00e9e \u20ac\t\u2400")));
-    EXPECT_FALSE(canBeKept(QString::fromUtf8("\u0416")));
+    const auto isKept = [](const QString& line) { return canBeKept(line, editedLine(line)); };
+    EXPECT_TRUE(isKept(QString::fromUtf8("Ren\u00e9e? \u20ac\t\u2400")));
+    EXPECT_FALSE(isKept(QString::fromUtf8("?\u0416")));
+    EXPECT_FALSE(isKept(QString::fromUtf8("\U0001F40E"))); // a horse, beyond the first plane
 }
 
 struct TextViewerTest : WindowTest {
