@@ -23,8 +23,8 @@ if(TARGET quillon)
   install(FILES icons/quillon.svg DESTINATION ${icons}/scalable/apps)
 endif()
 
-install(FILES debian/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install_compressed(${CMAKE_CURRENT_SOURCE_DIR}/debian/changelog ${CMAKE_INSTALL_DOCDIR} changelog.Debian.gz)
+install(FILES debian/copyright DESTINATION ${doc_folder})
+install_compressed(${CMAKE_CURRENT_SOURCE_DIR}/debian/changelog ${doc_folder} changelog.Debian.gz)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)

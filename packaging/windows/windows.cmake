@@ -13,9 +13,7 @@ endforeach()
 if(TARGET quillon)
   set_target_properties(quillon PROPERTIES WIN32_EXECUTABLE ON)
   find_package(Qt6 REQUIRED COMPONENTS Core)
-  get_target_property(qmake Qt6::qmake IMPORTED_LOCATION)
-  get_filename_component(qt_programs ${qmake} DIRECTORY)
-  find_program(WINDEPLOYQT windeployqt HINTS ${qt_programs} REQUIRED)
+  find_program(WINDEPLOYQT windeployqt HINTS ${QT6_INSTALL_PREFIX}/${QT6_INSTALL_BINS} REQUIRED)
   install(CODE "
     execute_process(COMMAND \"${WINDEPLOYQT}\" --no-translations
         \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/quillon.exe\"
