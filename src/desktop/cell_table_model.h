@@ -26,7 +26,7 @@ public:
     /// Shows another table; none is an empty one. It must live as long as it is shown.
     void show(const Grid* grid, const CellRange& range = {});
 
-    /// Takes up what has changed since the last call. True when something has.
+    /// Takes up what has changed since the last call; true where there was something.
     bool refresh();
 
     /// Rows behind the last one with a text are left away.
