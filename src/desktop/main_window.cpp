@@ -49,7 +49,11 @@ MainWindow::MainWindow(Appearance& appearance, QWidget* parent)
     refresh();
 }
 
-MainWindow::~MainWindow() { delete ports_; }
+// A box that has the focus hands in its text when it loses it: here, while there still is all that it needs.
+MainWindow::~MainWindow() {
+    hide();
+    delete ports_;
+}
 
 void MainWindow::buildPages() {
     auto* centre = new QWidget{this};

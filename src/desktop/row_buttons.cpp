@@ -115,7 +115,7 @@ bool RowButtons::walk(const Place& from, int key) {
 }
 
 bool RowButtons::eventFilter(QObject* watched, QEvent* event) {
-    if (!tableLives_) return false;
+    if (!qobject_cast<CellTableView*>(tableAsWidget_.data())) return false; // it is no table any more
     if (watched == table_.viewport()) {
         if (movesRows(event->type())) align();
         return false;

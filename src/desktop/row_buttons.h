@@ -51,7 +51,7 @@ private:
     const Place* placeOf(const QObject* button) const;
 
     CellTableView& table_;
-    QPointer<QWidget> tableLives_{&table_}; ///< it may go before the buttons, and give them the focus
+    QPointer<QWidget> tableAsWidget_{&table_}; ///< may end before the buttons, and give them the focus
     Appearance& appearance_;
     QWidget* rows_; ///< as high as the table's rows, so that buttons are cut off where the rows are
     std::vector<Column> columns_;
