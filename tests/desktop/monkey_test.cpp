@@ -170,20 +170,20 @@ protected:
 
 TEST_F(MonkeyTest, OnTheSampleCard) {
     startInWindow();
-    letLoose(1500, 1);
+    letLoose(800, 1);
 }
 
 TEST_F(MonkeyTest, OnACardWithAllThatIsOdd) {
     start({.seed = 5, .races = 17, .entries = {1, 15}, .lines = {0, 9}, .odd = samples::allOddities()});
-    letLoose(1500, 2);
+    letLoose(800, 2);
 }
 
 TEST_F(MonkeyTest, OnACardBeyondEveryLimit) {
     start(samples::oversizedCard());
-    letLoose(500, 3);
+    letLoose(250, 3);
 }
 
-TEST_F(MonkeyTest, WithoutACard) { letLoose(500, 4); }
+TEST_F(MonkeyTest, WithoutACard) { letLoose(400, 4); }
 
 } // namespace
 } // namespace quillon
