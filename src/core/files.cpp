@@ -230,6 +230,7 @@ void PreparedFile::putInPlace() {
     finish();
     if (!disk::replaceFile(temporary_, target_)) fail(nameOn(target_) + " can't be replaced");
     temporary_.clear();
+    file_->close(); // or it could not be taken back: some systems replace no open file
 }
 
 void putInPlaceTogether(PreparedFile& first, PreparedFile& second) {

@@ -111,7 +111,7 @@ private:
     std::filesystem::path target_;
     std::filesystem::path temporary_; ///< none once it is in place
     Text ending_;                     ///< of its name, where other programs replace the same file
-    std::unique_ptr<DiskFile> file_;  ///< open to the end: no other program takes the temporary file
+    std::unique_ptr<DiskFile> file_;  ///< open until it is in place: no other program takes it
     bool finished_ = false;
     Text gathered_;
 };
