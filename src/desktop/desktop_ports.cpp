@@ -111,6 +111,7 @@ DesktopPorts::~DesktopPorts() {
 
 void DesktopPorts::fillDialogs() {
     ports.message = [this](const Text& text, const Text& title) {
+        emit aboutToTell();
         ask(front(), QMessageBox::Information, text, title, QMessageBox::Ok, QMessageBox::Ok);
     };
     ports.question = [this](const Text& text, const Text& title) {

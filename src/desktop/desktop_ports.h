@@ -60,6 +60,9 @@ public:
     /// The command that may have asked for progress or paper has ended.
     void commandEnded();
 
+signals:
+    void aboutToTell(); ///< what a message speaks of should be in sight behind it
+
 private:
     void fillDialogs();
     void fillOutside();

@@ -41,6 +41,7 @@ MainWindow::MainWindow(Appearance& appearance, QWidget* parent)
     choices_ = new ChoiceDialog{runner_, appearance_, this};
     connect(&runner_, &CommandRunner::aboutToRun, ports_, &DesktopPorts::commandBegins);
     connect(&runner_, &CommandRunner::ran, ports_, &DesktopPorts::commandEnded);
+    connect(ports_, &DesktopPorts::aboutToTell, this, &MainWindow::refresh);
     connect(&runner_, &CommandRunner::ran, this, &MainWindow::tellSaved);
     connect(&runner_, &CommandRunner::ran, this, &MainWindow::refresh);
     connect(&runner_, &CommandRunner::ran, this, &MainWindow::takeUpEnd, Qt::QueuedConnection);

@@ -1,6 +1,7 @@
 #include "desktop/main_window_test.h"
 
 #include "core/race_card.h"
+#include "desktop/dialog_answers.h"
 #include "desktop/shown_text.h"
 
 #include <QAction>
@@ -145,6 +146,21 @@ TEST_F(MainWindowTest, StartLoadsTheCardAndEndsOnRaceOne) {
     EXPECT_FALSE(start.isEnabled());
     EXPECT_EQ("RACE 1", child<QLabel>(*window, "race").text());
     EXPECT_EQ(quillon::shown(screen.caption), window->windowTitle());
+}
+
+TEST_F(WindowTest, TheCardIsInSightBehindTheLoadsMessage) {
+    putSampleCard();
+    MainWindow real{appearance};
+    real.show();
+    bool inSight = false;
+    const DialogAnswers answers{[&](QDialog& dialog) {
+        inSight = child<QLabel>(real, "race").isVisible() &&
+                  child<QAbstractButton>(real, "RaceButton12").isVisible();
+        dialog.accept();
+    }};
+    real.runner().run("Start");
+    EXPECT_EQ(1, answers.count());
+    EXPECT_TRUE(inSight);
 }
 
 TEST_F(MainWindowTest, RaceButtonsShowTheirRaceAndTheCurrentOneIsRed) {
