@@ -119,9 +119,10 @@ private:
         same("Start enabled", theScreen.start.enabled, start.isEnabled());
         for (std::size_t n = 1; n < theScreen.raceButtons.size(); ++n) {
             const Button& button = theScreen.raceButtons[n];
+            // The buttons of a closed card are the window's to put away.
             const std::string name = "RaceButton" + std::to_string(n);
             auto& race = child<QPushButton>(name);
-            same(name + " visible", button.visible, !race.isHidden());
+            same(name + " visible", button.visible && cardIsOpen(), !race.isHidden());
             same(name, button.caption, race.text());
             same(name + " red", button.current, race.styleSheet().contains("#ff0000"));
         }
