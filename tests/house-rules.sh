@@ -18,7 +18,7 @@ logic='src/core src/app src/source src/rating src/store src/results src/reports 
 grep -rnE '\bcatch \(' src --include='*.h' --include='*.cpp' | grep -v '^src/core/failure.h' |
     complain 'A catch outside src/core/failure.h:'
 grep -rnE '#include <Q' $logic | complain 'Qt inside the logic:'
-grep -rnP '[^\x00-\x7F]' src tests bench samples/generator --include='*.h' --include='*.cpp' |
+grep -rnP '[^\x00-\x7F]' src tests bench fuzz samples/generator --include='*.h' --include='*.cpp' |
     complain 'A source that is not plain ASCII:'
 grep -rnE 'using namespace' src --include='*.h' | complain 'A using namespace in a header:'
 grep -rnE '\b(isalpha|isdigit|isspace|toupper|tolower|setlocale)\b|#include <locale>' src |

@@ -142,8 +142,8 @@ private:
 class SoakTest : public RandomNightTest {
 protected:
     /// A new window in the same process and folder: a card of its own now and then, others to be recalled.
-    void openWindow(std::uint64_t session) {
-        layNight(randomCard(session % 40 + 1, session % 2 == 0), session % 40 + 1);
+    void openWindow(std::uint64_t night) {
+        layNight(randomCard(night % 40 + 1, night % 2 == 0), night % 40 + 1);
         StartUp();
         journal.clear();
     }
