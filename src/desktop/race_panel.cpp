@@ -98,7 +98,6 @@ void RacePanel::buildTable() {
 QPushButton* RacePanel::rowButton(int column, int row, const char* command) {
     QPushButton* button = buttons_->add(column, row);
     button->setProperty("command", command);
-    button->setObjectName(QString{"%1%2"}.arg(command).arg(row));
     connect(button, &QPushButton::clicked, this,
             [this, command, row] { runner_.run(command, numberArgument(row)); });
     return button;
