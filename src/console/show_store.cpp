@@ -56,9 +56,12 @@ public:
     // The cells of a table without records.
     template <class Element, int... extents>
     void cells(const char* name, const Table<Element, extents...>& table) {
-        each(table, [&](const auto& index, const Element& value) {
-            if (!isEmpty(value)) line(indexed(name, index), textOf(value));
-        });
+        each(table, [&](const auto& index, const Element& value) { cell(name, index, value); });
+    }
+
+    template <class Value>
+    void cell(const char* table, std::span<const int> index, const Value& value) {
+        if (!isEmpty(value)) line(indexed(table, index), textOf(value));
     }
 
     // The records of a table, field by field.
@@ -103,6 +106,13 @@ void showPastLines(StorePrinter& printer) {
     while (advance(index, extents));
 }
 
+void showLineCells(StorePrinter& printer) {
+    std::array<int, card.lineCells.extents.size()> index{};
+    do
+        printer.cell("LineCells", index, Text{card.lineCells.read(index[0], index[1])});
+    while (advance(index, card.lineCells.extents));
+}
+
 } // namespace
 
 void showStore(Transcript& transcript) {
@@ -113,7 +123,7 @@ void showStore(Transcript& transcript) {
     showPastLines(printer);
     printer.records("DriverTable", card.driverTable, driverFields);
     printer.cells("TrainerTable", card.trainerTable);
-    printer.cells("LineCells", card.lineCells);
+    showLineCells(printer);
     printer.cells("rankEntry", card.rankEntry);
     printer.records("SelectionSet", card.selection, selectionFields);
     printer.cells("RaceOutcome", card.raceOutcome);

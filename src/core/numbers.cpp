@@ -29,7 +29,7 @@ double converted(TextView digits) {
     return result.ec == std::errc::result_out_of_range ? std::numeric_limits<double>::infinity() : value;
 }
 
-// Nearly all numbers have few digits: those are read exactly in integers, with one division at the end.
+// Nearly all numbers have few digits: those are read exactly in integers, with at most one division at the end.
 Leading leadingNumber(TextView text) {
     const char* const begin = text.data();
     const char* const end = begin + text.size();
@@ -38,28 +38,25 @@ Leading leadingNumber(TextView text) {
     const bool negative = at != end && *at == '-';
     if (at != end && (*at == '-' || *at == '+')) ++at;
 
-    const char* const digitsBegin = at;
-    std::int64_t units = 0;
-    int digits = 0;
-    int decimals = 0;
-    bool pointSeen = false;
-    constexpr int exactDigits = 15;
-    for (; at != end; ++at) {
-        if (isDigit(*at)) {
-            if (digits < exactDigits) units = units * 10 + (*at - '0');
-            ++digits;
-            decimals += pointSeen ? 1 : 0;
-        } else if (*at == '.' && !pointSeen) {
-            pointSeen = true;
-        } else {
-            break;
-        }
-    }
+    const char* const first = at;
+    std::uint64_t units = 0; // means nothing where there are too many digits
+    const auto passDigits = [&] {
+        const char* const from = at;
+        for (; at != end && isDigit(*at); ++at) units = units * 10 + static_cast<std::uint64_t>(*at - '0');
+        return at - from;
+    };
+    const auto wholeDigits = passDigits();
+    if (at != end && *at == '.') ++at;
+    const auto decimals = passDigits();
 
+    const auto digits = wholeDigits + decimals;
     if (digits == 0) return {};
-    const double value = digits <= exactDigits
-                             ? static_cast<double>(units) / tens[decimals]
-                             : converted({digitsBegin, static_cast<std::size_t>(at - digitsBegin)});
+    constexpr int exactDigits = 15;
+    double value = static_cast<double>(units);
+    if (digits > exactDigits)
+        value = converted({first, static_cast<std::size_t>(at - first)});
+    else if (decimals > 0)
+        value /= tens[decimals];
     return {negative ? -value : value, static_cast<std::size_t>(at - begin), true};
 }
 
@@ -99,6 +96,7 @@ Text thousandthsText(std::int64_t thousandths) {
 } // namespace
 
 double lenientNumber(TextView text) {
+    if (text.size() == 1 && isDigit(text[0])) return text[0] - '0'; // as nearly all positions and posts are
     const double value = leadingNumber(text).value;
     return std::isfinite(value) ? value : 0;
 }

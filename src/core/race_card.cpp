@@ -1,29 +1,85 @@
 #include "core/race_card.h"
 
+#include "core/failure.h"
 #include "core/fields.h"
+
+#include <string>
+#include <utility>
 
 namespace quillon {
 
 RaceCard card;
 LineCursor cursor;
 
+namespace {
+
+std::size_t columnAt(int column) {
+    if (column < 0 || column >= lineCellColumns) fail("column " + std::to_string(column) + " is no cell's");
+    return static_cast<std::size_t>(column);
+}
+
+} // namespace
+
 PastLineTable::PastLineTable() = default;
 
-const PastLine& PastLineTable::read(int race, int entry, int line) const {
+const PastLine& PastLineTable::unwritten(int race, int entry, int line) const {
     static const PastLine none;
+    const bool rated = race >= 1 && race <= ratedRaces && entry >= 1 && entry <= ratedEntries;
+    return rated && line < filledLines_ ? blankLine_ : none;
+}
+
+const PastLine& PastLineTable::read(int race, int entry, int line) const {
     const auto& kept = lines_(race, entry, line);
-    return kept ? *kept : none;
+    return kept ? *kept : unwritten(race, entry, line);
 }
 
 PastLine& PastLineTable::write(int race, int entry, int line) {
     auto& kept = lines_(race, entry, line);
-    if (!kept) kept = std::make_unique<PastLine>();
+    if (!kept) kept = std::make_unique<PastLine>(unwritten(race, entry, line));
     return *kept;
 }
 
 bool PastLineTable::has(int race, int entry, int line) const { return lines_(race, entry, line) != nullptr; }
 
-void PastLineTable::clear() { lines_.clear(); }
+void PastLineTable::fillRatedEntries(int lines, const PastLine& blankLine) {
+    blankLine_ = blankLine;
+    filledLines_ = lines;
+}
+
+void PastLineTable::clear() {
+    lines_.clear();
+    filledLines_ = 0;
+}
+
+TextView LineCellTable::read(int lineNumber, int column) const {
+    const std::size_t at = columnAt(column);
+    const auto& line = lines_(lineNumber);
+    if (!line) return {};
+    const std::size_t begin = at == 0 ? 0 : line->ends[at - 1];
+    return TextView{line->joined}.substr(begin, line->ends[at] - begin);
+}
+
+void LineCellTable::write(int lineNumber, int column, TextView cell) {
+    const std::size_t written = columnAt(column);
+    std::array<TextView, lineCellColumns> cells;
+    for (std::size_t at = 0; at < cells.size(); ++at) cells[at] = read(lineNumber, static_cast<int>(at));
+    cells[written] = cell;
+    writeLine(lineNumber, cells);
+}
+
+void LineCellTable::writeLine(int lineNumber, std::span<const TextView, lineCellColumns> cells) {
+    auto line = std::make_unique<Line>();
+    std::size_t length = 0;
+    for (const TextView cell : cells) length += cell.size();
+    line->joined.reserve(length);
+    for (std::size_t at = 0; at < cells.size(); ++at) {
+        line->joined += cells[at];
+        line->ends[at] = static_cast<std::uint32_t>(line->joined.size());
+    }
+    lines_(lineNumber) = std::move(line);
+}
+
+void LineCellTable::clear() { lines_.clear(); }
 
 void RaceCard::clear() {
     forEachField(cardScalars, *this, [](TextView, auto& value) { value = std::decay_t<decltype(value)>{}; });

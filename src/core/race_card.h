@@ -13,8 +13,10 @@
 #include "core/text.h"
 #include "core/text_cell.h"
 
+#include <array>
+#include <cstdint>
 #include <memory>
-#include <vector>
+#include <span>
 
 namespace quillon {
 
@@ -128,10 +130,44 @@ public:
     /// True where a line was written. Fails outside the bounds.
     bool has(int race, int entry, int line) const;
 
+    /// What stands from now on in lines 0 to `lines` - 1 of the rated entries where nothing was written.
+    void fillRatedEntries(int lines, const PastLine& blankLine);
+
     void clear();
 
 private:
+    const PastLine& unwritten(int race, int entry, int line) const;
+
+    PastLine blankLine_;
+    int filledLines_ = 0;
     Table<std::unique_ptr<PastLine>, raceExtent, entryExtent, lineExtent> lines_;
+};
+
+/// The cells of the card's lines as their data views first showed them, by line number and column. There are
+/// over a hundred thousand, nearly all of a few characters, so a line keeps its cells joined in one text.
+class LineCellTable {
+public:
+    static constexpr std::array extents{lineNumberExtent, lineCellColumns};
+
+    /// The cell as it stands, until the line is written again; an empty one where nothing was written. Fails
+    /// outside the bounds.
+    TextView read(int lineNumber, int column) const;
+
+    /// Fails outside the bounds.
+    void write(int lineNumber, int column, TextView cell);
+
+    /// Writes a whole line: column 0 from the first cell, and so on. Fails outside the bounds.
+    void writeLine(int lineNumber, std::span<const TextView, lineCellColumns> cells);
+
+    void clear();
+
+private:
+    struct Line {
+        Text joined;
+        std::array<std::uint32_t, lineCellColumns> ends{}; ///< where each cell ends in it
+    };
+
+    Table<std::unique_ptr<Line>, lineNumberExtent> lines_;
 };
 
 struct RaceCard {
@@ -159,7 +195,7 @@ struct RaceCard {
     PastLineTable pastLine;
     Table<Driver, 301> driverTable;
     Table<Text, 201> trainerTable;
-    Table<Text, lineNumberExtent, lineCellColumns> lineCells;
+    LineCellTable lineCells;
     Table<Integer, rankedPlaces + 1>
         rankEntry; ///< entry of S1 to S4 and the fifth horse of the race ranked last
     Table<Selection, raceExtent, rankedPlaces + 1> selection;

@@ -7,6 +7,7 @@
 #include <cassert>
 #include <memory>
 #include <span>
+#include <string>
 
 namespace quillon {
 
@@ -29,11 +30,6 @@ public:
     template <class... Indices>
     const Element& operator()(Indices... indices) const {
         return (*elements_)[checked({static_cast<int>(indices)...})];
-    }
-
-    /// All elements of one first index, in order. Fails outside the bounds.
-    std::span<Element> row(int index) requires(sizeof...(Extents) == 2) {
-        return {&(*elements_)[checked({index, 0})], static_cast<std::size_t>(extents[1])};
     }
 
     Element& operator[](const Index& index) { return (*elements_)[known(index)]; }

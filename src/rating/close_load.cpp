@@ -112,17 +112,11 @@ void captionFirstRace() {
 
 void PrintWidths() {
     const Step step{"PrintWidths"};
-    const PastLine unread = blankLine();
     for (int race = 1; race <= ratedRaces; ++race)
         for (int entry = 1; entry <= ratedEntries; ++entry)
-            for (int slot = 0; slot < widenedSlots; ++slot) {
-                const bool read = card.pastLine.has(race, entry, slot);
-                PastLine& line = card.pastLine.write(race, entry, slot);
-                if (read)
-                    giveWidths(line);
-                else
-                    line = unread;
-            }
+            for (int slot = 0; slot < widenedSlots; ++slot)
+                if (card.pastLine.has(race, entry, slot)) giveWidths(card.pastLine.write(race, entry, slot));
+    card.pastLine.fillRatedEntries(widenedSlots, blankLine());
 }
 
 void CloseLoad() {

@@ -262,7 +262,7 @@ void FindEntry() {
     const Step step{"FindEntry"};
     constexpr double noPost = 99;
     if (cursor.race == 0) cursor.race = 1;
-    const double post = lenientNumber(sourceTables.horseRows.field("PP"));
+    const double post = lenientNumber(sourceHorse.PP);
     cursor.entry = post == noPost ? Integer{0} : toInteger(post);
 }
 
@@ -298,24 +298,13 @@ bool isRounded(TextView figure) {
     return *point == '.' && isDigit(figure.back()) && std::all_of(figure.begin(), point, isDigit);
 }
 
-// Right-aligned anew, whatever blanks stand in front.
-void realign(Text& figure, std::size_t width) {
-    const std::size_t blanksNow = figure.find_first_not_of(blank);
-    const std::size_t characters = figure.size() - blanksNow;
-    const std::size_t blanksWanted = width > characters ? width - characters : 0;
-    if (blanksWanted > blanksNow)
-        figure.insert(0, blanksWanted - blanksNow, blank);
-    else
-        figure.erase(0, blanksNow - blanksWanted);
-}
-
 void putLineValueIn(Form form) {
     if (form == Form::asItStands) return;
-    constexpr std::size_t wideWidth = 7;
-    constexpr std::size_t narrowWidth = 5;
+    const std::size_t width = form == Form::wide ? 7 : 5;
     Text& figure = cursor.lineValue;
-    if (isRounded(trimmedLeft(figure)))
-        realign(figure, form == Form::wide ? wideWidth : narrowWidth);
+    const TextView number = trimmedLeft(figure);
+    if (isRounded(number))
+        figure.replace(0, figure.size() - number.size(), width - std::min(width, number.size()), blank);
     else if (form == Form::wide)
         figure = formatted("#####.0", "@@@@@@@", figure);
     else

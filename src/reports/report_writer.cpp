@@ -5,15 +5,17 @@
 
 namespace quillon {
 
-void ReportWriter::add(TextView picture, std::span<const TextView> values) {
+void ReportWriter::add(TextView picture, std::span<const PictureField> fields,
+                       std::span<const TextView> values) {
     std::size_t from = 0;
-    for (const TextView value : values) {
-        const PictureField field = fieldFrom(picture, from);
-        content_ += picture.substr(from, field.start - from);
-        const bool asItIs = picture[field.start] == '{';
-        if (!asItIs && value.size() < field.length) content_.append(field.length - value.size(), blank);
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        const auto [start, length] = fields[i];
+        const TextView value = values[i];
+        content_ += picture.substr(from, start - from);
+        const bool asItIs = picture[start] == '{';
+        if (!asItIs && value.size() < length) content_.append(length - value.size(), blank);
         content_ += value;
-        from = field.start + field.length;
+        from = start + length;
     }
     content_ += picture.substr(from);
 }

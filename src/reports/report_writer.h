@@ -39,16 +39,22 @@ constexpr std::size_t fieldCount(TextView picture) {
     return count;
 }
 
-/// A picture whose fields were counted by the compiler.
+/// A picture whose fields the compiler has found.
 template <std::size_t Fields>
 class Picture {
 public:
     // NOLINTNEXTLINE(google-explicit-constructor): a literal is a picture
     consteval Picture(const char* picture) : text(picture) {
         if (fieldCount(text) != Fields) throw "the fields of a picture and its values differ in number";
+        std::size_t from = 0;
+        for (PictureField& field : fields) {
+            field = fieldFrom(text, from);
+            from = field.start + field.length;
+        }
     }
 
     TextView text;
+    std::array<PictureField, Fields> fields{};
 };
 
 class ReportWriter {
@@ -64,7 +70,7 @@ public:
     template <class... Values>
     void part(Picture<sizeof...(Values)> picture, const Values&... values) {
         const std::array<TextView, sizeof...(Values)> texts{TextView{values}...};
-        add(picture.text, texts);
+        add(picture.text, picture.fields, texts);
     }
 
     void endLine() { content_ += crLf; }
@@ -75,7 +81,7 @@ public:
     const Text& content() const { return content_; }
 
 private:
-    void add(TextView picture, std::span<const TextView> values);
+    void add(TextView picture, std::span<const PictureField> fields, std::span<const TextView> values);
 
     Text content_;
 };

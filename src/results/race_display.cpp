@@ -104,7 +104,7 @@ constexpr std::array identifyingColumns{dataColumn::date, hiddenRaceColumn, data
 bool isKeptLine(const Grid& lines, int line, int keptLine) {
     if (keptLine < 1 || keptLine >= lineNumberExtent) return false;
     return std::all_of(identifyingColumns.begin(), identifyingColumns.end(), [&](int column) {
-        return lines.text(line, column) == card.lineCells(keptLine, column);
+        return lines.text(line, column) == card.lineCells.read(keptLine, column);
     });
 }
 

@@ -336,9 +336,10 @@ void ShowLineTable() {
 
 void GetTextboxData2() {
     const Step step{"GetTextboxData2"};
-    const auto kept = card.lineCells.row(card.totalLines);
+    std::array<TextView, lineCellColumns> cells;
     for (std::size_t column = firstShadedColumn; column <= lastShadedColumn; ++column)
-        kept[column] = loop.cells[column];
+        cells[column] = loop.cells[column];
+    card.lineCells.writeLine(card.totalLines, cells);
 }
 
 void ChangeHorseName() {

@@ -135,18 +135,13 @@ void forEachCardValue(Card& card, Visit& visit) {
             for (const auto member : selectionValues) visit.value(card.selection[{race, place}].*member);
 }
 
-// The layout of the archive.
-template <class Card, class Visit>
-void forEachArchiveValue(Card& card, Visit& visit) {
-    for (int row = 1; row <= archiveRows; ++row)
-        for (int column = 1; column <= archiveColumns; ++column) visit.value(card.lineCells[{row, column}]);
-}
-
 class ValueWriter {
 public:
     explicit ValueWriter(std::size_t expectedSize) { content_.reserve(expectedSize); }
 
-    void value(const Text& text) {
+    void value(const Text& text) { quoted(text); }
+
+    void quoted(TextView text) {
         if (text.empty()) {
             content_ += "\"\"\r\n";
             return;
@@ -198,21 +193,20 @@ class ValueReader {
 public:
     explicit ValueReader(TextView content) : lines_(content) {}
 
+    /// The next text, a piece of the content; nothing on a damaged line and behind the last.
+    std::optional<TextView> nextText() {
+        if (!nextLine()) return std::nullopt;
+        const auto text = textOf(line_);
+        if (!text) reportNoValue();
+        return text;
+    }
+
     void value(Text& text) {
-        if (!nextLine()) return;
-        if (const auto read = textOf(line_))
-            text = *read;
-        else
-            reportNoValue();
+        if (const auto read = nextText()) text = *read;
     }
 
     void value(TextCell& cell) {
-        if (!nextLine()) return;
-        const auto read = textOf(line_);
-        if (!read)
-            reportNoValue();
-        else
-            cell = line_.empty() ? TextCell{} : TextCell{*read};
+        if (const auto read = nextText()) cell = line_.empty() ? TextCell{} : TextCell{*read};
     }
 
     void value(Integer& number) {
@@ -263,7 +257,9 @@ Text cardFileContent(const RaceCard& card) {
 Text archiveContent(const RaceCard& card) {
     constexpr std::size_t usualSize = 700'000;
     ValueWriter writer{usualSize};
-    forEachArchiveValue(card, writer);
+    for (int row = 1; row <= archiveRows; ++row)
+        for (int column = 1; column <= archiveColumns; ++column)
+            writer.quoted(card.lineCells.read(row, column));
     return std::move(writer).content();
 }
 
@@ -275,7 +271,13 @@ void takeCardFile(TextView content, RaceCard& card) {
 void takeArchive(TextView content, RaceCard& card) {
     card.lineCells.clear();
     ValueReader reader{content};
-    forEachArchiveValue(card, reader);
+    for (int row = 1; row <= archiveRows; ++row) {
+        std::array<TextView, lineCellColumns> cells;
+        for (std::size_t column = 1; column <= archiveColumns; ++column)
+            cells[column] = reader.nextText().value_or("");
+        const bool empty = std::all_of(cells.begin(), cells.end(), [](TextView cell) { return cell.empty(); });
+        if (!empty) card.lineCells.writeLine(row, cells);
+    }
 }
 
 void fillRaceViewRow(Grid& view, int row, const RaceEntry& entry) {

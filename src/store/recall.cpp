@@ -140,7 +140,7 @@ void RecountDeadHeats() {
 // An entry's name, odds and program number stand in column 0 beside its first three lines; those of the next
 // entry overwrite them where an entry has fewer.
 void headEntry(int race, int row, int lineNumber) {
-    const int post = toInteger(lenientNumber(card.lineCells[{lineNumber, postOfLine}]));
+    const int post = toInteger(lenientNumber(card.lineCells.read(lineNumber, postOfLine)));
     const RaceEntry& headed = card.entry(race, post == noPost ? 0 : post);
     Grid& view = dataViewOf(race);
     int at = row;
@@ -153,7 +153,7 @@ void headEntry(int race, int row, int lineNumber) {
 void copyLine(int race, int row, int lineNumber) {
     const auto cells = dataViewOf(race).cellsOf(row);
     for (int column = 1; column <= archiveColumns; ++column)
-        cells[static_cast<std::size_t>(column)].text = card.lineCells[{lineNumber, column}];
+        cells[static_cast<std::size_t>(column)].text = card.lineCells.read(lineNumber, column);
 }
 
 // The lines of the card, each into the view of its race behind the lines before it. A change of HN begins an
@@ -166,12 +166,12 @@ void RebuildDataViews() {
     };
     std::array<Filling, ratedRaces + 1> fillings{};
     for (int number = 1; number <= archiveRows; ++number) {
-        const double race = lenientNumber(card.lineCells[{number, raceOfLine}]);
+        const double race = lenientNumber(card.lineCells.read(number, raceOfLine));
         if (race < 1 || race > ratedRaces || race != static_cast<int>(race)) continue;
         const int at = static_cast<int>(race);
         Filling& filling = fillings[static_cast<std::size_t>(at)];
         const int row = ++filling.row;
-        const double horse = lenientNumber(card.lineCells[{number, horseOfLine}]);
+        const double horse = lenientNumber(card.lineCells.read(number, horseOfLine));
         const bool newEntry = horse > 0 && horse != filling.horse;
         if (newEntry) filling.horse = horse;
         if (row >= dataViewRows) continue;

@@ -20,8 +20,8 @@ TEST_F(CardTest, TheStoreHasTheBoundsOfACard) {
     EXPECT_FALSE(attempt([] { card.entry(1, 21).rating = "58.0"; }));
     EXPECT_TRUE(attempt([] { card.pastLine.write(1, 1, 30).POST = "1"; }));
     EXPECT_FALSE(attempt([] { card.pastLine.write(1, 1, 31).POST = "1"; }));
-    EXPECT_TRUE(attempt([] { card.lineCells(3000, 39) = "1"; }));
-    EXPECT_FALSE(attempt([] { card.lineCells(3001, 39) = "1"; }));
+    EXPECT_TRUE(attempt([] { card.lineCells.write(3000, 39, "1"); }));
+    EXPECT_FALSE(attempt([] { card.lineCells.write(3001, 39, "1"); }));
     EXPECT_FALSE(attempt([] { card.driverTable(301).name = "x"; }));
     EXPECT_FALSE(attempt([] { card.trainerTable(201) = "x"; }));
 }

@@ -462,11 +462,8 @@ protected:
         return inField(key, 36) + inField(size, 3) + "   990*   57.0  10\r\n";
     }
 
-    /// The horse table on a horse of this post.
-    static void setPost(TextView post) {
-        const BuiltTable horses{.fields = {{"PP", 'C', 5}}, .rows = {" " + inField(post, 5)}};
-        sourceTables.horseRows.openContent(horses.bytes(), "HORSEHR.DBF");
-    }
+    /// The post of the line's horse.
+    static void setPost(TextView post) { sourceHorse.PP = post; }
 
     static const PastLine& stored(int race = 1, int entry = 2, int line = 1) {
         return card.pastLine.read(race, entry, line);

@@ -148,8 +148,8 @@ TEST_F(CardLoadTest, WithoutAHorseTableTheLinesAreStoredByTheirRace) {
     lines({{.HN = "7"}, {.TODAYSRACE = "2", .HN = "8"}});
     Start();
     EXPECT_EQ(2, card.totalLines);
-    EXPECT_EQ("1", card.lineCells(1, 2));
-    EXPECT_EQ("2", card.lineCells(2, 2));
+    EXPECT_EQ("1", card.lineCells.read(1, 2));
+    EXPECT_EQ("2", card.lineCells.read(2, 2));
     EXPECT_EQ("1:1 ", linesOf(1, 0)); // no post: entry 0
     EXPECT_EQ("1:2 ", linesOf(2, 0));
 }
@@ -298,7 +298,7 @@ TEST_F(CardLoadTest, LabelsAndTrackCodesEndAtRaceTwentyFive) {
     EXPECT_EQ("8000", card.raceInfo(30).purse);
     EXPECT_EQ("1:2 ", linesOf(30, 2)); // the store reaches to race 30
     EXPECT_EQ(3, card.totalLines);     // race 31 is lost, but not its line's cells
-    EXPECT_EQ("31", card.lineCells(3, 2));
+    EXPECT_EQ("31", card.lineCells.read(3, 2));
     EXPECT_TRUE(screen.raceButtons[23].visible);
 }
 
@@ -764,7 +764,7 @@ TEST_F(CardLoadTest, ALineOutOfBoundsIsShadedSinceItsCountsCantBeTold) {
     Start();
     EXPECT_EQ("cyan", shadeOf(2)); // each test that fails takes its branch, the cyan one last
     EXPECT_EQ("Beyond", cell(1, 2, 0));
-    EXPECT_EQ("2", card.lineCells(2, 39));
+    EXPECT_EQ("2", card.lineCells.read(2, 39));
 }
 
 // Cells ---
@@ -795,7 +795,7 @@ TEST_F(CardLoadTest, ALineFillsItsRow) {
     for (int column = 1; column <= 39; ++column) {
         const bool isRating = expected[column] == nullptr;
         EXPECT_EQ(isRating ? "  6.8" : expected[column], cell(1, 2, column)) << column;
-        EXPECT_EQ(cell(1, 2, column), card.lineCells(2, column)) << column;
+        EXPECT_EQ(cell(1, 2, column), card.lineCells.read(2, column)) << column;
     }
     // 3 x 54.3 - 25.3 - 70 = 67.6; today's course is unknown and the Meadowlands' is worth 57: 10.6; parked
     // outside on a half mile, by its own column, 0.8: 9.8; a favourite's 3: 6.8; half a point of class is
@@ -806,8 +806,8 @@ TEST_F(CardLoadTest, ALineFillsItsRow) {
     EXPECT_EQ("M", card.pastLine.read(1, 13, 1).TRACK); // raw in the store
     EXPECT_EQ("*", card.entry(1, 13).favMark);
     EXPECT_EQ("Date", cell(1, 0, 1)); // the heads stay
-    EXPECT_EQ("", card.lineCells(2, 0));
-    EXPECT_EQ("", card.lineCells(2, 40));
+    EXPECT_EQ("", card.lineCells.read(2, 0));
+    EXPECT_EQ("", card.lineCells.read(2, 40));
 }
 
 struct CellRow {
@@ -849,7 +849,7 @@ TEST_F(CardLoadTest, CellsThatStandForMissingFigures) {
         oneHorse({row.line});
         Start();
         EXPECT_EQ(row.expected, cell(1, 1, row.column)) << row.what;
-        EXPECT_EQ(row.expected, card.lineCells(1, row.column)) << row.what;
+        EXPECT_EQ(row.expected, card.lineCells.read(1, row.column)) << row.what;
     }
 }
 
@@ -930,7 +930,7 @@ TEST_F(CardLoadTest, AThirtyFirstLineIsLostButForItsCells) {
     Start();
     EXPECT_EQ(31, card.totalLines);
     EXPECT_EQ(30, card.pastLine.read(1, 13, 30).lineNumber);
-    EXPECT_EQ("20260304", card.lineCells(31, 1));
+    EXPECT_EQ("20260304", card.lineCells.read(31, 1));
     EXPECT_EQ("31", cell(1, 31, 39));
 }
 
@@ -949,7 +949,7 @@ TEST_F(CardLoadTest, AViewHoldsTwoHundredRowsWithItsHead) {
     EXPECT_EQ("199", cell(1, 199, 39));
     EXPECT_EQ(200, screen.dataView[1].rows());
     EXPECT_EQ(220, card.totalLines);
-    EXPECT_EQ("220", card.lineCells(220, 39)); // stored though no view shows it
+    EXPECT_EQ("220", card.lineCells.read(220, 39)); // stored though no view shows it
     EXPECT_EQ(220, card.pastLine.read(1, 20, 11).lineNumber);
 }
 
@@ -972,7 +972,7 @@ TEST_F(CardLoadTest, LinesBeyondThreeThousandAreRatedAndShown) {
     lines(lineRows);
     Start();
     EXPECT_EQ(3001, card.totalLines);
-    EXPECT_EQ("20260304", card.lineCells(3000, 1)); // 5 races of 600 lines
+    EXPECT_EQ("20260304", card.lineCells.read(3000, 1)); // 5 races of 600 lines
     EXPECT_EQ(3001, card.pastLine.read(6, 1, 1).lineNumber);
     EXPECT_EQ("20260304", cell(6, 1, 1));
 }
@@ -985,7 +985,7 @@ TEST_F(CardLoadTest, RacesAboveTwentyThreeAreStoredWithoutAView) {
     lines({{}, {.TODAYSRACE = "24", .HN = "2"}});
     Start();
     EXPECT_EQ("1:2 ", linesOf(24, 2));
-    EXPECT_EQ("24", card.lineCells(2, 2));
+    EXPECT_EQ("24", card.lineCells.read(2, 2));
     // 67.6 + 0.01 - 0.9 = 66.71
     EXPECT_EQ(" 66.7", card.pastLine.read(24, 2, 1).rating);
     EXPECT_EQ("24", trimmed(cell(lineTableView, 2, 1))); // view 24 is the running-line table
