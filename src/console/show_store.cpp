@@ -108,8 +108,7 @@ void showPastLines(StorePrinter& printer) {
 
 void showLineCells(StorePrinter& printer) {
     std::array<int, card.lineCells.extents.size()> index{};
-    do
-        printer.cell("LineCells", index, Text{card.lineCells.read(index[0], index[1])});
+    do printer.cell("LineCells", index, Text{card.lineCells.read(index[0], index[1])});
     while (advance(index, card.lineCells.extents));
 }
 

@@ -29,7 +29,8 @@ double converted(TextView digits) {
     return result.ec == std::errc::result_out_of_range ? std::numeric_limits<double>::infinity() : value;
 }
 
-// Nearly all numbers have few digits: those are read exactly in integers, with at most one division at the end.
+// Nearly all numbers have few digits: those are read exactly in integers, with at most one division at the
+// end.
 Leading leadingNumber(TextView text) {
     const char* const begin = text.data();
     const char* const end = begin + text.size();

@@ -3,6 +3,7 @@
 #include "core/failure.h"
 #include "core/fields.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -22,20 +23,23 @@ std::size_t columnAt(int column) {
 
 PastLineTable::PastLineTable() = default;
 
-const PastLine& PastLineTable::unwritten(int race, int entry, int line) const {
-    static const PastLine none;
+bool PastLineTable::isFilled(int race, int entry, int line) const {
     const bool rated = race >= 1 && race <= ratedRaces && entry >= 1 && entry <= ratedEntries;
-    return rated && line < filledLines_ ? blankLine_ : none;
+    return rated && line < filledLines_;
 }
 
 const PastLine& PastLineTable::read(int race, int entry, int line) const {
-    const auto& kept = lines_(race, entry, line);
-    return kept ? *kept : unwritten(race, entry, line);
+    static const PastLine none;
+    if (const auto& kept = lines_(race, entry, line)) return *kept;
+    return isFilled(race, entry, line) ? blankLine_ : none;
 }
 
 PastLine& PastLineTable::write(int race, int entry, int line) {
     auto& kept = lines_(race, entry, line);
-    if (!kept) kept = std::make_unique<PastLine>(unwritten(race, entry, line));
+    if (!kept) {
+        kept = std::make_unique<PastLine>();
+        if (isFilled(race, entry, line)) *kept = blankLine_;
+    }
     return *kept;
 }
 
@@ -71,10 +75,11 @@ void LineCellTable::writeLine(int lineNumber, std::span<const TextView, lineCell
     auto line = std::make_unique<Line>();
     std::size_t length = 0;
     for (const TextView cell : cells) length += cell.size();
-    line->joined.reserve(length);
+    line->joined.resize(length);
+    char* end = line->joined.data();
     for (std::size_t at = 0; at < cells.size(); ++at) {
-        line->joined += cells[at];
-        line->ends[at] = static_cast<std::uint32_t>(line->joined.size());
+        end = std::copy(cells[at].begin(), cells[at].end(), end);
+        line->ends[at] = static_cast<std::uint32_t>(end - line->joined.data());
     }
     lines_(lineNumber) = std::move(line);
 }

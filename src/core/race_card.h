@@ -136,7 +136,7 @@ public:
     void clear();
 
 private:
-    const PastLine& unwritten(int race, int entry, int line) const;
+    bool isFilled(int race, int entry, int line) const;
 
     PastLine blankLine_;
     int filledLines_ = 0;

@@ -275,7 +275,8 @@ void takeArchive(TextView content, RaceCard& card) {
         std::array<TextView, lineCellColumns> cells;
         for (std::size_t column = 1; column <= archiveColumns; ++column)
             cells[column] = reader.nextText().value_or("");
-        const bool empty = std::all_of(cells.begin(), cells.end(), [](TextView cell) { return cell.empty(); });
+        const bool empty =
+            std::all_of(cells.begin(), cells.end(), [](TextView cell) { return cell.empty(); });
         if (!empty) card.lineCells.writeLine(row, cells);
     }
 }
