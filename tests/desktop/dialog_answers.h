@@ -19,7 +19,7 @@ public:
         QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { look(); });
         timer_.start(5);
     }
-    ~DialogAnswers() { newest_ = outer_; }
+    ~DialogAnswers() { newest = outer_; }
     DialogAnswers(const DialogAnswers&) = delete;
     DialogAnswers& operator=(const DialogAnswers&) = delete;
 
@@ -36,7 +36,7 @@ public:
 private:
     void look() {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (!dialog || answering_ || newest_ != this) return;
+        if (!dialog || answering_ || newest != this) return;
         answering_ = true;
         ++count_;
         answer_(*dialog);
@@ -44,8 +44,8 @@ private:
         answering_ = false;
     }
 
-    inline static DialogAnswers* newest_ = nullptr; ///< the one that answers
-    DialogAnswers* outer_ = std::exchange(newest_, this);
+    inline static DialogAnswers* newest = nullptr; ///< the one that answers
+    DialogAnswers* outer_ = std::exchange(newest, this);
     std::function<void(QDialog&)> answer_;
     QTimer timer_;
     int count_ = 0;

@@ -618,8 +618,10 @@ INSTANTIATE_TEST_SUITE_P(Drives, EveryCommandTest, testing::ValuesIn(drives),
 
 TEST(EveryCommand, IsDrivenHere) {
     std::vector<std::string> driven;
+    driven.reserve(std::size(drives));
     for (const Drive& drive : drives) driven.emplace_back(drive.command);
     std::vector<std::string> all;
+    all.reserve(commandTable().size());
     for (const Command& command : commandTable()) all.emplace_back(command.name);
     std::sort(driven.begin(), driven.end());
     std::sort(all.begin(), all.end());

@@ -18,7 +18,7 @@ protected:
         window.emplace(appearance);
         const auto end = ports.end;
         ports = recorders;
-        ports.end = [this, end, recorded = recorders.end] {
+        ports.end = [end, recorded = recorders.end] {
             recorded();
             end();
         };

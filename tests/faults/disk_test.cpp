@@ -26,61 +26,62 @@ bool onlyGrows(const std::string& path) { return path == "HRA.ini" || path == "S
 class Disk : public testing::Test {
 protected:
     Disk() {
-        copyFolder(raceDay(), work_);
-        old_ = filesBelow(work_);
-        EXPECT_EQ(0, runConsole(work_, aNight).status);
-        new_ = filesBelow(work_);
+        copyFolder(raceDay(), work);
+        oldFiles = filesBelow(work);
+        EXPECT_EQ(0, runConsole(work, aNight).status);
+        newFiles = filesBelow(work);
     }
 
     /// Every file as it was or whole. What was worked out from an archive follows the archive that there is,
     /// and the batch file names the last report that could be shown.
-    void checkWhole(const fs::path& folder) const {
-        for (const auto& [path, content] : filesBelow(folder)) {
+    void checkWhole(const fs::path& written) const {
+        for (const auto& [path, content] : filesBelow(written)) {
             EXPECT_EQ(std::string::npos, path.find(".quillon-")) << path << " is left";
-            const auto old = old_.find(path);
+            const auto old = oldFiles.find(path);
             const bool fromArchive = path == "HRA.txt" || path == "Profile Results.txt" ||
                                      path == "Wins by Track.txt" || path == "TargetTracks.txt" ||
                                      path == "Archives.bat";
-            const bool logStarted = path == "TEST.txt" && new_.at(path).starts_with(content);
-            EXPECT_TRUE((old != old_.end() && content == old->second) || content == new_.at(path) ||
+            const bool logStarted = path == "TEST.txt" && newFiles.at(path).starts_with(content);
+            EXPECT_TRUE((old != oldFiles.end() && content == old->second) || content == newFiles.at(path) ||
                         (fromArchive && content.ends_with('\n')) || logStarted)
                 << path << " is torn: " << content.substr(0, 200);
         }
-        for (const auto& [path, content] : old_) EXPECT_TRUE(fs::exists(folder / path)) << path << " is gone";
+        for (const auto& [path, content] : oldFiles)
+            EXPECT_TRUE(fs::exists(written / path)) << path << " is gone";
     }
 
-    void checkNextRun(const fs::path& folder) const {
-        EXPECT_EQ(0, runConsole(folder, aNight).status);
-        const Files files = filesBelow(folder);
-        for (const auto& [path, content] : new_) {
+    void checkNextRun(const fs::path& written) const {
+        EXPECT_EQ(0, runConsole(written, aNight).status);
+        const Files files = filesBelow(written);
+        for (const auto& [path, content] : newFiles) {
             ASSERT_TRUE(files.contains(path)) << path;
             EXPECT_TRUE(onlyGrows(path) || content == files.at(path)) << path;
         }
-        EXPECT_EQ(new_.at("HRA.ini"), files.at("HRA.ini")); // archived by the first console or the second
+        EXPECT_EQ(newFiles.at("HRA.ini"), files.at("HRA.ini")); // archived by the first console or the second
     }
 
-    TemporaryFolder folder_;
-    fs::path work_ = folder_ / "work";
-    Files old_, new_;
+    TemporaryFolder folder;
+    fs::path work = folder / "work";
+    Files oldFiles, newFiles;
 };
 
 TEST_F(Disk, FilesThatMayNotGrowBeyondASizeStayWhole) {
     std::vector<long> sizes{0, 1, 100, 4096, 50000, 100000, 400000};
     for (const char* path : {"HRA.ini", "Stars5.ini", "TEST.txt", "Archives.bat"})
-        sizes.push_back(static_cast<long>(new_.at(path).size()) - 1);
+        sizes.push_back(static_cast<long>(newFiles.at(path).size()) - 1);
     for (const long size : sizes) {
         SCOPED_TRACE("at most " + std::to_string(size) + " bytes");
-        copyFolder(raceDay(), work_);
-        const Outcome outcome = runConsole(work_, aNight, {}, {.fileSize = size});
+        copyFolder(raceDay(), work);
+        const Outcome outcome = runConsole(work, aNight, {}, {.fileSize = size});
         EXPECT_EQ(0, outcome.status);
         EXPECT_TRUE(reachesItsEnd(outcome.transcript));
-        checkWhole(work_);
-        checkNextRun(work_);
+        checkWhole(work);
+        checkNextRun(work);
     }
 }
 
 TEST_F(Disk, AFullDiskLeavesFilesWhole) {
-    const fs::path disk = folder_ / "disk";
+    const fs::path disk = folder / "disk";
     fs::create_directory(disk);
     if (::mount("tmpfs", disk.c_str(), "tmpfs", 0, "size=4m") != 0)
         GTEST_SKIP() << "a disk can be mounted by the superuser alone";
@@ -108,30 +109,30 @@ TEST_F(Disk, AFullDiskLeavesFilesWhole) {
 // By a user to whom the folder belongs to another, or by a disk that refuses everything from the first call
 // on.
 TEST_F(Disk, AFolderThatCanNotBeWrittenStaysAsItWas) {
-    copyFolder(raceDay(), work_);
-    const Outcome refused = runConsole(work_, aNight, {Kind::stay, 1});
+    copyFolder(raceDay(), work);
+    const Outcome refused = runConsole(work, aNight, {Kind::stay, 1});
     EXPECT_EQ(0, refused.status);
     EXPECT_TRUE(reachesItsEnd(refused.transcript));
-    EXPECT_EQ(old_, filesBelow(work_));
+    EXPECT_EQ(oldFiles, filesBelow(work));
 
     if (geteuid() == 0) {
         constexpr int nobody = 65534;
-        for (const fs::path& above : {folder_.path(), work_}) fs::permissions(above, fs::perms{0755});
-        const Outcome foreign = runConsole(work_, aNight, {}, {.user = nobody});
+        for (const fs::path& above : {folder.path(), work}) fs::permissions(above, fs::perms{0755});
+        const Outcome foreign = runConsole(work, aNight, {}, {.user = nobody});
         EXPECT_EQ(0, foreign.status);
         EXPECT_TRUE(reachesItsEnd(foreign.transcript));
-        EXPECT_EQ(old_, filesBelow(work_));
+        EXPECT_EQ(oldFiles, filesBelow(work));
     }
 }
 
 TEST_F(Disk, ASaveIntoAFolderThatCanNotBeWrittenTellsSo) {
-    const Outcome outcome = runConsole(work_, std::string{recall} + "Save\n" + lastCommand, {Kind::stay, 1});
+    const Outcome outcome = runConsole(work, std::string{recall} + "Save\n" + lastCommand, {Kind::stay, 1});
     EXPECT_NE(std::string::npos, outcome.transcript.find("> Save\nerror: ")) << outcome.transcript;
     EXPECT_TRUE(reachesItsEnd(outcome.transcript));
 }
 
 TEST_F(Disk, AnInputThatCanNotBeReadEndsTheConsole) {
-    EXPECT_EQ(0, runConsole(work_, "", {}, {.input = folder_.path()}).status);
+    EXPECT_EQ(0, runConsole(work, "", {}, {.input = folder.path()}).status);
 }
 
 } // namespace

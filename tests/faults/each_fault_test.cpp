@@ -87,22 +87,22 @@ private:
 class EachFault : public testing::TestWithParam<Work> {
 protected:
     EachFault() {
-        copyFolder(raceDay(), before_);
+        copyFolder(raceDay(), before);
         if (std::string_view{GetParam().name}.ends_with("WithoutFolders"))
             for (const char* written :
                  {"Archives", "Drivers", "Programs", "Race Cards", "Selections", "Selections2"})
-                fs::remove_all(before_ / "A Quillon PRO" / written);
-        old_ = filesBelow(before_);
-        allowed_.add(old_);
+                fs::remove_all(before / "A Quillon PRO" / written);
+        oldFiles = filesBelow(before);
+        allowed.add(oldFiles);
         const auto& lines = GetParam().script;
         for (std::size_t count = 1; count <= lines.size(); ++count) {
-            copyFolder(before_, work_);
-            undisturbed_ = runConsole(work_, scriptOf(lines, count));
-            allowed_.add(filesBelow(work_));
-            if (count == GetParam().before) callsBefore_ = undisturbed_.calls.size();
+            copyFolder(before, work);
+            undisturbed = runConsole(work, scriptOf(lines, count));
+            allowed.add(filesBelow(work));
+            if (count == GetParam().before) callsBefore = undisturbed.calls.size();
         }
-        new_ = filesBelow(work_);
-        again_ = runConsole(work_, script_);
+        newFiles = filesBelow(work);
+        again = runConsole(work, script);
     }
 
     bool grows(const std::string& path) const {
@@ -110,23 +110,23 @@ protected:
     }
 
     std::string record(const std::string& path) const {
-        const auto old = old_.find(path);
-        return new_.at(path).substr(old == old_.end() ? 0 : old->second.size());
+        const auto old = oldFiles.find(path);
+        return newFiles.at(path).substr(old == oldFiles.end() ? 0 : old->second.size());
     }
 
     bool isNoWrite(std::size_t call) const {
-        const auto& calls = undisturbed_.calls;
+        const auto& calls = undisturbed.calls;
         return call <= calls.size() && !calls[call - 1].starts_with("write");
     }
 
     /// Runs with each call in turn disturbed, until a run meets no fault.
     template <class Check>
     void disturbEach(Kind kind, Check check) {
-        ASSERT_GT(undisturbed_.calls.size(), callsBefore_) << "nothing is written at all";
-        for (std::size_t at = callsBefore_ + 1;; ++at) {
+        ASSERT_GT(undisturbed.calls.size(), callsBefore) << "nothing is written at all";
+        for (std::size_t at = callsBefore + 1;; ++at) {
             if (kind == Kind::torn && isNoWrite(at)) continue;
-            copyFolder(before_, work_);
-            const Outcome outcome = runConsole(work_, script_, {kind, static_cast<long>(at)});
+            copyFolder(before, work);
+            const Outcome outcome = runConsole(work, script, {kind, static_cast<long>(at)});
             if (outcome.calls.size() < at) return;
             SCOPED_TRACE("call " + std::to_string(at) + ", " + outcome.calls[at - 1]);
             check(outcome);
@@ -143,35 +143,36 @@ protected:
 
     /// Each file is as it was or as a run writes it. A record that could not be taken back may be torn.
     void checkFiles(bool litterAllowed, bool tornAllowed) const {
-        const Files files = filesBelow(work_);
+        const Files files = filesBelow(work);
         for (const auto& [path, content] : files) {
-            if (isLeftover(path, litterAllowed) || allowed_.has(path, content)) continue;
-            const auto old = old_.find(path);
-            const std::string start = old == old_.end() ? "" : old->second;
-            const bool torn = grows(path) && content.starts_with(start) && new_.at(path).starts_with(content);
+            if (isLeftover(path, litterAllowed) || allowed.has(path, content)) continue;
+            const auto old = oldFiles.find(path);
+            const std::string start = old == oldFiles.end() ? "" : old->second;
+            const bool torn =
+                grows(path) && content.starts_with(start) && newFiles.at(path).starts_with(content);
             const bool begun = torn && content.empty() && litterAllowed; // a new file, nothing in it yet
             EXPECT_TRUE(begun || (torn && tornAllowed)) << path << " is torn: " << content;
         }
-        for (const auto& [path, content] : old_) EXPECT_TRUE(files.contains(path)) << path << " is gone";
+        for (const auto& [path, content] : oldFiles) EXPECT_TRUE(files.contains(path)) << path << " is gone";
     }
 
     /// The folder as the fault left it serves the next console as any other does.
     void checkNextRun() {
-        const Files left = filesBelow(work_);
-        if (!served_.insert(left).second) return; // many faults leave the same files
-        const Outcome next = runConsole(work_, script_);
+        const Files left = filesBelow(work);
+        if (!served.insert(left).second) return; // many faults leave the same files
+        const Outcome next = runConsole(work, script);
         EXPECT_EQ(0, next.status);
-        EXPECT_TRUE(next.transcript == undisturbed_.transcript || next.transcript == again_.transcript)
+        EXPECT_TRUE(next.transcript == undisturbed.transcript || next.transcript == again.transcript)
             << next.transcript;
-        const Files files = filesBelow(work_);
+        const Files files = filesBelow(work);
         for (const auto& [path, content] : files) {
             if (isLeftover(path, false)) continue;
-            if (grows(path) && !allowed_.has(path, content))
+            if (grows(path) && !allowed.has(path, content))
                 checkGrown(path, left.contains(path) ? left.at(path) : "", content);
             else
-                EXPECT_TRUE(allowed_.has(path, content)) << path;
+                EXPECT_TRUE(allowed.has(path, content)) << path;
         }
-        for (const auto& [path, content] : new_)
+        for (const auto& [path, content] : newFiles)
             EXPECT_TRUE(path == GetParam().second || files.contains(path)) << path << " is missing";
     }
 
@@ -184,15 +185,15 @@ protected:
             << path << ": " << grown;
     }
 
-    TemporaryFolder folder_;
-    fs::path before_ = folder_ / "before";
-    fs::path work_ = folder_ / "work";
-    std::string script_ = scriptOf(GetParam().script, GetParam().script.size());
-    Files old_, new_;
-    Allowed allowed_;
-    Outcome undisturbed_, again_;
-    std::size_t callsBefore_ = 0;
-    std::set<Files> served_; ///< what a next console was tried on
+    TemporaryFolder folder;
+    fs::path before = folder / "before";
+    fs::path work = folder / "work";
+    std::string script = scriptOf(GetParam().script, GetParam().script.size());
+    Files oldFiles, newFiles;
+    Allowed allowed;
+    Outcome undisturbed, again;
+    std::size_t callsBefore = 0;
+    std::set<Files> served; ///< what a next console was tried on
 };
 
 TEST_P(EachFault, LeavesEveryFileWholeAndTheConsoleGoingOn) {

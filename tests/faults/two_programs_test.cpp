@@ -38,17 +38,17 @@ std::multiset<std::string> linesOf(const std::string& text) {
 
 class TwoPrograms : public testing::Test {
 protected:
-    TwoPrograms() { copyFolder(raceDay(), work_); }
+    TwoPrograms() { copyFolder(raceDay(), work); }
 
     std::string afterOne(const std::string& script, const char* path) {
-        const fs::path alone = folder_ / "alone";
+        const fs::path alone = folder / "alone";
         copyFolder(raceDay(), alone);
         EXPECT_EQ(0, runConsole(alone, script).status);
         return bytesOf(alone / path);
     }
 
-    TemporaryFolder folder_;
-    fs::path work_ = folder_ / "work";
+    TemporaryFolder folder;
+    fs::path work = folder / "work";
 };
 
 TEST_F(TwoPrograms, SavingTheSameCardNeverTearsIt) {
@@ -56,14 +56,14 @@ TEST_F(TwoPrograms, SavingTheSameCardNeverTearsIt) {
     const char* const archivePath = "A Quillon PRO/Archives/MVR_20260315.pmx";
     const std::string one = std::string{recall} + "Box 4 1\nSave\n";
     const std::string two = std::string{recall} + "Box 4 2\nBox 5 12\nSave\n";
-    const std::set<std::string> whole{bytesOf(work_ / cardPath), afterOne(one, cardPath),
+    const std::set<std::string> whole{bytesOf(work / cardPath), afterOne(one, cardPath),
                                       afterOne(two, cardPath)};
     ASSERT_EQ(3u, whole.size());
-    const std::string archive = bytesOf(work_ / archivePath);
+    const std::string archive = bytesOf(work / archivePath);
 
     constexpr int saves = 30;
-    ConsoleProcess first{work_, one + repeated("Save\n", saves) + lastCommand};
-    ConsoleProcess second{work_, two + repeated("Save\n", saves) + lastCommand};
+    ConsoleProcess first{work, one + repeated("Save\n", saves) + lastCommand};
+    ConsoleProcess second{work, two + repeated("Save\n", saves) + lastCommand};
     int looks = 0;
     std::atomic<bool> working = true;
     Outcome firstEnd, secondEnd;
@@ -74,8 +74,8 @@ TEST_F(TwoPrograms, SavingTheSameCardNeverTearsIt) {
     }};
     std::set<std::string> seen;
     while (working) {
-        seen.insert(bytesOf(work_ / cardPath));
-        seen.insert(bytesOf(work_ / archivePath));
+        seen.insert(bytesOf(work / cardPath));
+        seen.insert(bytesOf(work / archivePath));
         ++looks;
     }
     wait.join();
@@ -86,7 +86,7 @@ TEST_F(TwoPrograms, SavingTheSameCardNeverTearsIt) {
         EXPECT_TRUE(reachesItsEnd(end->transcript));
         EXPECT_EQ(std::string::npos, end->transcript.find("error: ")) << end->transcript;
     }
-    for (const auto& [path, content] : filesBelow(work_))
+    for (const auto& [path, content] : filesBelow(work))
         EXPECT_EQ(std::string::npos, path.find(".quillon-")) << path << " is left";
 }
 
@@ -102,13 +102,13 @@ TEST_F(TwoPrograms, RecordsNeverMerge) {
     ASSERT_EQ(1u * entries, once.count(*once.begin()));
     ASSERT_EQ(1u * entries, twice.count(*twice.begin()));
 
-    ConsoleProcess first{work_, scriptOf("6")};
-    ConsoleProcess second{work_, scriptOf("7")};
+    ConsoleProcess first{work, scriptOf("6")};
+    ConsoleProcess second{work, scriptOf("7")};
     first.wait();
     second.wait();
     auto all = once;
     all.insert(twice.begin(), twice.end());
-    EXPECT_EQ(all, linesOf(bytesOf(work_ / log)));
+    EXPECT_EQ(all, linesOf(bytesOf(work / log)));
 }
 
 } // namespace
