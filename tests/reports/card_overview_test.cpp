@@ -12,6 +12,7 @@ class CardOverviewTest : public SheetTest {
 protected:
     static std::vector<Text> rowOf(const Grid& overview, int row) {
         std::vector<Text> texts;
+        texts.reserve(static_cast<std::size_t>(overview.columns()));
         for (int column = 0; column < overview.columns(); ++column)
             texts.push_back(overview.text(row, column));
         return texts;
