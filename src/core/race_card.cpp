@@ -63,14 +63,6 @@ TextView LineCellTable::read(int lineNumber, int column) const {
     return TextView{line->joined}.substr(begin, line->ends[at] - begin);
 }
 
-void LineCellTable::write(int lineNumber, int column, TextView cell) {
-    const std::size_t written = columnAt(column);
-    std::array<TextView, lineCellColumns> cells;
-    for (std::size_t at = 0; at < cells.size(); ++at) cells[at] = read(lineNumber, static_cast<int>(at));
-    cells[written] = cell;
-    writeLine(lineNumber, cells);
-}
-
 void LineCellTable::writeLine(int lineNumber, std::span<const TextView, lineCellColumns> cells) {
     auto line = std::make_unique<Line>();
     std::size_t length = 0;

@@ -153,10 +153,7 @@ public:
     /// outside the bounds.
     TextView read(int lineNumber, int column) const;
 
-    /// Fails outside the bounds.
-    void write(int lineNumber, int column, TextView cell);
-
-    /// Writes a whole line: column 0 from the first cell, and so on. Fails outside the bounds.
+    /// Writes all cells of a line: column 0 from the first cell, and so on. Fails outside the bounds.
     void writeLine(int lineNumber, std::span<const TextView, lineCellColumns> cells);
 
     void clear();

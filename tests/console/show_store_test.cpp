@@ -51,8 +51,8 @@ const StoreCase storeCases[] = {
     {"DriverTable(4).name\tBarlow,A", [] { card.driverTable(4).name = "Barlow,A"; }},
     {"DriverTable(300).udr\t.212", [] { card.driverTable(300).udr = ".212"; }},
     {"TrainerTable(200)\tOddie,P", [] { card.trainerTable(200) = "Oddie,P"; }},
-    {"LineCells(17,38)\t 30.1", [] { card.lineCells.write(17, 38, " 30.1"); }},
-    {"LineCells(3000,40)\tlast", [] { card.lineCells.write(3000, 40, "last"); }},
+    {"LineCells(17,38)\t 30.1", [] { writeLineCell(17, 38, " 30.1"); }},
+    {"LineCells(3000,40)\tlast", [] { writeLineCell(3000, 40, "last"); }},
     {"rankEntry(5)\t12", [] { card.rankEntry(5) = 12; }},
     {"SelectionSet(1,2).selectionName\tPlain Biscuit",
      [] { card.selection(1, 2).selectionName = "Plain Biscuit"; }},
@@ -96,7 +96,7 @@ TEST_F(StoreShowTest, ComesInItsOrder) {
     card.raceOutcome(1, 5) = "o";
     card.selection(1, 1).selectionName = "S1";
     card.rankEntry(1) = 3;
-    card.lineCells.write(1, 1, "c");
+    writeLineCell(1, 1, "c");
     card.trainerTable(1) = "t";
     card.driverTable(2).name = "d2";
     card.driverTable(1).udr = "u1";

@@ -40,12 +40,13 @@ TEST_F(CardTest, ALineWrittenIntoABlankSlotKeepsTheRestOfTheBlank) {
     EXPECT_EQ("", card.pastLine.write(2, 5, 8).PURSE);
 }
 
-TEST_F(CardTest, AKeptCellLeavesTheOthersOfItsLine) {
-    card.lineCells.write(7, 5, "101");
-    card.lineCells.write(7, 2, "12");
-    card.lineCells.write(7, 40, "last");
-    card.lineCells.write(7, 0, "first");
-    card.lineCells.write(7, 5, "a longer one");
+TEST_F(CardTest, AKeptLineHasItsCellsByColumn) {
+    std::array<TextView, lineCellColumns> cells;
+    cells[0] = "first";
+    cells[2] = "12";
+    cells[5] = "a longer one";
+    cells[40] = "last";
+    card.lineCells.writeLine(7, cells);
     for (int column = 0; column < lineCellColumns; ++column) {
         const TextView expected = column == 0    ? "first"
                                   : column == 2  ? "12"
@@ -59,11 +60,11 @@ TEST_F(CardTest, AKeptCellLeavesTheOthersOfItsLine) {
     EXPECT_EQ("", card.lineCells.read(7, 5));
 }
 
-TEST_F(CardTest, AKeptLineIsWrittenWhole) {
+TEST_F(CardTest, ALineKeptAnewLeavesNothingOfTheOldOne) {
     std::array<TextView, lineCellColumns> cells;
     cells[1] = "20260304";
     cells[38] = " 61.3";
-    card.lineCells.write(1, 2, "left by the line before");
+    writeLineCell(1, 2, "left by the line before");
     card.lineCells.writeLine(1, cells);
     EXPECT_EQ("20260304", card.lineCells.read(1, 1));
     EXPECT_EQ("", card.lineCells.read(1, 2));
@@ -77,12 +78,9 @@ TEST_F(CardTest, TheStoreHasTheBoundsOfACard) {
     EXPECT_FALSE(attempt([] { card.entry(1, 21).rating = "58.0"; }));
     EXPECT_TRUE(attempt([] { card.pastLine.write(1, 1, 30).POST = "1"; }));
     EXPECT_FALSE(attempt([] { card.pastLine.write(1, 1, 31).POST = "1"; }));
-    EXPECT_TRUE(attempt([] { card.lineCells.write(3000, 39, "1"); }));
-    EXPECT_FALSE(attempt([] { card.lineCells.write(3001, 39, "1"); }));
-    for (const int column : {-1, 41}) {
-        EXPECT_FALSE(attempt([=] { card.lineCells.write(1, column, "1"); }));
-        EXPECT_FALSE(attempt([=] { (void)card.lineCells.read(1, column); }));
-    }
+    EXPECT_TRUE(attempt([] { writeLineCell(3000, 39, "1"); }));
+    EXPECT_FALSE(attempt([] { writeLineCell(3001, 39, "1"); }));
+    for (const int column : {-1, 41}) EXPECT_FALSE(attempt([=] { (void)card.lineCells.read(1, column); }));
     EXPECT_FALSE(attempt([] { card.driverTable(301).name = "x"; }));
     EXPECT_FALSE(attempt([] { card.trainerTable(201) = "x"; }));
 }

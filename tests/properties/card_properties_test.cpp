@@ -41,7 +41,7 @@ void walkTheCard() {
 }
 
 TEST_F(CardProperties, NoIndexIsOutsideItsBound) {
-    const std::uint64_t cards = 150u * static_cast<unsigned>(propertyScale());
+    const std::uint64_t cards = 300u * static_cast<unsigned>(propertyScale());
     for (std::uint64_t seed = 1; seed <= cards; ++seed) {
         SCOPED_TRACE("card " + std::to_string(seed));
         start(randomCard(seed, seed % 2 == 0), seed);
@@ -134,7 +134,7 @@ Ranks ranksOfCard() {
 }
 
 TEST_F(CardProperties, RanksAreRatedEntriesInOrderOrStale) {
-    const std::uint64_t cards = 400u * static_cast<unsigned>(propertyScale());
+    const std::uint64_t cards = 800u * static_cast<unsigned>(propertyScale());
     for (std::uint64_t seed = 1; seed <= cards && !HasFailure(); ++seed) {
         SCOPED_TRACE("card " + std::to_string(seed));
         start(randomCard(seed, seed % 2 == 0), seed);
@@ -150,7 +150,7 @@ TEST_F(CardProperties, RanksAreRatedEntriesInOrderOrStale) {
 }
 
 TEST_F(CardProperties, RanksBehindAScratchAreRatedEntriesInOrderOrStale) {
-    const std::uint64_t cards = 200u * static_cast<unsigned>(propertyScale());
+    const std::uint64_t cards = 400u * static_cast<unsigned>(propertyScale());
     int scratches = 0;
     for (std::uint64_t seed = 1; seed <= cards && !HasFailure(); ++seed) {
         SCOPED_TRACE("card " + std::to_string(seed));
@@ -217,7 +217,7 @@ void expectCountsOfMarks() {
 }
 
 TEST_F(CardProperties, TheTotalsOfTheSummaryAreTheSumsOfItsCells) {
-    const std::uint64_t cards = 400u * static_cast<unsigned>(propertyScale());
+    const std::uint64_t cards = 800u * static_cast<unsigned>(propertyScale());
     std::uint64_t checked = 0, paid = 0;
     for (std::uint64_t seed = 1; seed <= cards && !HasFailure(); ++seed) {
         SCOPED_TRACE("card " + std::to_string(seed));
@@ -249,7 +249,7 @@ void writeReports() {
 }
 
 TEST_F(CardProperties, AReportThatIsWrittenAgainIsTheSame) {
-    const std::uint64_t cards = 150u * static_cast<unsigned>(propertyScale());
+    const std::uint64_t cards = 300u * static_cast<unsigned>(propertyScale());
     for (std::uint64_t seed = 1; seed <= cards && !HasFailure(); ++seed) {
         SCOPED_TRACE("card " + std::to_string(seed));
         const samples::Card drawn = randomCard(seed, seed % 2 == 0);

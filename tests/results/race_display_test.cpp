@@ -490,7 +490,7 @@ protected:
         card.entry(5, 4).horseName = "Corner Boy";
         for (int row = 1; row <= 7; ++row)
             for (int column = 1; column <= 39; ++column)
-                card.lineCells.write(55 + row, column, screen.dataView[5].text(row, column));
+                writeLineCell(55 + row, column, screen.dataView[5].text(row, column));
         card.entry(5, 4).chosenLineNumber = 61;
     }
 };

@@ -213,12 +213,12 @@ TEST_F(CardFileTest, ALineEndInsideAValueCannotMoveTheValuesBehindIt) {
 }
 
 TEST_F(CardFileTest, TheArchiveHoldsRowsOneTo2300AndColumnsOneTo39) {
-    card.lineCells.write(1, 1, "20260301");
-    card.lineCells.write(2, 38, " 61.3");
-    card.lineCells.write(2300, 39, "last");
-    card.lineCells.write(2301, 1, "a row too many");
-    card.lineCells.write(1, 0, "no such column");
-    card.lineCells.write(1, 40, "nor this");
+    writeLineCell(1, 1, "20260301");
+    writeLineCell(2, 38, " 61.3");
+    writeLineCell(2300, 39, "last");
+    writeLineCell(2301, 1, "a row too many");
+    writeLineCell(1, 0, "no such column");
+    writeLineCell(1, 40, "nor this");
     const auto lines = linesOf(archiveContent(card));
     ASSERT_EQ(89'700U, lines.size() - 1);
     EXPECT_EQ("\"20260301\"", lines.at(1));
@@ -348,7 +348,7 @@ TEST_F(CardFileTest, WhatStandsBehindTheLastValueIsNotRead) {
     readBack(written + "\"more\"\r\n\"and more\"\r\n");
     EXPECT_EQ(written, cardFileContent(card));
 
-    card.lineCells.write(2300, 39, "12");
+    writeLineCell(2300, 39, "12");
     const std::string archive = archiveContent(card);
     takeArchive(archive + "\"more\"\r\n", card);
     EXPECT_EQ(archive, archiveContent(card));
@@ -399,8 +399,8 @@ TEST_F(CardFileTest, AFileThatIsNoCardAtAllDoesNoHarm) {
 }
 
 TEST_F(CardFileTest, CellsThatAnArchiveDoesNotHoldAreEmpty) {
-    card.lineCells.write(1, 2, "left by another card");
-    card.lineCells.write(2301, 1, "left by another card");
+    writeLineCell(1, 2, "left by another card");
+    writeLineCell(2301, 1, "left by another card");
     takeArchive("\"20260301\"\r\n", card);
     EXPECT_EQ("20260301", card.lineCells.read(1, 1));
     EXPECT_EQ("", card.lineCells.read(1, 2));

@@ -44,10 +44,10 @@ protected:
 
     /// A past line in the archive's columns: race, post, HN and its date.
     static void line(int row, const char* race, const char* post, const char* horse, const char* date) {
-        card.lineCells.write(row, 1, date);
-        card.lineCells.write(row, 2, race);
-        card.lineCells.write(row, 4, post);
-        card.lineCells.write(row, 5, horse);
+        writeLineCell(row, 1, date);
+        writeLineCell(row, 2, race);
+        writeLineCell(row, 4, post);
+        writeLineCell(row, 5, horse);
     }
 
     static Text dataCell(int race, int row, int column) {
@@ -303,8 +303,8 @@ TEST_F(RecallTest, LinesComeBackIntoTheViewOfTheirRace) {
     line(1, "1", "1", "1", "20260301");
     line(2, "2", "1", "2", "20260302");
     line(3, "1", "2", "3", "20260303");
-    card.lineCells.write(3, 38, " 61.3");
-    card.lineCells.write(3, 39, "2");
+    writeLineCell(3, 38, " 61.3");
+    writeLineCell(3, 39, "2");
     line(4, "", "1", "3", "20260304");   // of no race
     line(5, "24", "1", "3", "20260305"); // of a race without a view
     saveAndStartAnew();
@@ -378,8 +378,8 @@ TEST_F(RecallTest, APostWithoutAnEntryLosesItsHeadAndKeepsItsLines) {
 TEST_F(RecallTest, AViewTakesItsFirst199Lines) {
     named(1, 2, "Last");
     for (int row = 1; row <= 201; ++row) line(row, "1", "1", "1", std::to_string(row).c_str());
-    card.lineCells.write(199, 5, "2"); // a head whose second and third cell lie behind the view
-    card.lineCells.write(199, 4, "2");
+    writeLineCell(199, 5, "2"); // a head whose second and third cell lie behind the view
+    writeLineCell(199, 4, "2");
     line(202, "2", "1", "3", "20260301");
     saveAndStartAnew();
     recall();
@@ -414,7 +414,7 @@ TEST_F(RecallTest, AMissingArchiveLeavesTheCardWithoutLines) {
     line(1, "1", "1", "1", "20260301");
     saveAndStartAnew();
     fs::remove(archivePath);
-    card.lineCells.write(1, 2, "1"); // left by a card before it
+    writeLineCell(1, 2, "1"); // left by a card before it
     recall();
     EXPECT_EQ("Some Horse", raceCell(1, 1, 0));
     EXPECT_EQ("", card.lineCells.read(1, 2));

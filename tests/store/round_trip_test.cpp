@@ -21,7 +21,7 @@ public:
         const int races = 1 + below(23);
         for (int race = 1; race <= races; ++race) fillRace(race);
         for (int row = 1; row <= 300; ++row)
-            for (int column = 1; column <= 39; ++column) card.lineCells.write(row, column, text());
+            for (int column = 1; column <= 39; ++column) writeLineCell(row, column, text());
         named(races, 1 + below(12));
     }
 

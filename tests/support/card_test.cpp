@@ -55,6 +55,14 @@ std::string titled(const std::string& kind, const Text& title) {
 
 } // namespace
 
+void writeLineCell(int lineNumber, int column, TextView cell) {
+    std::array<TextView, lineCellColumns> cells;
+    for (std::size_t at = 0; at < cells.size(); ++at)
+        cells[at] = card.lineCells.read(lineNumber, static_cast<int>(at));
+    cells.at(static_cast<std::size_t>(column)) = cell;
+    card.lineCells.writeLine(lineNumber, cells);
+}
+
 CardTest::CardTest() : folder_(freshFolder()), before_(fs::current_path()) {
     fs::current_path(folder_);
     card.clear();

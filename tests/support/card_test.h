@@ -16,6 +16,9 @@
 
 namespace quillon {
 
+/// Writes one of a line's kept cells and leaves the others.
+void writeLineCell(int lineNumber, int column, TextView cell);
+
 class CardTest : public testing::Test {
 protected:
     CardTest();
