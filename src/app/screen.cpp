@@ -102,6 +102,11 @@ Screen::Screen() {
     raceView.fill(Grid{raceViewRows, raceViewColumns});
 }
 
+void Screen::clearCardViews() {
+    for (Grid& view : dataView) view.clear();
+    for (Grid& view : raceView) view.clear();
+}
+
 void Screen::clear() {
     std::destroy_at(this);
     std::construct_at(this);

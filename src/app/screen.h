@@ -272,6 +272,9 @@ struct Screen {
     MenuState& item(MenuItem item) { return menu[static_cast<std::size_t>(item)]; }
     const MenuState& item(MenuItem item) const { return menu[static_cast<std::size_t>(item)]; }
 
+    /// Empties the rows of all data and race views; their heads stay.
+    void clearCardViews();
+
     /// Everything empty, as before start-up.
     void clear();
 };

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 #include <utility>
 
 namespace quillon {
@@ -137,6 +138,24 @@ std::vector<Text> filesIn(Folder folder, TextView extension) {
     return names;
 }
 
+namespace {
+
+// False for a file that is too large to be one of ours, or for the memory that there is.
+bool hasRoomFor(std::streamoff size, Text& content) {
+    constexpr std::streamoff largest = std::streamoff{1} << 30;
+    if (size > largest) return false;
+    try {
+        content.resize(static_cast<std::size_t>(size));
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
+} // namespace
+
+bool fileExists(const FilePlace& place) { return disk::isFile(pathOnDisk(place)); }
+
 std::optional<Text> fileContent(const FilePlace& place) {
     const fs::path path = pathOnDisk(place);
     if (!disk::isFile(path)) return std::nullopt;
@@ -144,7 +163,8 @@ std::optional<Text> fileContent(const FilePlace& place) {
     if (!file) return std::nullopt;
     const auto size = file.tellg();
     if (size < 0) return std::nullopt;
-    Text content(static_cast<std::size_t>(size), '\0');
+    Text content;
+    if (!hasRoomFor(size, content)) return std::nullopt;
     file.seekg(0);
     file.read(content.data(), size);
     content.resize(static_cast<std::size_t>(file.gcount()));

@@ -51,7 +51,11 @@ std::filesystem::path pathOnDisk(const FilePlace& place);
 /// folder.
 std::vector<Text> filesIn(Folder folder, TextView extension);
 
-/// The whole file, or nothing when it can't be opened or read.
+/// True where the file is there, whether or not it can be read.
+bool fileExists(const FilePlace& place);
+
+/// The whole file, or nothing when it can't be opened or read, or is too large for memory or for one of ours
+/// (a gigabyte).
 std::optional<Text> fileContent(const FilePlace& place);
 
 /// The whole file; fails when it can't be opened or read.

@@ -80,6 +80,7 @@ void LineCellTable::clear() { lines_.clear(); }
 
 void RaceCard::clear() {
     forEachField(cardScalars, *this, [](TextView, auto& value) { value = std::decay_t<decltype(value)>{}; });
+    unreadFile.clear();
     starPercentage.clear();
     raceInfo.clear();
     entry.clear();

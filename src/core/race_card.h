@@ -185,6 +185,7 @@ struct RaceCard {
     Integer s3Wins = 0;
     Integer s4Wins = 0;
     Integer superfectaRaces = 0;
+    Text unreadFile{};     ///< file of the recalled card that couldn't be read: a save would write over it
     Text starPercentage{}; ///< of the star sheet, as printed: empty until the first race of a sheet has ended
 
     Table<RaceInfo, raceExtent> raceInfo;

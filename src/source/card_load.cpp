@@ -369,6 +369,7 @@ void Start() {
 
     ShowLineTable();
     screen.lineTaken.clear();
+    card.unreadFile.clear();
     readTrackTable();
     FrameCard();
     attempt(ReadDrivers);

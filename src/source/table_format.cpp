@@ -1,6 +1,7 @@
 #include "source/table_format.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace quillon {
 namespace {
@@ -130,7 +131,8 @@ Descriptor descriptorIn(TextView bytes, const HeaderShape& shape) {
 
 struct DescriptorList {
     std::vector<Descriptor> fields;
-    bool ended = false; ///< by its end mark, and not by the end of the header or file
+    std::size_t end = 0; ///< in the header, with its end mark
+    bool ended = false;  ///< by its end mark, and not by the end of the header or file
 };
 
 DescriptorList descriptorsIn(TextView header, const HeaderShape& shape) {
@@ -142,6 +144,7 @@ DescriptorList descriptorsIn(TextView header, const HeaderShape& shape) {
         place += shape.descriptorLength;
     }
     list.ended = place < header.size() && header[place] == endOfFields;
+    list.end = place + (list.ended ? 1 : 0);
     return list;
 }
 
@@ -176,11 +179,79 @@ void layOut(const std::vector<Descriptor>& descriptors, Family family, bool wide
                             ", the first is field " + std::to_string(first - format.fields.begin() + 1));
 }
 
+std::size_t wholeRows(TextView content, std::size_t firstRow, std::size_t rowLength) {
+    const std::size_t counted = lowFirst<std::uint32_t>(content, rowCountPlace);
+    return std::min(counted, (content.size() - firstRow) / rowLength);
+}
+
+// True where all that is counted is there, and the end of the table right behind it.
+bool fillTheFile(TextView content, std::size_t firstRow, std::size_t rowLength) {
+    const std::size_t counted = lowFirst<std::uint32_t>(content, rowCountPlace);
+    if (counted != wholeRows(content, firstRow, rowLength)) return false;
+    const TextView rest = content.substr(firstRow + counted * rowLength);
+    return rest.empty() ? content.back() != endOfTable : rest[0] == endOfTable;
+}
+
+// True where each row begins with a flag and none holds the end mark: rows that are cut in the wrong places
+// begin with anything.
+bool areWellCut(TextView content, std::size_t firstRow, std::size_t rowLength) {
+    const std::size_t rows = wholeRows(content, firstRow, rowLength);
+    for (std::size_t row = 0; row < rows; ++row) {
+        const char flag = content[firstRow + row * rowLength];
+        if (flag == endOfTable) return true;
+        if (flag != blank && flag != deletedFlag) return false;
+    }
+    const bool endsTheFile = firstRow + rows * rowLength == content.size();
+    return rows == 0 || !endsTheFile || content.back() != endOfTable;
+}
+
+struct RowPlace {
+    std::size_t firstRow;
+    std::size_t rowLength;
+};
+
+// Where the counted rows lie when the last one ends the file: the place of the first where the header's
+// length lies.
+std::optional<RowPlace> placeFromTheEnd(TextView content, std::size_t headerEnd, std::size_t rowLength) {
+    const std::size_t counted = lowFirst<std::uint32_t>(content, rowCountPlace);
+    const std::size_t end = content.size() - (content.back() == endOfTable ? 1 : 0);
+    if (counted == 0 || counted > end / rowLength || end - counted * rowLength < headerEnd)
+        return std::nullopt;
+    const RowPlace place{end - counted * rowLength, rowLength};
+    if (!areWellCut(content, place.firstRow, rowLength)) return std::nullopt;
+    return place;
+}
+
+// Where the rows lie as the file bears it out: the header may lie about where they start or about how long
+// they are, and then the fields' widths and the end of the file tell it. Nothing where neither does.
+std::optional<RowPlace> provenPlace(TextView content, std::size_t headerEnd, RowPlace said,
+                                    std::size_t ofFields) {
+    if (said.firstRow > content.size()) return std::nullopt;
+    const auto fills = [&](std::size_t length) {
+        return length > 0 && fillTheFile(content, said.firstRow, length);
+    };
+    const auto cutsWell = [&](std::size_t length) {
+        return length > 0 && areWellCut(content, said.firstRow, length);
+    };
+    const bool addsUp = said.rowLength == ofFields;
+    if (addsUp && fills(ofFields)) return said;
+    for (const std::size_t length : {said.rowLength, ofFields})
+        if (fills(length) && cutsWell(length)) return RowPlace{said.firstRow, length};
+
+    const std::size_t counted = lowFirst<std::uint32_t>(content, rowCountPlace);
+    const bool fits = cutsWell(ofFields) && counted == wholeRows(content, said.firstRow, ofFields);
+    if (!fits)
+        if (const auto place = placeFromTheEnd(content, headerEnd, ofFields)) return place;
+    for (const std::size_t length : {said.rowLength, ofFields})
+        if (cutsWell(length) && (addsUp || wholeRows(content, said.firstRow, length) > 0))
+            return RowPlace{said.firstRow, length};
+    return std::nullopt;
+}
+
 // Counts the whole rows that both the header and the file know of.
 void countRows(TextView content, TableFormat& format) {
     const std::size_t counted = lowFirst<std::uint32_t>(content, rowCountPlace);
-    const std::size_t room = content.size() - format.firstRow;
-    const std::size_t whole = room / format.rowLength;
+    const std::size_t whole = (content.size() - format.firstRow) / format.rowLength;
     format.rows = std::min(counted, whole);
     const TextView rest = content.substr(format.firstRow + format.rows * format.rowLength);
     if (counted > whole) {
@@ -213,15 +284,25 @@ TableFormat tableFormat(TextView content) {
     const DescriptorList list = descriptorsIn(content.substr(0, format.firstRow), shape);
     // Some makers leave other things in the high byte; it counts only where the row is that long.
     const bool wide = rowLengthOf(list.fields, true) <= format.rowLength;
-    const bool addsUp = rowLengthOf(list.fields, wide) == format.rowLength;
+    const std::size_t lengthOfFields = rowLengthOf(list.fields, wide);
+    const bool addsUp = lengthOfFields == format.rowLength;
+    const RowPlace said{format.firstRow, format.rowLength};
+    const auto proven = provenPlace(content, list.end, said, lengthOfFields);
+    if (proven) {
+        format.firstRow = proven->firstRow;
+        format.rowLength = proven->rowLength;
+    }
     layOut(list.fields, maker->family, wide, format);
 
     if (!addsUp) damaged("the widths of the fields don't add up to the length of a row");
     if (!list.ended) damaged("the list of fields has no end");
-    if (format.firstRow > content.size()) damaged("the file ends inside the header");
+    if (said.firstRow > content.size())
+        damaged("the file ends inside the header");
+    else if (!proven || proven->firstRow != said.firstRow)
+        damaged("the rows don't begin where the header says");
 
     // A list that breaks off leaves no telling where the rows start, unless its fields fill a row.
-    const bool headerHolds = format.firstRow <= content.size() && (list.ended || addsUp);
+    const bool headerHolds = proven && (list.ended || addsUp);
     const bool anythingToRead = std::any_of(format.fields.begin(), format.fields.end(),
                                             [](const TableField& field) { return field.width > 0; });
     if (headerHolds && anythingToRead) countRows(content, format);

@@ -222,6 +222,9 @@ public:
         if (auto parts = splitLabelAndDistance(race.raceLabelDistance)) {
             race.label = std::move(parts->label);
             race.distance = std::move(parts->distance);
+        } else if (race.label + race.distance != race.raceLabelDistance) { // those of another card
+            race.label.clear();
+            race.distance.clear();
         }
     }
 

@@ -54,13 +54,10 @@ void ClearWindowCounts() {
         }
 }
 
-// The fields of a saved race that no file carries. Label and distance are in the joined text alone, and stay
-// as they are where that doesn't tell them.
+// The fields of a saved race that no file carries.
 void forgetUnsaved(int race) {
     RaceInfo& info = card.raceInfo[{race}];
     info.ratingNote = 0;
-    info.label.clear();
-    info.distance.clear();
     card.raceOutcome[{race, fifthHorseCell}].clear();
     card.selection[{race, rankedPlaces}] = {};
     for (int place = 1; place < rankedPlaces; ++place) card.selection[{race, place}].selectionPost.clear();
@@ -116,7 +113,10 @@ void ForgetWhatNoFileCarries() {
 // A missing card file leaves the store as it is.
 void ReadCardFile() {
     const Step step{"ReadCardFile"};
-    const Text content = readFile({Folder::raceCards, card.cardFileName});
+    const FilePlace place{Folder::raceCards, card.cardFileName};
+    card.unreadFile = shownPath(place);
+    const Text content = readFile(place);
+    card.unreadFile.clear();
     ForgetWhatNoFileCarries();
     takeCardFile(content, card);
 }
@@ -124,8 +124,10 @@ void ReadCardFile() {
 // Without an archive the card has no lines; those of another card would be shown, and saved, as its own.
 void ReadArchive() {
     const Step step{"ReadArchive"};
+    const FilePlace place = cardFile(Folder::archives, "pmx");
     Text content;
-    attempt([&] { content = readFile(cardFile(Folder::archives, "pmx")); });
+    const bool read = attempt([&] { content = readFile(place); });
+    if (!read && fileExists(place)) card.unreadFile = shownPath(place);
     takeArchive(content, card);
 }
 
@@ -256,12 +258,15 @@ void RecallRaceCard() {
 void ChooseFile(const Text& fileName) {
     const Step step{"ChooseFile"};
     card.cardFileName = fileName;
+    card.recallMode =
+        "R"; // also where a move of the races or a results pass has ended it since the list came up
     screen.fileList.visible = false;
     screen.item(MenuItem::ViewSummary).enabled = true;
     screen.start.enabled = true;
     screen.record.enabled = false; // until the card's own summary
     card.raceCount = 0;
     ClearWindowCounts();
+    screen.clearCardViews(); // of a card that was loaded since the list came up
     screen.lineTaken.clear();
     attempt(ReadCardFile);
     attempt(ReadArchive);

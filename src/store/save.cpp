@@ -78,6 +78,8 @@ void insist(Statement&& statement, const Text& error) {
     fail(error);
 }
 
+Text unreadCardError() { return "Card is not saved, since it couldn't be read: " + card.unreadFile; }
+
 } // namespace
 
 void Save() {
@@ -87,6 +89,11 @@ void Save() {
 
 void Save_It() {
     const Step step{"Save_It"};
+    insist(
+        [] {
+            if (!card.unreadFile.empty()) fail(unreadCardError());
+        },
+        unreadCardError());
     attempt(Get_Textbox_Data);
     TakeBackRaceViews();
     card.cardFileName = nameOnShow();
@@ -111,14 +118,16 @@ void Save_It() {
 
 void CloseRC() {
     const Step step{"CloseRC"};
-    if (!card.cardFileName.empty()) Save_It();
+    if (!card.unreadFile.empty())
+        ports.error(unreadCardError()); // there is nothing to save, and it can be put away
+    else if (!card.cardFileName.empty())
+        Save_It();
 
     screen.item(MenuItem::NewRC).enabled = true;
     screen.item(MenuItem::RecallRaceCard).enabled = true;
-    for (Grid& view : screen.dataView) view.clear();
+    screen.clearCardViews();
     for (int race = 1; race <= ratedRaces; ++race)
         screen.dataView[static_cast<std::size_t>(race)](0, 0).text.clear(); // "RACE " and the label
-    for (Grid& view : screen.raceView) view.clear();
     screen.lineTaken.clear();
     screen.record.enabled = false;
     screen.summary.clearAll();

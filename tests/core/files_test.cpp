@@ -2,6 +2,8 @@
 #include "core/files.h"
 #include "support/card_test.h"
 
+#include <cstdint>
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace quillon {
@@ -73,6 +75,15 @@ TEST_F(CardTest, AFileGrowsPieceByPieceBesideTheOldOne) {
     }
     EXPECT_EQ("first " + longPiece + " last", contentOf("HRA.txt"));
     EXPECT_FALSE(exists("HRA.txt.quillon-new"));
+}
+
+TEST_F(CardTest, AFileTooLargeToBeOneOfOursIsThereButNotRead) {
+    put("HRA.ini", "a line\r\n");
+    EXPECT_TRUE(fileExists({Folder::working, "hra.ini"}));
+    EXPECT_FALSE(fileExists({Folder::working, "HRB.ini"}));
+    std::filesystem::resize_file("HRA.ini", (std::uintmax_t{1} << 30) + 1);
+    EXPECT_TRUE(fileExists({Folder::working, "HRA.ini"}));
+    EXPECT_FALSE(fileContent({Folder::working, "HRA.ini"}).has_value());
 }
 
 TEST_F(CardTest, AFileIsReadInPieces) {

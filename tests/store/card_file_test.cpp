@@ -360,13 +360,15 @@ TEST_F(CardFileTest, AFileThatEndsEarlyLeavesTheRestAsItWas) {
     card.entry(1, 2).rating = "old 2";
     card.entry(1, 2).horseName = "old name";
     card.raceInfo(1).label = "7";
+    card.raceInfo(2).label = "8";
     card.payoffRecord(1, 1) = "old pay";
     // The file ends behind value 2 of entry 2: 44 + 2 lines.
     readBack(cardFileWithLine(32, "\"new 1\"", 46));
     EXPECT_EQ("new 1", card.entry(1, 1).rating);
     EXPECT_EQ("old 2", card.entry(1, 2).rating);
     EXPECT_EQ("", card.entry(1, 2).horseName);
-    EXPECT_EQ("7", card.raceInfo(1).label); // an empty joined text tells no label
+    EXPECT_EQ("", card.raceInfo(1).label); // the file says that this race has none
+    EXPECT_EQ("8", card.raceInfo(2).label);
     EXPECT_EQ("old pay", card.payoffRecord(1, 1));
 }
 
@@ -450,12 +452,19 @@ TEST_F(CardFileTest, LabelAndDistanceComeBackFromTheJoinedText) {
     EXPECT_EQ("1", card.raceInfo(5).distance);
 }
 
-TEST_F(CardFileTest, AJoinedTextThatTellsNothingLeavesLabelAndDistance) {
+TEST_F(CardFileTest, AJoinedTextThatTellsNothingLeavesTheLabelAndDistanceThatItWasJoinedFrom) {
+    card.raceInfo(5) = {.label = "5", .distance = "5/8", .raceLabelDistance = "55/8"};
+    readBack(cardFileContent(card));
+    EXPECT_EQ("5", card.raceInfo(5).label);
+    EXPECT_EQ("5/8", card.raceInfo(5).distance);
+}
+
+TEST_F(CardFileTest, AJoinedTextThatTellsNothingLeavesNoLabelOfAnotherCard) {
     card.raceInfo(5).label = "5";
     card.raceInfo(5).distance = "1";
     readBack(cardFileWithLine(entryLine(5, 12, 44), "\"55/8\""));
-    EXPECT_EQ("5", card.raceInfo(5).label);
-    EXPECT_EQ("1", card.raceInfo(5).distance);
+    EXPECT_EQ("", card.raceInfo(5).label);
+    EXPECT_EQ("", card.raceInfo(5).distance);
 }
 
 // ---- rows of the race view ----

@@ -1,6 +1,8 @@
 #include "store/recall.h"
 
 #include "card_lines.h"
+#include "results/auto_record.h"
+#include "results/board.h"
 #include "store/card_file.h"
 #include "store/save.h"
 #include "support/card_test.h"
@@ -407,6 +409,88 @@ TEST_F(RecallTest, AMissingCardFileShowsWhatWasThere) {
     EXPECT_EQ("LEX_20260401.pmd", card.cardFileName);
     EXPECT_EQ("View Races", screen.start.caption);
     EXPECT_EQ(0, card.entry(2, 3).linesInLastWindow); // cleared before any file is read
+}
+
+// Either ends the recall mode, which a choice takes up again: without it the card would have no date, and be
+// saved under another name.
+TEST_F(RecallTest, WhatEndsTheRecallModeBeforeTheChoiceCostsTheCardNoDate) {
+    named(1, 1);
+    saveAndStartAnew();
+    for (void (*const step)() : {EBET, Get_Textbox_Data}) {
+        startAnew();
+        screen.header.race = "1";
+        RecallRaceCard();
+        step();
+        ASSERT_NE("R", card.recallMode);
+        ChooseFile(cardName);
+        EXPECT_EQ("20260314", card.cardDate);
+        EXPECT_EQ("20260314", screen.header.date.caption);
+    }
+}
+
+TEST_F(RecallTest, ACardLoadedSinceTheListCameUpLeavesNoRowsInTheViews) {
+    named(1, 1);
+    saveAndStartAnew();
+    RecallRaceCard();
+    screen.raceView[1](6, 32).text = " 74.0";
+    screen.raceView[5](1, 0).text = "Of The Loaded Card";
+    screen.dataView[7](3, 1).text = "20260301";
+    ChooseFile(cardName);
+    EXPECT_EQ("Some Horse", raceCell(1, 1, 0));
+    EXPECT_EQ("", raceCell(1, 6, 32));
+    EXPECT_EQ("", raceCell(5, 1, 0));
+    EXPECT_EQ("", dataCell(7, 3, 1));
+}
+
+TEST_F(RecallTest, ACardThatCouldNotBeReadIsNotWrittenOver) {
+    named(1, 1);
+    saveAndStartAnew();
+    const std::string whole = contentOf(cardPath);
+    recall("M1_20260314"); // without its extension no file
+    screen.header.track.caption = "M1";
+    shown.clear();
+    const std::vector<std::string> told{"error: Card is not saved, since it couldn't be read: "
+                                        "C:\\A Quillon PRO\\Race Cards\\M1_20260314"};
+    EXPECT_FALSE(attempt(Save));
+    EXPECT_EQ(told, shown);
+    EXPECT_EQ(whole, contentOf(cardPath));
+
+    shown.clear();
+    CloseRC();
+    EXPECT_EQ(told, shown);
+    EXPECT_EQ("", card.cardFileName); // it can be put away
+    EXPECT_EQ(whole, contentOf(cardPath));
+
+    recall();
+    shown.clear();
+    Save();
+    EXPECT_EQ(std::vector<std::string>{}, shown);
+    EXPECT_EQ(whole, contentOf(cardPath));
+}
+
+TEST_F(RecallTest, AnArchiveThatCouldNotBeReadIsNotWrittenOver) {
+    named(1, 1);
+    saveAndStartAnew();
+    constexpr std::uintmax_t tooLarge = (std::uintmax_t{1} << 30) + 1;
+    fs::resize_file(archivePath, tooLarge);
+    recall();
+    EXPECT_EQ("Some Horse", raceCell(1, 1, 0));
+    EXPECT_FALSE(attempt(Save));
+    EXPECT_EQ(tooLarge, fs::file_size(archivePath));
+}
+
+TEST_F(RecallTest, RacesBehindTheEndOfACutFileKeepTheirLabels) {
+    for (const int race : {1, 2}) {
+        named(race, 1);
+        card.raceInfo(race).raceLabelDistance = std::to_string(race) + "1";
+    }
+    saveAndStartAnew();
+    recall();
+    put(cardPath, contentOf(cardPath).substr(0, 200)); // ends within entry 1
+    recall();
+    EXPECT_EQ("2", card.raceInfo(2).label);
+    EXPECT_EQ("1", card.raceInfo(2).distance);
+    EXPECT_EQ("2", screen.raceButtons[2].caption);
 }
 
 TEST_F(RecallTest, AMissingArchiveLeavesTheCardWithoutLines) {
