@@ -120,7 +120,6 @@ std::span<const ViewColumn> entryViewColumns() { return entryColumns; }
 void FlexGrid1() {
     const Step step{"FlexGrid1"};
     for (int view = 1; view <= pastPerformanceView; ++view) {
-        if (view == lineTableView) continue; // its heads are the table's field names
         Grid& grid = screen.dataView[static_cast<std::size_t>(view)];
         setHeads(grid, lineColumns);
         grid(0, 0).foreground = red;

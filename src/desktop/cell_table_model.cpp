@@ -36,6 +36,17 @@ QVariant boldFont() {
     return bold;
 }
 
+// A program number in the colours of its saddle cloth.
+bool isSaddleCloth(const Cell& cell) { return cell.bold && cell.background && cell.foreground; }
+
+// Size and the like are the view's.
+QVariant saddleClothFont() {
+    QFont font;
+    font.setFamilies({"Bookman Old Style", "URW Bookman", "Bookman", font.family()});
+    font.setBold(true);
+    return font;
+}
+
 int alignment(Qt::AlignmentFlag side) { return (side | Qt::AlignVCenter).toInt(); }
 
 } // namespace
@@ -116,8 +127,12 @@ QVariant CellTableModel::data(const QModelIndex& index, int role) const {
     case Qt::BackgroundRole:
         return isShaded(cell()) ? QVariant{QBrush{shown(*cell().background)}} : QVariant{};
     case Qt::ForegroundRole: return foreground(cell());
-    case Qt::FontRole: return isBold(row, cell()) ? boldFont() : QVariant{};
-    case Qt::TextAlignmentRole: return alignment(isRightAligned(column) ? Qt::AlignRight : Qt::AlignLeft);
+    case Qt::FontRole:
+        if (isSaddleCloth(cell())) return saddleClothFont();
+        return isBold(row, cell()) ? boldFont() : QVariant{};
+    case Qt::TextAlignmentRole:
+        if (isSaddleCloth(cell())) return int{Qt::AlignCenter};
+        return alignment(isRightAligned(column) ? Qt::AlignRight : Qt::AlignLeft);
     default: return {};
     }
 }

@@ -85,6 +85,19 @@ TEST_F(RacePanelTest, SaddleClothsKeepTheirColoursTheWhiteOneToo) {
     }
 }
 
+TEST_F(RacePanelTest, SaddleClothsHaveABoldFaceOfTheirOwnInTheMiddle) {
+    startSampleCard();
+    const auto cloth = cell(1, 2).data(Qt::FontRole).value<QFont>();
+    EXPECT_EQ("Bookman Old Style", cloth.families().value(0));
+    EXPECT_TRUE(cloth.bold());
+    EXPECT_EQ(int{Qt::AlignCenter}, cell(1, 2).data(Qt::TextAlignmentRole).toInt());
+
+    screen.raceView[1](1, 2) = {.text = " 13"}; // no cloth
+    panel.refresh();
+    EXPECT_FALSE(cell(1, 2).data(Qt::FontRole).isValid());
+    EXPECT_NE(int{Qt::AlignCenter}, cell(1, 2).data(Qt::TextAlignmentRole).toInt());
+}
+
 TEST_F(RacePanelTest, HeadAndTwelveRowsFillItsHeightAndButtonsStandBesideTheirRowsAtEveryZoom) {
     startSampleCard();
     runner.run("HeatWinner");
