@@ -124,10 +124,12 @@ void ReadCardFile() {
 // Without an archive the card has no lines; those of another card would be shown, and saved, as its own.
 void ReadArchive() {
     const Step step{"ReadArchive"};
-    const FilePlace place = cardFile(Folder::archives, "pmx");
     Text content;
-    const bool read = attempt([&] { content = readFile(place); });
-    if (!read && fileExists(place)) card.unreadFile = shownPath(place);
+    attempt([&] {
+        const FilePlace place = cardFile(Folder::archives, "pmx");
+        const bool read = attempt([&] { content = readFile(place); });
+        if (!read && fileExists(place)) card.unreadFile = shownPath(place);
+    });
     takeArchive(content, card);
 }
 

@@ -446,7 +446,9 @@ TEST_F(RecallTest, ACardThatCouldNotBeReadIsNotWrittenOver) {
     named(1, 1);
     saveAndStartAnew();
     const std::string whole = contentOf(cardPath);
-    recall("M1_20260314"); // without its extension no file
+    writeLineCell(1, 2, "1"); // left by a card before it
+    recall("M1_20260314");    // without its extension no file
+    EXPECT_EQ("", card.lineCells.read(1, 2));
     screen.header.track.caption = "M1";
     shown.clear();
     const std::vector<std::string> told{"error: Card is not saved, since it couldn't be read: "
