@@ -178,7 +178,7 @@ void fillRows() {
 }
 
 void trimPayoffs() {
-    for (int race = 1; race <= judgedRaces; ++race)
+    for (int race = 1; race < raceExtent; ++race)
         for (int cell = winPay; cell <= superfectaPay; ++cell) {
             Text& payoff = card.payoffRecord(race, cell);
             payoff = Text{trimmed(payoff)};

@@ -98,7 +98,7 @@ void showEntries(StorePrinter& printer) {
 }
 
 void showPastLines(StorePrinter& printer) {
-    constexpr std::array extents{raceExtent, entryExtent, lineExtent};
+    constexpr std::array extents{raceExtent, wideEntryExtent, lineExtent};
     std::array<int, extents.size()> index{};
     do
         printer.record(pastLineFields, card.pastLine.read(index[0], index[1], index[2]),

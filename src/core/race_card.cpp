@@ -35,6 +35,11 @@ const PastLine& PastLineTable::read(int race, int entry, int line) const {
 }
 
 PastLine& PastLineTable::write(int race, int entry, int line) {
+    if (entry >= entryExtent) fail("entry " + std::to_string(entry) + " has no past lines");
+    return writeWide(race, entry, line);
+}
+
+PastLine& PastLineTable::writeWide(int race, int entry, int line) {
     auto& kept = lines_(race, entry, line);
     if (!kept) {
         kept = std::make_unique<PastLine>();

@@ -23,6 +23,7 @@ namespace quillon {
 constexpr int raceExtent = 31;
 constexpr int entryExtent = 21;
 constexpr int lineExtent = 31;
+constexpr int wideEntryExtent = 31; ///< entries that five fields of a past line have room for
 constexpr int labelExtent = 26; ///< races that can have a label, a track code and key picks: 0 to 25
 constexpr int lineNumberExtent = 3001;
 
@@ -127,6 +128,10 @@ public:
     /// The line to be written, made when it is not there yet. Fails outside the bounds.
     PastLine& write(int race, int entry, int line);
 
+    /// The same for the few fields that have room for entries up to 30: before and after the second and the
+    /// third call, and the line's number.
+    PastLine& writeWide(int race, int entry, int line);
+
     /// True where a line was written. Fails outside the bounds.
     bool has(int race, int entry, int line) const;
 
@@ -140,7 +145,7 @@ private:
 
     PastLine blankLine_;
     int filledLines_ = 0;
-    Table<std::unique_ptr<PastLine>, raceExtent, entryExtent, lineExtent> lines_;
+    Table<std::unique_ptr<PastLine>, raceExtent, wideEntryExtent, lineExtent> lines_;
 };
 
 /// The cells of the card's lines as their data views first showed them, by line number and column. There are

@@ -220,6 +220,14 @@ constexpr std::array storedCells{
     StoredCell{&SourceLine::HRSE_TM_FN, &PastLine::HRSE_TM_FN},
 };
 
+// Those of them that a horse beyond the last entry has, too.
+constexpr std::array wideCells{
+    StoredCell{&SourceLine::CALL_2Q_BF, &PastLine::CALL_2Q_BF},
+    StoredCell{&SourceLine::CALL_2Q_AF, &PastLine::CALL_2Q_AF},
+    StoredCell{&SourceLine::CALL_3Q_BF, &PastLine::CALL_3Q_BF},
+    StoredCell{&SourceLine::CALL_3Q_AF, &PastLine::CALL_3Q_AF},
+};
+
 void StartLine() {
     cursor.lineValue.clear();
     cursor.lineSize = trimmed(sourceLine.TRACKSIZE);
@@ -266,8 +274,15 @@ void FindEntry() {
     cursor.entry = post == noPost ? Integer{0} : toInteger(post);
 }
 
+void StoreWideCells() {
+    PastLine& line = card.pastLine.writeWide(cursor.race, cursor.entry, cursor.line);
+    for (const StoredCell& cell : wideCells) line.*cell.to = sourceLine.*cell.from;
+    line.lineNumber = card.totalLines;
+}
+
 void StoreLine() {
     const Step step{"StoreLine"};
+    if (cursor.entry >= entryExtent) attempt(StoreWideCells);
     PastLine& line = card.pastLine.write(cursor.race, cursor.entry, cursor.line);
     for (const StoredCell& cell : storedCells) line.*cell.to = sourceLine.*cell.from;
     line.rating = cursor.lineValue;

@@ -60,6 +60,17 @@ void SetRaceOffset() {
     card.raceOffset = toInteger(std::max(first, 1.0) - 1);
 }
 
+// The race table may hold the whole programme of a card that starts above race 1: what comes before the
+// card's first race is none of the card's. A table without that race is the card's own, however numbered.
+void LeaveOutRacesBeforeTheCard() {
+    const Step step{"LeaveOutRacesBeforeTheCard"};
+    if (card.raceOffset < 1) return;
+    TableCursor& rows = sourceTables.raceRows;
+    for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext())
+        if (numberOf(raceField("RACE")) == card.raceOffset + 1) return rows.beginAt(rows.row());
+    rows.MoveFirst();
+}
+
 // A race that can have a label and a track code. Fails for those behind, which have the rest of a RaceInfo.
 RaceInfo& labelledRace(int race) {
     if (race >= labelExtent) fail("race " + std::to_string(race) + " is beyond those with a label");
@@ -196,8 +207,9 @@ bool laterRaceRow(Integer race) {
 
 void FrameCard() {
     const Step step{"FrameCard"};
-    attempt(NumberRaceRows);
     attempt(SetRaceOffset);
+    attempt(LeaveOutRacesBeforeTheCard);
+    attempt(NumberRaceRows);
     attempt(LabelRaces);
     for (Button& key : screen.entryButtons) key.enabled = true;
     attempt(TrackData);

@@ -295,6 +295,7 @@ void LoadLines() {
     TakeCardDay();
     cursor = {};
     cursor.row = 1;
+    attempt([] { cursor.entry = entryIndex(sourceHorse.PP); });
     TableCursor& rows = sourceTables.lineRows;
     for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
         ReadSourceLine();

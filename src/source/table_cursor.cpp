@@ -59,6 +59,11 @@ void TableCursor::findRows() {
 
 void TableCursor::tell(TextView damage) const { reportFault(fileName_ + ": " + Text{damage}); }
 
+void TableCursor::beginAt(int row) {
+    rows_.erase(rows_.begin(), rows_.begin() + std::clamp(row - 1, 0, rowCount()));
+    MoveFirst();
+}
+
 void TableCursor::MoveFirst() { row_ = 1; }
 
 void TableCursor::MoveNext() {

@@ -24,6 +24,9 @@ public:
     /// The same from the bytes of a table.
     void openContent(Text content, TextView fileName);
 
+    /// Leaves the rows before this one out, as if the table began with it. Rows count from 1.
+    void beginAt(int row);
+
     void MoveFirst();
     void MoveNext(); ///< past the last row the cursor stays behind it
     void MoveLast();

@@ -13,6 +13,7 @@
 #include "results/race_display.h"
 #include "store/card_file.h"
 
+#include <algorithm>
 #include <array>
 
 namespace quillon {
@@ -160,7 +161,20 @@ void copyLine(int race, int row, int lineNumber) {
         cells[static_cast<std::size_t>(column)].text = card.lineCells.read(lineNumber, column);
 }
 
-// The lines of the card, each into the view of its race behind the lines before it. A change of HN begins an
+// The race that a kept line was run up to; 0 where none is kept under this number.
+double raceOf(int lineNumber) { return lenientNumber(card.lineCells.read(lineNumber, raceOfLine)); }
+
+// The number of the card's first race less 1, which no file carries. Its label tells it. Where the label is
+// lost, or names a race behind that of the first line, the first line is one of the card's first race.
+double racesBeforeTheCard() {
+    double firstLine = 0;
+    for (int number = 1; number <= archiveRows && firstLine < 1; ++number) firstLine = raceOf(number);
+    const double firstLabel = lenientNumber(card.raceInfo[{1}].label);
+    const bool told = firstLabel >= 1 && firstLabel <= firstLine;
+    return std::max(told ? firstLabel : firstLine, 1.0) - 1;
+}
+
+// The lines of the card, each into the view of its race after the lines before it. A change of HN begins an
 // entry. Lines beyond a view's last row are not shown.
 void RebuildDataViews() {
     const Step step{"RebuildDataViews"};
@@ -169,8 +183,9 @@ void RebuildDataViews() {
         double horse = 0;
     };
     std::array<Filling, ratedRaces + 1> fillings{};
+    const double before = racesBeforeTheCard();
     for (int number = 1; number <= archiveRows; ++number) {
-        const double race = lenientNumber(card.lineCells.read(number, raceOfLine));
+        const double race = raceOf(number) - before;
         if (race < 1 || race > ratedRaces || race != static_cast<int>(race)) continue;
         const int at = static_cast<int>(race);
         Filling& filling = fillings[static_cast<std::size_t>(at)];
