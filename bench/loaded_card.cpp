@@ -4,7 +4,7 @@
 #include "card_generator.h"
 #include "card_tables.h"
 #include "core/journal.h"
-#include "source/card_load.h"
+#include "day/card_load.h"
 #include "tracks.h"
 
 #include <fstream>

@@ -1,14 +1,14 @@
 // The reports of a loaded card, and what a user does to one race of it, over cards of growing size.
 #include "analysis/pick_results.h"
 #include "analysis/summary.h"
-#include "app/ports.h"
+#include "day/re_calculation.h"
+#include "day/scratch.h"
 #include "loaded_card.h"
-#include "rating/re_calculation.h"
-#include "rating/scratch.h"
 #include "reports/condensed_program.h"
 #include "reports/entries_list.h"
 #include "reports/selection_sheet.h"
 #include "results/race_display.h"
+#include "screen/ports.h"
 #include "working_folder.h"
 
 #include <benchmark/benchmark.h>

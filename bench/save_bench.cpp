@@ -1,9 +1,9 @@
 // Saving a card and recalling it: two files of about a hundred thousand lines.
 #include "app/start_up.h"
-#include "core/race_card.h"
+#include "card/race_card.h"
+#include "day/recall.h"
+#include "day/save.h"
 #include "loaded_card.h"
-#include "store/recall.h"
-#include "store/save.h"
 #include "working_folder.h"
 
 #include <benchmark/benchmark.h>

@@ -1,8 +1,8 @@
 // Start, from the vendor's tables to the written reports.
 #include "app/start_up.h"
 #include "core/journal.h"
+#include "day/card_load.h"
 #include "loaded_card.h"
-#include "source/card_load.h"
 #include "working_folder.h"
 
 #include <benchmark/benchmark.h>

@@ -2,8 +2,8 @@
 // "long" is the length of a piece without a line end between two copies of the cards.
 #include "analysis/archive_records.h"
 #include "analysis/archive_scan.h"
+#include "card/race_card.h"
 #include "core/failure.h"
-#include "core/race_card.h"
 #include "support/fuzz_target.h"
 #include "support/parts.h"
 

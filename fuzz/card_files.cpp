@@ -1,13 +1,13 @@
 // A saved card through the recall: parts "card", "archive", "results" and "tracks". A card file is long and
 // says little, so a line "~40 TEXT" stands for forty lines of that text. A part "save" saves the card, and
 // "again" recalls it twice more.
-#include "core/card_files.h"
-#include "app/ports.h"
+#include "card/card_files.h"
 #include "app/start_up.h"
+#include "card/race_card.h"
+#include "cardfiles/card_file.h"
 #include "core/failure.h"
 #include "core/numbers.h"
-#include "core/race_card.h"
-#include "store/card_file.h"
+#include "screen/ports.h"
 #include "support/fuzz_target.h"
 #include "support/parts.h"
 

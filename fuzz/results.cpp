@@ -1,7 +1,7 @@
 // A results text as a user pastes it, through the three passes over a card of twelve races.
+#include "card/race_card.h"
 #include "core/failure.h"
 #include "core/journal.h"
-#include "core/race_card.h"
 #include "results/auto_record.h"
 #include "results/race_display.h"
 #include "support/fuzz_target.h"

@@ -2,7 +2,7 @@
 // "RACESHR.DBF" is a table's bytes, "RACESHR" a table as readable text, "tracks" the track table, and
 // "script" what a user does before Start.
 #include "app/start_up.h"
-#include "core/race_card.h"
+#include "card/race_card.h"
 #include "support/fuzz_target.h"
 #include "support/parts.h"
 #include "support/table_part.h"

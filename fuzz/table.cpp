@@ -1,8 +1,8 @@
 // One table of the dBASE family, byte for byte as it lies on the disk.
 #include "core/failure.h"
 #include "core/journal.h"
-#include "source/table_cursor.h"
 #include "support/fuzz_target.h"
+#include "tables/table_cursor.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 // The track table, and the steps that look a card's and a line's track up in it.
-#include "source/track_table.h"
+#include "tables/track_table.h"
+#include "card/race_card.h"
 #include "core/failure.h"
-#include "core/race_card.h"
-#include "source/source_tables.h"
 #include "support/fuzz_target.h"
+#include "tables/source_tables.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 // A user at work on a small card: each input is a walk through the command table, with arguments that mostly
 // make sense, answers to what the commands ask, and files that change beneath them.
-#include "app/ports.h"
 #include "app/start_up.h"
+#include "screen/ports.h"
 #include "support/byte_reader.h"
 #include "support/fuzz_target.h"
 #include "support/small_card.h"

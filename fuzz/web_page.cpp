@@ -1,6 +1,6 @@
 // Webpage.ini, whose last line names the page that "TrackMaster" opens.
 #include "app/commands.h"
-#include "app/ports.h"
+#include "screen/ports.h"
 #include "support/fuzz_target.h"
 
 using namespace quillon;

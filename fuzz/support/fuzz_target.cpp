@@ -1,13 +1,13 @@
 #include "support/fuzz_target.h"
 
-#include "app/ports.h"
 #include "app/start_up.h"
+#include "card/race_card.h"
 #include "console/show.h"
 #include "console/show_store.h"
 #include "core/failure.h"
 #include "core/journal.h"
-#include "core/race_card.h"
-#include "source/source_tables.h"
+#include "screen/ports.h"
+#include "tables/source_tables.h"
 
 #include <unistd.h>
 

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "app/commands.h"
-#include "app/screen.h"
 #include "core/text.h"
+#include "screen/screen.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,27 @@
 #include "analysis/analysis_view.h"
 
+#include "core/failure.h"
+
+#include <array>
+
 namespace quillon {
+namespace {
+
+// What an analysis view may have hidden.
+constexpr std::array mainScreenItems{
+    MenuItem::NewRC,
+    MenuItem::RecallRaceCard,
+    MenuItem::ViewCondensedProgram,
+    MenuItem::ViewSummary,
+    MenuItem::PrintCondensedProgram,
+    MenuItem::CloseRC,
+    MenuItem::SelectionResults,
+    MenuItem::AutoRecord,
+    MenuItem::EBET,
+    MenuItem::Reset,
+};
+
+} // namespace
 
 void showAnalysisView(bool Screen::*view) {
     for (bool Screen::*const other : {&Screen::summaryVisible, &Screen::profileVisible,
@@ -8,6 +29,24 @@ void showAnalysisView(bool Screen::*view) {
         screen.*other = other == view;
     screen.racePanelsVisible = false;
     screen.item(MenuItem::MainScreen).visible = true;
+}
+
+void MainScreen() {
+    const Step step{"MainScreen"};
+    for (const std::size_t workView : {std::size_t{pastPerformanceView}, std::size_t{0}}) {
+        screen.dataView[workView].clear();
+        screen.dataViewVisible[workView] = false;
+    }
+    screen.pastPerformanceOpen = false;
+    screen.racePanelsVisible = true;
+    screen.summaryVisible = screen.profileVisible = false;
+    screen.tracksVisible = screen.picksVisible = screen.starsVisible = false;
+    screen.caption = windowCaption;
+    screen.width = 16250;
+    screen.height = 11200;
+    for (const MenuItem item : mainScreenItems) screen.item(item).visible = true;
+    for (const MenuItem item : {MenuItem::PrintSummary, MenuItem::Print2, MenuItem::MainScreen})
+        screen.item(item).visible = false;
 }
 
 } // namespace quillon

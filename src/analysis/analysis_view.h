@@ -1,11 +1,14 @@
 // The views of the analysis take the place of the race panels, one at a time.
 #pragma once
 
-#include "app/screen.h"
+#include "screen/screen.h"
 
 namespace quillon {
 
 /// Shows this view and the way back to the main screen.
 void showAnalysisView(bool Screen::*view);
+
+/// Back from an analysis view to the race panels.
+void MainScreen();
 
 } // namespace quillon

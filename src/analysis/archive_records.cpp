@@ -1,12 +1,12 @@
 #include "analysis/archive_records.h"
 
 #include "analysis/summary.h"
-#include "app/screen.h"
+#include "card/race_card.h"
 #include "core/failure.h"
 #include "core/files.h"
 #include "core/formats.h"
-#include "core/race_card.h"
 #include "reports/report_writer.h"
+#include "screen/screen.h"
 
 #include <array>
 

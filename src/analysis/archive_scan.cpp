@@ -1,7 +1,7 @@
 #include "analysis/archive_scan.h"
 
-#include "app/ports.h"
 #include "core/numbers.h"
+#include "screen/ports.h"
 
 #include <algorithm>
 #include <bit>

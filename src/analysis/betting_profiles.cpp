@@ -3,10 +3,10 @@
 #include "analysis/analysis_view.h"
 #include "analysis/archive_scan.h"
 #include "analysis/profile_cards.h"
-#include "app/screen.h"
 #include "core/failure.h"
 #include "core/formats.h"
-#include "source/track_table.h"
+#include "screen/screen.h"
+#include "tables/track_table.h"
 
 #include <algorithm>
 #include <array>

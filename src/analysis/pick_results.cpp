@@ -1,10 +1,10 @@
 #include "analysis/pick_results.h"
 
 #include "analysis/analysis_view.h"
-#include "app/screen.h"
+#include "card/race_card.h"
 #include "core/failure.h"
 #include "core/formats.h"
-#include "core/race_card.h"
+#include "screen/screen.h"
 
 #include <array>
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "analysis/archive_scan.h"
-#include "app/screen.h"
+#include "screen/screen.h"
 
 #include <span>
 

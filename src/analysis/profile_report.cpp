@@ -1,10 +1,10 @@
 #include "analysis/profile_report.h"
 
 #include "analysis/profile_cards.h"
-#include "app/screen.h"
 #include "core/failure.h"
 #include "reports/report_writer.h"
 #include "reports/viewers.h"
+#include "screen/screen.h"
 
 namespace quillon {
 namespace {

@@ -2,9 +2,9 @@
 
 #include "analysis/analysis_view.h"
 #include "analysis/archive_scan.h"
-#include "app/screen.h"
 #include "core/failure.h"
 #include "core/formats.h"
+#include "screen/screen.h"
 
 #include <algorithm>
 #include <array>

@@ -3,12 +3,12 @@
 #include "analysis/analysis_view.h"
 #include "analysis/archive_records.h"
 #include "analysis/todays_results.h"
-#include "app/screen.h"
+#include "card/race_card.h"
 #include "core/dates.h"
 #include "core/failure.h"
 #include "core/formats.h"
-#include "core/race_card.h"
 #include "results/board.h"
+#include "screen/screen.h"
 
 #include <algorithm>
 #include <array>

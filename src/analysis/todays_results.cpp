@@ -1,12 +1,12 @@
 #include "analysis/todays_results.h"
 
 #include "analysis/summary.h"
-#include "app/screen.h"
+#include "card/race_card.h"
 #include "core/failure.h"
 #include "core/files.h"
 #include "core/numbers.h"
-#include "core/race_card.h"
 #include "reports/report_writer.h"
+#include "screen/screen.h"
 
 #include <algorithm>
 #include <array>

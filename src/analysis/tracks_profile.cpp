@@ -2,12 +2,12 @@
 
 #include "analysis/analysis_view.h"
 #include "analysis/archive_scan.h"
-#include "app/screen.h"
+#include "card/race_card.h"
 #include "core/failure.h"
 #include "core/formats.h"
-#include "core/race_card.h"
 #include "reports/report_writer.h"
-#include "source/track_table.h"
+#include "screen/screen.h"
+#include "tables/track_table.h"
 
 #include <algorithm>
 #include <array>

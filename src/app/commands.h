@@ -2,8 +2,8 @@
 // console its commands.
 #pragma once
 
-#include "app/screen.h"
 #include "core/text.h"
+#include "screen/screen.h"
 
 #include <array>
 #include <optional>

@@ -1,5 +1,4 @@
-// The commands of the application's frame: a new card, the end of the program, the way back to the main
-// screen.
+// The commands of the application's frame: a new card and the end of the program.
 #pragma once
 
 namespace quillon {
@@ -13,8 +12,5 @@ void Exit_QL();
 
 /// The window's own close control: asks first.
 void CloseWindow();
-
-/// Back from an analysis view to the race panels.
-void MainScreen();
 
 } // namespace quillon

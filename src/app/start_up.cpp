@@ -1,50 +1,15 @@
 #include "app/start_up.h"
 
-#include "app/screen.h"
+#include "card/columns.h"
+#include "card/race_card.h"
 #include "core/failure.h"
 #include "core/files.h"
-#include "core/race_card.h"
+#include "screen/screen.h"
 
 #include <array>
 
 namespace quillon {
 namespace {
-
-// clang-format off
-constexpr std::array lineColumns{
-    ViewColumn{"", 1900},                                                            //  0 entry, driver, morning line
-    ViewColumn{"Date", 920},                                                         //  1
-    ViewColumn{"", 0}, ViewColumn{"", 0}, ViewColumn{"", 0}, ViewColumn{"", 0},      //  2 race, program number, post, HN
-    ViewColumn{"", 0},                                                               //  6 not filled
-    ViewColumn{"Track", 590}, ViewColumn{"Dis", 500}, ViewColumn{"CD", 345},         //  7
-    ViewColumn{"Purse", 640}, ViewColumn{"Class", 1200}, ViewColumn{"CR", 300},      // 10
-    ViewColumn{"L1", 500}, ViewColumn{"L2", 500}, ViewColumn{"L3", 500}, ViewColumn{"LF", 500}, // 13
-    ViewColumn{"PP", 290},                                                           // 17
-    ViewColumn{"", 230}, ViewColumn{"P1", 285}, ViewColumn{"", 240}, ViewColumn{"", 230}, // 18 first call
-    ViewColumn{"", 230}, ViewColumn{"P2", 285}, ViewColumn{"", 240}, ViewColumn{"", 230}, // 22 second call
-    ViewColumn{"", 230}, ViewColumn{"P3", 285}, ViewColumn{"", 240}, ViewColumn{"", 230}, // 26 third call
-    ViewColumn{"PS", 290}, ViewColumn{"PF", 290},                                    // 30
-    ViewColumn{"TQ", 450}, ViewColumn{"Fin", 575}, ViewColumn{"F", 175}, ViewColumn{"Odds", 550}, // 32
-    ViewColumn{"", 0},                                                               // 36 driver's number
-    ViewColumn{"Driver", 1300}, ViewColumn{"PR", 500}, ViewColumn{"Line #", 900},    // 37
-};
-
-constexpr std::array entryColumns{
-    ViewColumn{"ENTRY", 1900}, ViewColumn{"ML", 450}, ViewColumn{"PN", 375}, ViewColumn{"PP", 375}, //  0
-    ViewColumn{"Track", 590}, ViewColumn{"Purse", 640}, ViewColumn{"Class", 1300}, ViewColumn{"CR", 325}, //  4
-    ViewColumn{"L1", 500}, ViewColumn{"L2", 500}, ViewColumn{"L3", 500}, ViewColumn{"LF", 500}, //  8
-    ViewColumn{"PP", 320},                                                                 // 12
-    ViewColumn{"", 230}, ViewColumn{"P1", 320}, ViewColumn{"", 230}, ViewColumn{"", 230},  // 13 first call
-    ViewColumn{"", 230}, ViewColumn{"P2", 320}, ViewColumn{"", 230}, ViewColumn{"", 230},  // 17 second call
-    ViewColumn{"", 230}, ViewColumn{"P3", 320}, ViewColumn{"", 230}, ViewColumn{"", 230},  // 21 third call
-    ViewColumn{"PS", 310}, ViewColumn{"PF", 310},                                          // 25
-    ViewColumn{"TQ", 450}, ViewColumn{"Fin", 600}, ViewColumn{"F", 170},                   // 27
-    ViewColumn{"Todays Dr", 1070}, ViewColumn{"UDR", 500}, ViewColumn{"PR", 500},          // 30
-};
-// clang-format on
-
-static_assert(lineColumns.size() == dataViewColumns);
-static_assert(entryColumns.size() == 33);
 
 // A letter of the code page, as crossover texts and card files begin with.
 bool beginsWithLetter(TextView text) {
@@ -114,14 +79,11 @@ void setHeads(Grid& view, std::span<const ViewColumn> columns) {
 
 } // namespace
 
-std::span<const ViewColumn> lineViewColumns() { return lineColumns; }
-std::span<const ViewColumn> entryViewColumns() { return entryColumns; }
-
 void FlexGrid1() {
     const Step step{"FlexGrid1"};
     for (int view = 1; view <= pastPerformanceView; ++view) {
         Grid& grid = screen.dataView[static_cast<std::size_t>(view)];
-        setHeads(grid, lineColumns);
+        setHeads(grid, dataColumns());
         grid(0, 0).foreground = red;
     }
 }
@@ -130,7 +92,7 @@ void MSFlex2() {
     const Step step{"MSFlex2"};
     for (int view = 1; view <= ratedRaces; ++view) {
         Grid& grid = screen.raceView[static_cast<std::size_t>(view)];
-        setHeads(grid, entryColumns);
+        setHeads(grid, raceColumns());
         grid(0, 0).foreground = red;
     }
 }

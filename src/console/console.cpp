@@ -1,10 +1,10 @@
 #include "console/console.h"
 
-#include "app/ports.h"
 #include "console/input_lines.h"
 #include "console/show.h"
 #include "console/words.h"
 #include "core/failure.h"
+#include "screen/ports.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,9 +1,9 @@
 #include "console/show.h"
 
-#include "app/screen.h"
 #include "console/show_store.h"
 #include "console/words.h"
 #include "core/journal.h"
+#include "screen/screen.h"
 
 #include <array>
 #include <optional>

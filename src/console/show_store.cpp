@@ -1,8 +1,8 @@
 #include "console/show_store.h"
 
-#include "core/fields.h"
+#include "card/fields.h"
+#include "card/race_card.h"
 #include "core/numbers.h"
-#include "core/race_card.h"
 
 #include <span>
 

@@ -1,7 +1,7 @@
 #include "core/failure.h"
 
+#include "card/race_card.h"
 #include "core/journal.h"
-#include "core/race_card.h"
 
 namespace quillon {
 

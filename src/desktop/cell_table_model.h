@@ -1,7 +1,7 @@
 // One model for every view: it passes on the cells of a table of the screen and knows nothing of races.
 #pragma once
 
-#include "app/screen.h"
+#include "screen/screen.h"
 
 #include <QAbstractTableModel>
 

@@ -2,7 +2,7 @@
 // sorting where the order of rows carries no meaning.
 #pragma once
 
-#include "app/start_up.h"
+#include "card/columns.h"
 #include "desktop/appearance.h"
 #include "desktop/cell_table_model.h"
 

@@ -1,8 +1,8 @@
 #include "desktop/choice_dialog.h"
 
 #include "desktop/shown_text.h"
-#include "rating/race_views.h"
 #include "results/board.h"
+#include "screen/race_views.h"
 
 #include <QCoreApplication>
 #include <QDate>
@@ -280,7 +280,7 @@ void ChoiceDialog::showWhose() {
     if (row < 1 || row >= raceViewRows) return whose_->clear();
     const Grid& view = theScreen.raceView[static_cast<std::size_t>(race)];
     const auto text = [&](int column) { return shown(view.text(row, column)).trimmed(); };
-    whose_->setText(tr("Race %1: %2, now %3").arg(race).arg(text(0), text(raceColumn::driver)));
+    whose_->setText(tr("Race %1: %2, now %3").arg(race).arg(text(0), text(RaceColumn::driver)));
 }
 
 // --- Finding and picking -----------------------------------------------------------------------------------

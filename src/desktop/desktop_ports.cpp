@@ -1,6 +1,6 @@
 #include "desktop/desktop_ports.h"
 
-#include "core/race_card.h"
+#include "card/race_card.h"
 #include "desktop/hand_over.h"
 #include "desktop/shown_text.h"
 

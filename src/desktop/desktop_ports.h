@@ -1,10 +1,10 @@
 // The window's ways to the outside: dialogs, the text viewer, the browser, the printer.
 #pragma once
 
-#include "app/ports.h"
 #include "desktop/appearance.h"
 #include "desktop/print_preview.h"
 #include "desktop/text_viewer.h"
+#include "screen/ports.h"
 
 #include <QElapsedTimer>
 #include <QObject>

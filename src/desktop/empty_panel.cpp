@@ -1,8 +1,8 @@
 #include "desktop/empty_panel.h"
 
+#include "card/race_card.h"
 #include "core/failure.h"
 #include "core/files.h"
-#include "core/race_card.h"
 #include "desktop/shown_text.h"
 #include "desktop/working_folder.h"
 

@@ -1,6 +1,6 @@
 #include "desktop/main_window.h"
 
-#include "core/race_card.h"
+#include "card/race_card.h"
 #include "desktop/analysis_panel.h"
 #include "desktop/board_panel.h"
 #include "desktop/choice_dialog.h"

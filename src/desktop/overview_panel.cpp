@@ -1,6 +1,6 @@
 #include "desktop/overview_panel.h"
 
-#include "core/race_card.h"
+#include "card/race_card.h"
 #include "desktop/shown_text.h"
 #include "reports/card_overview.h"
 #include "results/board.h"

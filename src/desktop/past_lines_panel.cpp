@@ -1,12 +1,12 @@
 #include "desktop/past_lines_panel.h"
 
-#include "app/start_up.h"
-#include "core/race_card.h"
+#include "card/columns.h"
+#include "card/race_card.h"
 #include "desktop/cell_table_view.h"
 #include "desktop/row_buttons.h"
 #include "desktop/shown_text.h"
-#include "rating/race_views.h"
 #include "results/board.h"
+#include "screen/race_views.h"
 
 #include <QDate>
 #include <QHBoxLayout>
@@ -44,7 +44,7 @@ QString withLimit(const QString& shade, int days) {
 /// The number that a line is taken by; empty where there is no line.
 QString numberIn(int row) {
     if (row < 1 || row >= entryLines().rows()) return {};
-    return shown(trimmed(entryLines().text(row, dataColumn::lineNumber)));
+    return shown(trimmed(entryLines().text(row, DataColumn::lineNumber)));
 }
 
 struct LineMark {
@@ -97,7 +97,7 @@ void ShadeLegend::showFor(const Grid& lines) {
     older_->setText(withLimit(tr("50 days"), olderDays));
     bool anyShade = false;
     for (int row = 1; row < lines.rows() && !anyShade; ++row)
-        anyShade = lines.read(row, dataColumn::date).background.has_value();
+        anyShade = lines.read(row, DataColumn::date).background.has_value();
     setVisible(anyShade);
 }
 
@@ -163,7 +163,7 @@ void EntryLinesFrame::buildTable() {
     table_->setObjectName("EntryLines");
     table_->setFonts(headPoints, bodyPoints, false);
     std::vector<int> widths;
-    for (const ViewColumn& column : lineViewColumns()) widths.push_back(column.width);
+    for (const ViewColumn& column : dataColumns()) widths.push_back(column.width);
     widths.front() = 0; // the names, which the frame's heading tells
     table_->setColumnWidths(std::move(widths));
     table_->setFitted();
@@ -245,7 +245,7 @@ QWidget* PastLinesPanel::buildRacePage() {
     raceTable_ = new CellTableView{appearance_, tr("Past lines of the race"), page};
     raceTable_->setObjectName("RaceLines");
     raceTable_->setFonts(headPoints, bodyPoints, false);
-    raceTable_->setColumnWidths(lineViewColumns());
+    raceTable_->setColumnWidths(dataColumns());
     raceTable_->setFitted();
     raceTable_->cells().setTailHidden(true);
     auto* head = new QHBoxLayout;

@@ -1,12 +1,12 @@
 #include "desktop/race_panel.h"
 
-#include "app/start_up.h"
-#include "core/race_card.h"
+#include "card/columns.h"
+#include "card/race_card.h"
 #include "desktop/cell_table_view.h"
 #include "desktop/row_buttons.h"
 #include "desktop/shown_text.h"
-#include "rating/race_views.h"
 #include "results/board.h"
+#include "screen/race_views.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -44,7 +44,7 @@ int raceViewOnShow() {
 
 const Grid& gridOf(int race) { return theScreen.raceView.at(static_cast<std::size_t>(race)); }
 
-QString horseIn(int race, int row) { return shown(trimmed(gridOf(race).text(row, raceColumn::horseName))); }
+QString horseIn(int race, int row) { return shown(trimmed(gridOf(race).text(row, RaceColumn::horseName))); }
 
 template <std::size_t count>
 const Button& buttonOf(const std::array<Button, count>& buttons, int row) {
@@ -80,7 +80,7 @@ void RacePanel::buildTable() {
     table_->setStatusTip(tr("A double click or F2 edits a cell. A click on a driver lists the drivers. "
                             "Enter on a name shows the past lines."));
     table_->setFonts(headPoints, bodyPoints, true);
-    table_->setColumnWidths(entryViewColumns());
+    table_->setColumnWidths(raceColumns());
     table_->setFitted();
     table_->setRowHeight(rowTwips);
     table_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -89,7 +89,7 @@ void RacePanel::buildTable() {
                                [this](int row, int column, const Text& text) { edit(row, column, text); });
     connect(table_->horizontalScrollBar(), &QScrollBar::rangeChanged, this, &RacePanel::holdHeight);
     connect(table_, &QTableView::clicked, this, [this](const QModelIndex& cell) {
-        if (table_->cells().tableColumn(cell) == raceColumn::driver &&
+        if (table_->cells().tableColumn(cell) == RaceColumn::driver &&
             QApplication::keyboardModifiers() == Qt::NoModifier)
             askForDriver(table_->cells().tableRow(cell));
     });
@@ -141,7 +141,7 @@ void RacePanel::refreshTable() {
     if (race == race_)
         table_->refresh();
     else
-        table_->show(&gridOf(race), {.lastRow = ratedEntries, .lastColumn = raceColumn::rating});
+        table_->show(&gridOf(race), {.lastRow = ratedEntries, .lastColumn = RaceColumn::rating});
     race_ = race;
     if (before.isValid() && !table_->currentIndex().isValid())
         table_->selectionModel()->setCurrentIndex(table_->model()->index(before.row(), before.column()),
@@ -204,7 +204,7 @@ void RacePanel::resizeEvent(QResizeEvent* event) {
 
 // Drivers are picked from their list, and a row without a horse only holds its place.
 bool RacePanel::mayEdit(int row, int column) const {
-    return column != raceColumn::driver && !horseIn(race_, row).isEmpty();
+    return column != RaceColumn::driver && !horseIn(race_, row).isEmpty();
 }
 
 void RacePanel::edit(int row, int column, const Text& text) {
@@ -218,11 +218,11 @@ void RacePanel::askForDriver(int row) {
 
 bool RacePanel::enterOn(int row, int column, int key) {
     const bool enters = key == Qt::Key_Return || key == Qt::Key_Enter;
-    if (column == raceColumn::driver && (enters || key == Qt::Key_Space)) {
+    if (column == RaceColumn::driver && (enters || key == Qt::Key_Space)) {
         askForDriver(row);
         return true;
     }
-    if (column != raceColumn::horseName || !enters) return false;
+    if (column != RaceColumn::horseName || !enters) return false;
     if (entries_[static_cast<std::size_t>(row - 1)]->isEnabled())
         runner_.run("EntryButton", numberArgument(row));
     return true;

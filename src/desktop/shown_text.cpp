@@ -1,7 +1,7 @@
 #include "desktop/shown_text.h"
 
+#include "card/race_card.h"
 #include "core/code_page.h"
-#include "core/race_card.h"
 
 namespace quillon {
 

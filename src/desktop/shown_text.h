@@ -1,8 +1,8 @@
 // Between the system's texts, colours and twips and those of the window.
 #pragma once
 
-#include "app/screen.h"
 #include "core/text.h"
+#include "screen/screen.h"
 
 #include <QColor>
 #include <QString>

@@ -1,9 +1,9 @@
 #include "rating/diagnostic_log.h"
 
-#include "app/screen.h"
+#include "card/race_card.h"
 #include "core/files.h"
 #include "core/formats.h"
-#include "core/race_card.h"
+#include "screen/screen.h"
 
 #include <utility>
 

@@ -1,12 +1,13 @@
 #include "rating/line_factors.h"
 
-#include "app/screen.h"
+#include "card/race_card.h"
 #include "core/formats.h"
-#include "core/race_card.h"
+#include "rating/course_factors.h"
 #include "rating/diagnostic_log.h"
-#include "source/line_value.h"
-#include "source/source_tables.h"
-#include "source/track_table.h"
+#include "rating/line_value.h"
+#include "screen/screen.h"
+#include "tables/source_tables.h"
+#include "tables/track_table.h"
 
 #include <algorithm>
 #include <array>

@@ -1,12 +1,12 @@
 #include "rating/line_selection.h"
 
+#include "card/race_card.h"
 #include "core/failure.h"
 #include "core/formats.h"
-#include "core/race_card.h"
 #include "rating/race_ranking.h"
-#include "rating/race_views.h"
 #include "rating/rating_display.h"
-#include "source/source_tables.h"
+#include "screen/race_views.h"
+#include "tables/source_tables.h"
 
 #include <algorithm>
 
@@ -249,19 +249,19 @@ Text tableCell(int row, int field) {
 void writeRow(int race, int index, const FieldNumbers& fields) {
     Grid& view = raceViewOf(race);
     RaceEntry& entry = card.entry[{race, index}];
-    view(index, raceColumn::horseName).text = entry.horseName;
-    view(index, raceColumn::morningOdds).text = entry.morningOdds;
-    view(index, raceColumn::programNumber).text = entry.programNumber;
-    view(index, raceColumn::post).text = std::to_string(index);
+    view(index, RaceColumn::horseName).text = entry.horseName;
+    view(index, RaceColumn::morningOdds).text = entry.morningOdds;
+    view(index, RaceColumn::programNumber).text = entry.programNumber;
+    view(index, RaceColumn::post).text = std::to_string(index);
     for (std::size_t i = 0; i < lineColumns.size(); ++i)
         attempt([&] {
             view(index, lineColumns[i].column).text =
                 lineColumns[i].shown(tableCell(entry.chosenLineNumber, fields[i]));
         });
     entry.chosenDriver = entry.driverName;
-    view(index, raceColumn::driver).text = entry.driverName;
-    view(index, raceColumn::udr).text = entry.driverUdr;
-    view(index, raceColumn::rating).text = entry.rating;
+    view(index, RaceColumn::driver).text = entry.driverName;
+    view(index, RaceColumn::udr).text = entry.driverUdr;
+    view(index, RaceColumn::rating).text = entry.rating;
     Colors();
 }
 

@@ -2,8 +2,7 @@
 
 #include "core/failure.h"
 #include "core/formats.h"
-#include "rating/race_views.h"
-#include "results/board.h"
+#include "screen/race_views.h"
 
 #include <algorithm>
 #include <optional>
@@ -81,7 +80,7 @@ constexpr int countedRows = 130;
 Integer filledRows(const Grid& dataView) {
     Integer filled = 0;
     for (int row = 1; row <= countedRows; ++row)
-        if (!dataView.read(row, dataColumn::date).text.empty()) ++filled;
+        if (!dataView.read(row, DataColumn::date).text.empty()) ++filled;
     return filled;
 }
 
@@ -230,17 +229,6 @@ void RankRace() {
     widenSelections(race);
     clearPaddedParks();
     fillDrivers(race);
-}
-
-void showSelections(const std::array<Text, 4>& programNumbers) {
-    for (int box = 0; box < selections; ++box) setBox(box, programNumbers[static_cast<std::size_t>(box)]);
-}
-
-void showRanking(int race) {
-    std::array<Text, selections> numbers;
-    for (int box = 0; box < selections; ++box)
-        numbers[static_cast<std::size_t>(box)] = rankedEntry(race, box + 1).programNumber;
-    showSelections(numbers);
 }
 
 void renewSelection(Selection& selection, const RaceEntry& entry) {

@@ -7,7 +7,7 @@
 // differ in.
 #pragma once
 
-#include "core/race_card.h"
+#include "card/race_card.h"
 
 #include <array>
 
@@ -59,12 +59,6 @@ Text driverText(const RaceEntry& entry);
 /// Counts the filled rows of the data view of the cursor's race, ranks it as a load does, and fills its
 /// selections. Reads and pads the ranked entries' cells. Resumes at failures.
 void RankRace();
-
-/// Shows these program numbers of S1 to S4 in the first four boxes.
-void showSelections(const std::array<Text, 4>& programNumbers);
-
-/// Behind a new ranking: the program numbers of its S1 to S4 in the first four boxes.
-void showRanking(int race);
 
 /// Behind a new ranking: name (cut to 25 characters), driver and rating (in width 5) of a selection are the
 /// entry's.

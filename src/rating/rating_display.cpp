@@ -1,9 +1,9 @@
 #include "rating/rating_display.h"
 
+#include "card/race_card.h"
 #include "core/failure.h"
 #include "core/formats.h"
-#include "core/race_card.h"
-#include "rating/race_views.h"
+#include "screen/race_views.h"
 
 #include <algorithm>
 
@@ -48,7 +48,7 @@ void colourSaddleCloth(Cell& programNumber) {
 
 void Colors() {
     const Step step{"Colors"};
-    colourSaddleCloth(raceViewOf(cursor.race)(cursor.entry, raceColumn::programNumber));
+    colourSaddleCloth(raceViewOf(cursor.race)(cursor.entry, RaceColumn::programNumber));
 }
 
 } // namespace quillon

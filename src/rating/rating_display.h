@@ -1,7 +1,7 @@
 // How the race views show program numbers: in the colours of the saddle cloths.
 #pragma once
 
-#include "app/screen.h"
+#include "screen/screen.h"
 
 namespace quillon {
 

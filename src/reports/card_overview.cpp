@@ -1,7 +1,7 @@
 #include "reports/card_overview.h"
 
+#include "card/race_card.h"
 #include "core/formats.h"
-#include "core/race_card.h"
 #include "reports/bet_mark.h"
 #include "reports/ranked_row.h"
 

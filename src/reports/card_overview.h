@@ -1,7 +1,7 @@
 // The card at a glance, for a front end to show: a race a row.
 #pragma once
 
-#include "app/screen.h"
+#include "screen/screen.h"
 
 namespace quillon {
 

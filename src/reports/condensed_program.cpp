@@ -1,12 +1,12 @@
 #include "reports/condensed_program.h"
 
-#include "app/ports.h"
-#include "core/card_files.h"
+#include "card/card_files.h"
+#include "card/race_card.h"
 #include "core/failure.h"
 #include "core/formats.h"
-#include "core/race_card.h"
 #include "reports/ranked_row.h"
 #include "reports/report_writer.h"
+#include "screen/ports.h"
 
 #include <algorithm>
 

@@ -1,11 +1,11 @@
 #include "reports/entries_list.h"
 
-#include "core/card_files.h"
+#include "card/card_files.h"
+#include "card/race_card.h"
 #include "core/failure.h"
-#include "core/race_card.h"
 #include "reports/report_writer.h"
 #include "reports/viewers.h"
-#include "source/source_tables.h"
+#include "tables/source_tables.h"
 
 namespace quillon {
 namespace {

@@ -1,9 +1,9 @@
 #include "reports/pick_sheet.h"
 
-#include "core/card_files.h"
+#include "card/card_files.h"
+#include "card/race_card.h"
 #include "core/failure.h"
 #include "core/formats.h"
-#include "core/race_card.h"
 #include "reports/ranked_row.h"
 #include "reports/report_writer.h"
 

@@ -1,6 +1,6 @@
 #include "reports/ranked_row.h"
 
-#include "core/race_card.h"
+#include "card/race_card.h"
 
 namespace quillon {
 

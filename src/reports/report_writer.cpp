@@ -1,7 +1,7 @@
 #include "reports/report_writer.h"
 
+#include "card/race_card.h"
 #include "core/dates.h"
-#include "core/race_card.h"
 
 namespace quillon {
 

@@ -1,13 +1,13 @@
 #include "reports/selection_sheet.h"
 
-#include "app/screen.h"
-#include "core/card_files.h"
+#include "card/card_files.h"
+#include "card/race_card.h"
 #include "core/failure.h"
-#include "core/race_card.h"
 #include "reports/bet_mark.h"
 #include "reports/pick_sheet.h"
 #include "reports/ranked_row.h"
 #include "reports/report_writer.h"
+#include "screen/screen.h"
 
 #include <algorithm>
 #include <array>

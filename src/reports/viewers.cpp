@@ -1,8 +1,8 @@
 #include "reports/viewers.h"
 
-#include "app/ports.h"
-#include "core/card_files.h"
+#include "card/card_files.h"
 #include "core/failure.h"
+#include "screen/ports.h"
 
 namespace quillon {
 

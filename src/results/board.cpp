@@ -1,10 +1,10 @@
 #include "results/board.h"
 
-#include "app/screen.h"
+#include "card/race_card.h"
 #include "core/failure.h"
-#include "core/race_card.h"
-#include "rating/race_views.h"
-#include "results/heats.h"
+#include "results/heat_slots.h"
+#include "screen/race_views.h"
+#include "screen/screen.h"
 
 #include <algorithm>
 #include <array>

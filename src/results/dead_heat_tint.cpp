@@ -1,7 +1,7 @@
-#include "app/screen.h"
+#include "card/race_card.h"
 #include "core/failure.h"
-#include "core/race_card.h"
 #include "results/board.h"
+#include "screen/screen.h"
 
 #include <cmath>
 

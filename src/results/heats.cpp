@@ -1,15 +1,16 @@
 #include "results/heats.h"
 
-#include "app/ports.h"
-#include "app/screen.h"
+#include "card/race_card.h"
 #include "core/failure.h"
 #include "core/files.h"
 #include "core/formats.h"
-#include "core/race_card.h"
 #include "rating/race_ranking.h"
-#include "rating/race_views.h"
 #include "reports/viewers.h"
 #include "results/board.h"
+#include "results/heat_slots.h"
+#include "screen/ports.h"
+#include "screen/race_views.h"
+#include "screen/screen.h"
 
 #include <algorithm>
 #include <array>
@@ -120,7 +121,7 @@ void HeatChoice(int row) {
     const Step step{"HeatChoice"};
     const int race = raceOnShow();
     if (row < 1 || row > ratedEntries || race == 0) return;
-    const Integer index = toInteger(strictNumber(raceViewOf(race).text(row, raceColumn::post)));
+    const Integer index = toInteger(strictNumber(raceViewOf(race).text(row, RaceColumn::post)));
     const RaceEntry& entry = card.entry(race, index);
 
     const auto number = ports.input("Enter Heat Race Number", "Heat Results");
@@ -156,27 +157,14 @@ void ViewHeat() {
     if (number) showInViewer(heatLog(numberText(lenientNumber(*number))));
 }
 
-bool isHeat(int race) {
-    if (race > card.raceCount) return true;
-    for (int entry = 1; entry < entryExtent; ++entry)
-        if (card.heatPost(race, entry) > 0) return true;
-    return false;
-}
-
-bool hasSelections(int race) {
-    for (int cell = 1; cell <= selectionBoxes; ++cell)
-        if (!card.raceOutcome(race, cell).empty()) return true;
-    return false;
-}
-
 void fillHeatView(int race) {
     Grid& view = raceViewOf(race);
     for (int row = 1; row <= ratedEntries; ++row) {
         const Text post = postText(race, row);
-        view(row, raceColumn::horseName).text = card.entry(race, row).horseName;
-        view(row, raceColumn::programNumber).text = post;
-        view(row, raceColumn::post).text = post.empty() ? std::to_string(row) : post;
-        view(row, raceColumn::rating).text = card.heatRating(race, row);
+        view(row, RaceColumn::horseName).text = card.entry(race, row).horseName;
+        view(row, RaceColumn::programNumber).text = post;
+        view(row, RaceColumn::post).text = post.empty() ? std::to_string(row) : post;
+        view(row, RaceColumn::rating).text = card.heatRating(race, row);
     }
 }
 

@@ -17,13 +17,6 @@ void HeatChoice(int row);
 /// Asks for a heat's number and opens its log in the text viewer.
 void ViewHeat();
 
-/// True for a race above the card's last one, and for a slot that a horse was entered in: its button counts
-/// as a race's when the selection sheet counts the card's races anew.
-bool isHeat(int race);
-
-/// True where one of the race's own selections, cells 1 to 4 of its outcome, has a text.
-bool hasSelections(int race);
-
 /// Fills the race view of a heat from its slot. Fails where there is no such view.
 void fillHeatView(int race);
 

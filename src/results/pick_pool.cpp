@@ -1,7 +1,7 @@
 #include "results/pick_pool.h"
 
+#include "card/race_card.h"
 #include "core/failure.h"
-#include "core/race_card.h"
 
 #include <array>
 

@@ -1,11 +1,12 @@
 #include "results/race_display.h"
 
-#include "app/screen.h"
+#include "card/race_card.h"
 #include "core/failure.h"
-#include "core/race_card.h"
-#include "rating/race_views.h"
 #include "results/board.h"
+#include "results/heat_slots.h"
 #include "results/heats.h"
+#include "screen/race_views.h"
+#include "screen/screen.h"
 
 #include <algorithm>
 #include <array>
@@ -23,11 +24,7 @@ constexpr int allViewsButTwo = 21;
 constexpr std::array payoffBoxes{1, 2, 3, 4, 5, 6, 7, 8, 9, 11};
 constexpr int boxTen = 10;
 
-constexpr int firstLitColumn = 3; ///< an entry's row is lit behind its name, odds and saddle cloth
-constexpr int lastColumn = 39;
-
-constexpr int hiddenRaceColumn = 2; ///< of a data view
-constexpr int lineButtonRows = 15;  ///< rows of past lines that can be taken by their number
+constexpr int lineButtonRows = 15; ///< rows of past lines that can be taken by their number
 
 void leaveLastRace() {
     screen.item(MenuItem::HeatWinner).checked = false;
@@ -88,18 +85,18 @@ void fillPastPerformances(int race, int post) {
     shown.clear();
     int row = 0;
     for (int line = 1; line < lines.rows(); ++line) {
-        if (lenientNumber(lines.text(line, dataColumn::post)) != post) continue;
+        if (lenientNumber(lines.text(line, DataColumn::post)) != post) continue;
         ++row;
-        for (int column = 1; column <= lastColumn; ++column)
-            if (column != hiddenRaceColumn) shown(row, column).text = lines.text(line, column);
-        if (row <= lineButtonRows) shown(row, dataColumn::lineNumber).text = std::to_string(line);
-        shown.shade(row, 1, lastColumn, shadeOfLine(card.entry(race, post), row));
+        for (int column = DataColumn::date; column <= DataColumn::lineNumber; ++column)
+            if (column != DataColumn::todaysRace) shown(row, column).text = lines.text(line, column);
+        if (row <= lineButtonRows) shown(row, DataColumn::lineNumber).text = std::to_string(line);
+        shown.shade(row, DataColumn::date, DataColumn::lineNumber, shadeOfLine(card.entry(race, post), row));
     }
 }
 
 /// What tells one line of a card from all others, in a data view as among the kept lines.
-constexpr std::array identifyingColumns{dataColumn::date, hiddenRaceColumn, dataColumn::post,
-                                        dataColumn::horse, dataColumn::lineNumber};
+constexpr std::array identifyingColumns{DataColumn::date, DataColumn::todaysRace, DataColumn::post,
+                                        DataColumn::horse, DataColumn::lineNumber};
 
 bool isKeptLine(const Grid& lines, int line, int keptLine) {
     if (keptLine < 1 || keptLine >= lineNumberExtent) return false;
@@ -206,7 +203,7 @@ void EntryButton(int i) {
     cursor.entry = static_cast<Integer>(i);
     screen.currentEntry = i;
     attempt([&] { fillPastPerformances(race, i); });
-    raceViewOf(race).shade(i, firstLitColumn, lastColumn, recentYellow);
+    raceViewOf(race).shade(i, RaceColumn::post, RaceColumn::last, recentYellow);
     const RaceEntry& entry = card.entry[{race, i}];
     screen.pastPerformanceHeading =
         Text{trimmed(entry.programNumber)} + "  " + Text{trimmed(entry.horseName)};
@@ -224,7 +221,7 @@ LineInUse lineInUse() {
     LineInUse found;
     int row = 0;
     for (int line = 1; line < lines.rows(); ++line) {
-        if (lenientNumber(lines.text(line, dataColumn::post)) != entry) continue;
+        if (lenientNumber(lines.text(line, DataColumn::post)) != entry) continue;
         ++row;
         if (line == taken) found.row = row;
         if (found.programsRow == 0 && isKeptLine(lines, line, chosen)) found.programsRow = row;
@@ -244,7 +241,9 @@ void ClosePastPerformances() {
 
 void ClearLastIndex() {
     if (screen.currentEntry < 1 || raceOnShow() < 1) return;
-    attempt([&] { raceViewOf(raceOnShow()).shade(screen.currentEntry, firstLitColumn, lastColumn, white); });
+    attempt([&] {
+        raceViewOf(raceOnShow()).shade(screen.currentEntry, RaceColumn::post, RaceColumn::last, white);
+    });
 }
 
 } // namespace quillon

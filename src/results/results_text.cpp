@@ -1,9 +1,9 @@
 #include "results/results_text.h"
 
-#include "app/ports.h"
-#include "core/card_files.h"
+#include "card/card_files.h"
+#include "card/race_card.h"
 #include "core/failure.h"
-#include "core/race_card.h"
+#include "screen/ports.h"
 
 namespace quillon {
 namespace {

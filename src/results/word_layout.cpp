@@ -1,10 +1,10 @@
 // Results text told by words: "TRC Auto Record", and the quiet pass of a recall.
 #include "results/auto_record.h"
 
+#include "card/race_card.h"
 #include "core/failure.h"
 #include "core/files.h"
 #include "core/formats.h"
-#include "core/race_card.h"
 #include "results/board.h"
 #include "results/pick_pool.h"
 #include "results/race_display.h"

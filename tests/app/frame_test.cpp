@@ -1,4 +1,6 @@
 #include "app/frame.h"
+
+#include "analysis/analysis_view.h"
 #include "app/start_up.h"
 #include "support/card_test.h"
 

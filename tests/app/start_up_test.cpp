@@ -1,4 +1,5 @@
 #include "app/start_up.h"
+#include "card/columns.h"
 #include "support/card_test.h"
 
 namespace quillon {
@@ -53,13 +54,13 @@ constexpr HeadRow entryHeads[] = {
 TEST_F(StartUpTest, ViewsHaveTheirHeadsAndWidths) {
     StartUp();
     for (const HeadRow& row : lineHeads) {
-        EXPECT_EQ(row.width, lineViewColumns()[static_cast<std::size_t>(row.column)].width) << row.column;
+        EXPECT_EQ(row.width, dataColumns()[static_cast<std::size_t>(row.column)].width) << row.column;
         if (row.column > 0) {
             EXPECT_EQ(row.head, screen.dataView[25].text(0, row.column)) << row.column;
         }
     }
     for (const HeadRow& row : entryHeads) {
-        EXPECT_EQ(row.width, entryViewColumns()[static_cast<std::size_t>(row.column)].width) << row.column;
+        EXPECT_EQ(row.width, raceColumns()[static_cast<std::size_t>(row.column)].width) << row.column;
         EXPECT_EQ(row.head, screen.raceView[23].text(0, row.column)) << row.column;
     }
     EXPECT_EQ(red, screen.dataView[1].read(0, 0).foreground);

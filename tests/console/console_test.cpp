@@ -1,8 +1,8 @@
 #include "console/console.h"
 
-#include "app/ports.h"
 #include "core/failure.h"
 #include "core/journal.h"
+#include "screen/ports.h"
 #include "support/card_test.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "console/show_store.h"
 
-#include "core/fields.h"
+#include "card/fields.h"
 #include "support/card_test.h"
 
 #include <gtest/gtest.h>

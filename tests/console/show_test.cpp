@@ -1,7 +1,7 @@
 #include "console/show.h"
 
-#include "app/screen.h"
 #include "core/journal.h"
+#include "screen/screen.h"
 #include "support/card_test.h"
 
 #include <gtest/gtest.h>

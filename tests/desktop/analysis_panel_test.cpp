@@ -1,7 +1,7 @@
 #include "desktop/analysis_panel.h"
 
 #include "analysis/summary.h"
-#include "core/race_card.h"
+#include "card/race_card.h"
 #include "desktop/shown_text.h"
 #include "desktop/window_test.h"
 

@@ -6,8 +6,8 @@
 #include "desktop/main_window_test.h"
 #include "desktop/shown_text.h"
 #include "desktop/window_shows.h"
-#include "rating/race_views.h"
 #include "results/board.h"
+#include "screen/race_views.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -115,7 +115,7 @@ TEST_F(MegabyteTest, InEveryCellOfARowIsCutAndAddsNoLineToTheCardsFile) {
     pressKeys("Ctrl+S");
     const auto lines = linesOfCardFile();
     int pasted = 0;
-    for (int column = 0; column <= raceColumn::rating; ++column) {
+    for (int column = 0; column <= RaceColumn::rating; ++column) {
         QWidget* editor = editorOf(1, column);
         if (!editor) continue;
         ++pasted;
@@ -125,7 +125,7 @@ TEST_F(MegabyteTest, InEveryCellOfARowIsCutAndAddsNoLineToTheCardsFile) {
         EXPECT_LE(screen.raceView[1].text(1, column).size(), 255U) << column;
         EXPECT_TRUE(isPlain(screen.raceView[1].text(1, column))) << column;
     }
-    EXPECT_EQ(raceColumn::rating, pasted); // all of 33 columns but the driver's
+    EXPECT_EQ(RaceColumn::rating, pasted); // all of 33 columns but the driver's
     expectShowsScreen(*window);
     for (const char* keys : {"Alt+Right", "Alt+Left", "Ctrl+S", "F6"}) pressKeys(keys);
     EXPECT_EQ(lines, linesOfCardFile());
@@ -141,7 +141,7 @@ TEST_F(MegabyteTest, InTheFieldsThatFindFindsNothingSoon) {
     QTest::keyClick(&find, Qt::Key_Return);
     QTest::keyClick(&find, Qt::Key_Escape);
     QTest::mouseClick(raceView().viewport(), Qt::LeftButton, {},
-                      raceView().visualRect(cell(2, raceColumn::driver)).center());
+                      raceView().visualRect(cell(2, RaceColumn::driver)).center());
     ASSERT_TRUE(screen.driverList.visible);
     auto& filter = box("ChoiceFilter");
     pasteOver(filter);
@@ -179,7 +179,7 @@ TEST_F(BadInputTest, LettersWhereNumbersGoPassThroughTheCells) {
     startInWindow();
     for (const QString& text : noNumbers) {
         for (const int column :
-             {raceColumn::programNumber, raceColumn::post, raceColumn::udr, raceColumn::rating}) {
+             {RaceColumn::programNumber, RaceColumn::post, RaceColumn::udr, RaceColumn::rating}) {
             QWidget* editor = editorOf(2, column);
             ASSERT_TRUE(editor);
             QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
@@ -235,7 +235,7 @@ protected:
     void openDrivers() {
         startInWindow();
         QTest::mouseClick(raceView().viewport(), Qt::LeftButton, {},
-                          raceView().visualRect(cell(2, raceColumn::driver)).center());
+                          raceView().visualRect(cell(2, RaceColumn::driver)).center());
         ASSERT_TRUE(screen.driverList.visible);
     }
     void openStars() {
@@ -345,7 +345,7 @@ TEST_F(ModalTest, TheWindowStaysWhileAQuestionIsOpen) {
     }
     EXPECT_FALSE(closed);
     EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ("99.9", trimmed(screen.raceView[1].text(3, raceColumn::rating))) << "the scratch went on";
+    EXPECT_EQ("99.9", trimmed(screen.raceView[1].text(3, RaceColumn::rating))) << "the scratch went on";
     expectShowsScreen(*window);
 }
 

@@ -1,5 +1,5 @@
-#include "app/ports.h"
 #include "desktop/board_panel.h"
+#include "screen/ports.h"
 
 #include "desktop/main_window.h"
 #include "desktop/shown_text.h"

@@ -1,6 +1,6 @@
 #include "desktop/choice_dialog.h"
 
-#include "core/race_card.h"
+#include "card/race_card.h"
 #include "desktop/shown_text.h"
 #include "desktop/window_test.h"
 

@@ -5,8 +5,8 @@
 #include "desktop/main_window_test.h"
 #include "desktop/shown_text.h"
 #include "desktop/window_shows.h"
-#include "rating/race_views.h"
 #include "results/race_display.h"
+#include "screen/race_views.h"
 
 #include <QDialog>
 #include <QDockWidget>
@@ -189,8 +189,8 @@ public:
         startInWindow();
         answers = {"Yes"};
         click(button("ScratchButton3"));
-        EXPECT_EQ("Scr", textIn("RaceView", 3, raceColumn::track));
-        EXPECT_EQ("99.9", trimmed(textIn("RaceView", 3, raceColumn::rating)));
+        EXPECT_EQ("Scr", textIn("RaceView", 3, RaceColumn::track));
+        EXPECT_EQ("99.9", trimmed(textIn("RaceView", 3, RaceColumn::rating)));
     }
     void takeLine() {
         startInWindow();
@@ -198,7 +198,7 @@ public:
         const int other = lineInUse().row == 1 ? 2 : 1;
         click(button(QString{"LineButton%1"}.arg(other)));
         EXPECT_EQ(other, lineInUse().row);
-        EXPECT_EQ(textIn("EntryLines", other, 38), textIn("RaceView", 2, raceColumn::rating));
+        EXPECT_EQ(textIn("EntryLines", other, 38), textIn("RaceView", 2, RaceColumn::rating));
         EXPECT_TRUE(label("LineInUse").contains("your line"));
     }
     void raceEditor() {
@@ -208,11 +208,11 @@ public:
         answers = {screen.dataView[pastPerformanceView].text(other, 39)};
         pressKeys("Ctrl+L");
         EXPECT_EQ(other, lineInUse().row);
-        EXPECT_EQ(textIn("EntryLines", other, 38), textIn("RaceView", 2, raceColumn::rating));
+        EXPECT_EQ(textIn("EntryLines", other, 38), textIn("RaceView", 2, RaceColumn::rating));
     }
     void driverColumn() {
         startInWindow();
-        clickCell("RaceView", 2, raceColumn::driver);
+        clickCell("RaceView", 2, RaceColumn::driver);
         EXPECT_TRUE(choices().isVisible());
         EXPECT_EQ("Change Driver", choices().windowTitle());
         EXPECT_EQ(2, screen.driverRow);
@@ -220,15 +220,15 @@ public:
     }
     void driverChoice() {
         startInWindow();
-        clickCell("RaceView", 2, raceColumn::driver);
+        clickCell("RaceView", 2, RaceColumn::driver);
         const Text wanted = screen.driverList.lines.at(3);
-        ASSERT_NE(trimmed(wanted.substr(0, 15)), trimmed(screen.raceView[1].text(2, raceColumn::driver)));
+        ASSERT_NE(trimmed(wanted.substr(0, 15)), trimmed(screen.raceView[1].text(2, RaceColumn::driver)));
         auto& filter = child<QLineEdit>(*window, "ChoiceFilter");
         QTest::keyClicks(&filter, quillon::shown(wanted.substr(0, 15)).trimmed());
         QTest::keyClick(&filter, Qt::Key_Return);
         EXPECT_FALSE(choices().isVisible());
         EXPECT_EQ(quillon::shown(trimmed(wanted.substr(0, 15))).toStdString(),
-                  trimmed(textIn("RaceView", 2, raceColumn::driver)));
+                  trimmed(textIn("RaceView", 2, RaceColumn::driver)));
     }
 
     // Heats and results

@@ -1,6 +1,6 @@
 #include "desktop/main_window_test.h"
 
-#include "core/race_card.h"
+#include "card/race_card.h"
 #include "desktop/dialog_answers.h"
 #include "desktop/shown_text.h"
 

@@ -1,11 +1,11 @@
 // A whole window whose ways to the outside are recorders, so that no dialog waits for an answer.
 #pragma once
 
-#include "app/ports.h"
 #include "desktop/desktop_ports.h"
 #include "desktop/main_window.h"
 #include "desktop/menus.h"
 #include "desktop/window_test.h"
+#include "screen/ports.h"
 
 #include <optional>
 

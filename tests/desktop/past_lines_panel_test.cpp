@@ -3,7 +3,7 @@
 #include "desktop/cell_table_view.h"
 #include "desktop/shown_text.h"
 #include "desktop/window_test.h"
-#include "rating/race_views.h"
+#include "screen/race_views.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -117,7 +117,7 @@ TEST_F(PastLinesTest, ALineButtonShowsItsNumberAndTakesItsLine) {
     EXPECT_EQ(number(3), line(3).text());
     click(line(3));
     EXPECT_EQ(rating, card.entry(3, 2).rating);
-    EXPECT_EQ(rating, screen.raceView[3].text(2, raceColumn::rating));
+    EXPECT_EQ(rating, screen.raceView[3].text(2, RaceColumn::rating));
 }
 
 TEST_F(PastLinesTest, TheProgramsLineIsMarkedAndTheUsersHasAMarkOfItsOwn) {

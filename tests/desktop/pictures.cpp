@@ -2,7 +2,6 @@
 // shows.
 //
 //     quillon_pictures FOLDER WIDTH HEIGHT light|dark
-#include "app/ports.h"
 #include "app/start_up.h"
 #include "core/files.h"
 #include "desktop/board_panel.h"
@@ -10,6 +9,7 @@
 #include "desktop/main_window.h"
 #include "desktop/menus.h"
 #include "desktop/stars_window.h"
+#include "screen/ports.h"
 
 #include <QAction>
 #include <QApplication>

@@ -3,7 +3,7 @@
 #include "desktop/cell_table_view.h"
 #include "desktop/shown_text.h"
 #include "desktop/window_test.h"
-#include "rating/race_views.h"
+#include "screen/race_views.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -142,7 +142,7 @@ TEST_F(RacePanelTest, AScratchAsksAndRatesTheEntryLast) {
     answers = {"Yes"};
     click(button("ScratchButton", 3));
     EXPECT_EQ("99.9", card.entry(1, 3).rating);
-    EXPECT_EQ("Scr", textOf(3, raceColumn::track));
+    EXPECT_EQ("Scr", textOf(3, RaceColumn::track));
     expectRace(1);
 }
 
@@ -155,7 +155,7 @@ TEST_F(RacePanelTest, TheHeadOfTheScratchColumnSwitchesAllItsButtons) {
     for (int row = 1; row <= 12; ++row) EXPECT_EQ("X", button("ScratchButton", row).text());
     answers = {"Yes"};
     click(button("ScratchButton", 2));
-    EXPECT_EQ("X", textOf(2, raceColumn::track));
+    EXPECT_EQ("X", textOf(2, RaceColumn::track));
 }
 
 TEST_F(RacePanelTest, WhereNoHorseIsNothingCanBePressed) {
@@ -166,7 +166,7 @@ TEST_F(RacePanelTest, WhereNoHorseIsNothingCanBePressed) {
     EXPECT_FALSE(button("EntryButton", 12).isEnabled());
     EXPECT_EQ("", button("EntryButton", 12).text());
     EXPECT_FALSE(cell(12, 5).flags() & Qt::ItemIsEditable);
-    clickCell(12, raceColumn::driver);
+    clickCell(12, RaceColumn::driver);
     EXPECT_FALSE(screen.driverList.visible);
 }
 
@@ -240,21 +240,21 @@ TEST_F(RacePanelTest, AMegabyteInACellIsCutWhereTheEditorEnds) {
 
 TEST_F(RacePanelTest, AClickOnADriverListsTheDriversAndHisCellIsNotTypedIn) {
     startSampleCard();
-    EXPECT_FALSE(cell(2, raceColumn::driver).flags() & Qt::ItemIsEditable);
-    clickCell(2, raceColumn::udr);
+    EXPECT_FALSE(cell(2, RaceColumn::driver).flags() & Qt::ItemIsEditable);
+    clickCell(2, RaceColumn::udr);
     EXPECT_FALSE(screen.driverList.visible);
-    clickCell(2, raceColumn::driver);
+    clickCell(2, RaceColumn::driver);
     EXPECT_TRUE(screen.driverList.visible);
     EXPECT_EQ(2, screen.driverRow);
 }
 
 TEST_F(RacePanelTest, EnterAndSpaceOpenWhatACellLeadsTo) {
     startSampleCard();
-    table().setCurrentIndex(cell(3, raceColumn::driver));
+    table().setCurrentIndex(cell(3, RaceColumn::driver));
     QTest::keyClick(&table(), Qt::Key_Space);
     EXPECT_TRUE(screen.driverList.visible);
     EXPECT_EQ(3, screen.driverRow);
-    table().setCurrentIndex(cell(5, raceColumn::driver));
+    table().setCurrentIndex(cell(5, RaceColumn::driver));
     QTest::keyClick(&table(), Qt::Key_Return);
     EXPECT_EQ(5, screen.driverRow);
     table().setCurrentIndex(cell(4, 0));

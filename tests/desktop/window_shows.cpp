@@ -1,13 +1,13 @@
 #include "desktop/window_shows.h"
 
 #include "app/commands.h"
-#include "core/race_card.h"
+#include "card/race_card.h"
 #include "desktop/cell_table_view.h"
 #include "desktop/menus.h"
 #include "desktop/shown_text.h"
 #include "desktop/stars_window.h"
-#include "rating/race_views.h"
 #include "results/board.h"
+#include "screen/race_views.h"
 
 #include <gtest/gtest.h>
 

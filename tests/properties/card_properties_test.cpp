@@ -5,12 +5,12 @@
 #include "app/start_up.h"
 #include "core/formats.h"
 #include "core/numbers.h"
+#include "day/save.h"
 #include "rating/race_ranking.h"
 #include "reports/condensed_program.h"
 #include "reports/pick_sheet.h"
 #include "reports/selection_sheet.h"
 #include "results/board.h"
-#include "store/save.h"
 
 #include <gtest/gtest.h>
 

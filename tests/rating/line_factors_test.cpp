@@ -1,12 +1,12 @@
 // The factors of a line one by one, and whole lines on their road to a rating.
-#include "core/fields.h"
-#include "core/race_card.h"
+#include "card/fields.h"
+#include "card/race_card.h"
 #include "rating/diagnostic_log.h"
 #include "rating/line_factors.h"
-#include "source/source_tables.h"
-#include "source/table_builder.h"
-#include "source/track_table.h"
 #include "support/card_test.h"
+#include "tables/source_tables.h"
+#include "tables/table_builder.h"
+#include "tables/track_table.h"
 
 namespace quillon {
 namespace {

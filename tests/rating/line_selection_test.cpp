@@ -1,9 +1,9 @@
-#include "core/fields.h"
+#include "card/fields.h"
 #include "core/formats.h"
 #include "rating/line_selection.h"
-#include "source/source_tables.h"
-#include "source/table_builder.h"
 #include "support/card_test.h"
+#include "tables/source_tables.h"
+#include "tables/table_builder.h"
 
 namespace quillon {
 namespace {

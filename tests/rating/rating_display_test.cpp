@@ -1,5 +1,5 @@
+#include "card/race_card.h"
 #include "core/failure.h"
-#include "core/race_card.h"
 #include "rating/rating_display.h"
 #include "results/board.h"
 #include "support/card_test.h"

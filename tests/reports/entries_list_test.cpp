@@ -2,7 +2,7 @@
 
 #include "core/failure.h"
 #include "sheet_test.h"
-#include "source/source_tables.h"
+#include "tables/source_tables.h"
 
 namespace quillon {
 namespace {

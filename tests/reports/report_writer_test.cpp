@@ -1,6 +1,6 @@
 #include "reports/report_writer.h"
 
-#include "core/text_cell.h"
+#include "card/text_cell.h"
 #include "sheet_test.h"
 
 namespace quillon {

@@ -1,8 +1,8 @@
 #include "reports/viewers.h"
 
+#include "app/settings_editors.h"
 #include "core/failure.h"
 #include "sheet_test.h"
-#include "tools/settings_editors.h"
 
 namespace quillon {
 

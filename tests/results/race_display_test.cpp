@@ -1,9 +1,9 @@
 #include "results/race_display.h"
 
-#include "rating/re_calculation.h"
-#include "rating/scratch.h"
+#include "day/re_calculation.h"
+#include "day/save.h"
+#include "day/scratch.h"
 #include "results/board.h"
-#include "store/save.h"
 #include "support/card_test.h"
 
 #include <gtest/gtest.h>

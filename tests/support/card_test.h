@@ -2,10 +2,10 @@
 // ports.
 #pragma once
 
-#include "app/ports.h"
-#include "app/screen.h"
+#include "card/race_card.h"
 #include "core/journal.h"
-#include "core/race_card.h"
+#include "screen/ports.h"
+#include "screen/screen.h"
 
 #include <gtest/gtest.h>
 

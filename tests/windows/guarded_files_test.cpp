@@ -1,11 +1,11 @@
 // Files that their user has marked, that another program has open, or that are very long.
 #include "windows_files.h"
 
-#include "app/screen.h"
+#include "card/race_card.h"
 #include "core/failure.h"
 #include "core/files.h"
-#include "core/race_card.h"
-#include "store/save.h"
+#include "day/save.h"
+#include "screen/screen.h"
 #include "support/card_test.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,0 @@
-#include "app/ports.h"
-
-namespace quillon {
-
-Ports ports;
-
-} // namespace quillon

@@ -1,0 +1,25 @@
+#include "results/heat_slots.h"
+
+#include "card/race_card.h"
+
+namespace quillon {
+namespace {
+
+constexpr int selections = 4;
+
+} // namespace
+
+bool isHeat(int race) {
+    if (race > card.raceCount) return true;
+    for (int entry = 1; entry < entryExtent; ++entry)
+        if (card.heatPost(race, entry) > 0) return true;
+    return false;
+}
+
+bool hasSelections(int race) {
+    for (int cell = 1; cell <= selections; ++cell)
+        if (!card.raceOutcome(race, cell).empty()) return true;
+    return false;
+}
+
+} // namespace quillon

@@ -1,0 +1,7 @@
+#include "screen/ports.h"
+
+namespace quillon {
+
+Ports ports;
+
+} // namespace quillon

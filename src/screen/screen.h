@@ -1,0 +1,289 @@
+// The screen as data: what the user sees, for any front end to render. The logic writes it; front ends read
+// it and send back commands with an index.
+#pragma once
+
+#include "core/numbers.h"
+#include "core/table.h"
+#include "core/text.h"
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace quillon {
+
+struct Colour {
+    std::uint8_t red = 0;
+    std::uint8_t green = 0;
+    std::uint8_t blue = 0;
+    friend bool operator==(const Colour&, const Colour&) = default;
+};
+
+inline constexpr Colour white{255, 255, 255};
+inline constexpr Colour red{255, 0, 0};
+inline constexpr Colour recentYellow{255, 255,
+                                     100};      ///< lines at most 33 days old; the entry and race in view
+inline constexpr Colour olderCyan{0, 255, 255}; ///< lines at most 50 days old
+inline constexpr Colour closeMagenta{255, 100, 255}; ///< the top two all but level
+
+struct Cell {
+    Text text{};
+    std::optional<Colour> background{}; ///< none: the view's own
+    std::optional<Colour> foreground{};
+    bool bold = false;
+};
+
+/// A table of cells with fixed column numbers; row 0 is the head. Rows are made when they are first written.
+///
+/// grid(row, column) fails outside the bounds by the failure policy, as every store beyond a bound does.
+class Grid {
+public:
+    Grid() = default;
+    Grid(int rows, int columns);
+
+    int rows() const { return rowCount_; }
+    int columns() const { return columnCount_; }
+
+    /// The cell to be written. Fails outside the bounds. The cell stays where it is until clear().
+    Cell& operator()(int row, int column);
+
+    /// All cells of a row, to be written. Fails outside the bounds.
+    std::span<Cell> cellsOf(int row);
+
+    /// The cell as it stands, an empty one where nothing was written. Fails outside the bounds. A cell of a
+    /// made row stands until another row is looked at.
+    const Cell& read(int row, int column) const;
+
+    /// The text of a cell: of a bound view what its table holds, else the cell's own. Fails outside the
+    /// bounds.
+    Text text(int row, int column) const;
+
+    /// Gives every cell of the columns `from` to `to` of a row this background.
+    void shade(int row, int from, int to, std::optional<Colour> background);
+
+    /// Shows another table in this view, row for row, without copying it: `source(row, column)` gives the
+    /// text of rows 1 to `rows`. Row 0 stays the head's.
+    using Source = std::function<Text(int row, int column)>;
+    void bind(int rows, int columns, Source source);
+
+    /// Rows that are made when they are looked at, for tables too long to be held: `make` fills the cells of
+    /// a row, all empty before, and must not fail. The `count` rows from `first` on take the place of all
+    /// rows there were from there on. They can't be written.
+    using RowMaker = std::function<void(int row, std::span<Cell> cells)>;
+    void makeRows(int first, int count, RowMaker make);
+
+    /// Empties every cell but those of the head row, and lets go of a bound table and of made rows.
+    void clear();
+    void clearAll(); ///< the head row too
+
+    /// Goes up with every change, so that a front end can tell what to draw again.
+    std::uint64_t version() const { return version_; }
+
+private:
+    void check(int row, int column) const;
+    bool isMade(int row) const { return make_ && row >= static_cast<int>(cells_.size()); }
+    const Cell& madeCell(int row, int column) const;
+    void letGoOfMadeRows();
+
+    std::vector<std::vector<Cell>> cells_; ///< a row without cells was never written
+    Source source_;
+    RowMaker make_;            ///< of the rows behind `cells_`
+    mutable int lookedAt_ = 0; ///< the made row that stands in `madeCells_`; 0 none
+    mutable std::vector<Cell> madeCells_;
+    int rowCount_ = 0;
+    int columnCount_ = 0;
+    std::uint64_t version_ = 0;
+};
+
+struct Button {
+    Text caption{};
+    bool visible = true;
+    bool enabled = true;
+    bool current = false; ///< drawn red: the race on show
+};
+
+struct Box {
+    Text text{};
+    Colour colour = white;
+};
+
+struct Label {
+    Text caption{};
+    bool visible = true;
+};
+
+struct ChoiceList {
+    std::vector<Text> lines{};
+    bool visible = false;
+    Text caption{}; ///< of the button that the list hangs from, where it has one
+};
+
+struct MenuState {
+    bool enabled = true;
+    bool visible = true;
+    bool checked = false;
+};
+
+/// The items of the menus whose state the logic changes, by the names of their commands. A command without a
+/// row here is always there.
+enum class MenuItem {
+    NewRC,
+    RecallRaceCard,
+    Save,
+    CloseRC,
+    Exit_QL,
+    MainScreen,
+    HeatWinner,
+    ViewHeat,
+    AutoRecord,
+    EBET,
+    Entries,
+    ViewSummary,
+    Pick3Selections,
+    ViewCondensedProgram,
+    PrintCondensedProgram,
+    DriverList,
+    NotePad,
+    PrintSummary,
+    Print2,
+    TestResults,
+    ArchivesEditor,
+    TrackEditor,
+    EXE,
+    SelectionResults,
+    ALL,
+    HALF,
+    FIVE,
+    Seven,
+    MILE,
+    QUARTER,
+    Select,
+    Star,
+    Track_Profile,
+    Pick3Results,
+    Diagnostic,
+    About,
+    Version,
+    Reset,
+    USTA,
+    RTN,
+    Weather,
+    TRC,
+    QLR,
+    count ///< how many there are
+};
+
+constexpr int dataViews =
+    29; ///< 1 to 23 races, 24 the running-line table, 25 an entry's past lines, the rest spare
+constexpr int raceViews = 24;
+constexpr int lineTableView = 24;
+constexpr int pastPerformanceView = 25;
+constexpr int dataViewRows = 200;
+constexpr int dataViewColumns = 40;
+constexpr int raceViewRows = 21; ///< the head and an entry a row
+constexpr int raceViewColumns = 40;
+
+/// What stands in `Screen::lineTaken` besides the row of a line.
+constexpr Integer noLineTaken = 0; ///< the program's choice stands
+constexpr Integer takenOut = -1;   ///< scratched or removed: no line speaks for the entry
+
+inline constexpr TextView startCaption = "Start";            ///< before a card
+inline constexpr TextView viewRacesCaption = "View Races";   ///< for a card recalled from file
+inline constexpr TextView selectRaceCaption = "Select Race"; ///< after a load
+inline constexpr TextView windowCaption = "Quillon Professional Version";
+
+/// The heading of the race on show.
+struct RaceHeader {
+    Text race{}; ///< "1", or "1A" right after the load of a lettered card
+    Label track{};
+    Label date{};
+    Text purse{};
+    Text classText{};
+    Text cr{};
+    Text wagering{};
+    Text postTime{};
+    Text gait{};
+    Text distance{};
+    Text trackInfo{};
+};
+
+struct Screen {
+    Screen(); ///< all views in their fixed sizes, empty
+
+    Text caption{};
+    int width = 16250; ///< twips
+    int height = 11200;
+
+    RaceHeader header{};
+    Button start{};
+    std::array<Button, 24> raceButtons{};    ///< 1 to 23; 0 is spare
+    std::array<Button, 24> raceChecks{};     ///< check marks of the card's race list
+    std::array<Button, 13> entryButtons{};   ///< 1 to 12, captioned with program numbers
+    std::array<Button, 13> scratchButtons{}; ///< column "Scr"; 0 switches all
+    std::array<Button, 13> heatButtons{};    ///< heat choice of rows 1 to 12
+    std::array<Box, 8> boxes{};              ///< selections 0 to 3, finish 4 to 7
+    std::array<Text, 12> tote{};             ///< "Tote Board" boxes; 0 is the heading
+    std::array<Text, 4> finishLabels{};      ///< above the payoff columns: the finish boxes again
+    bool boxTenVisible = false;
+    int boxTenColumn =
+        0; ///< column of payoffs that box 10 stands beside in a dead heat: 1 win, 2 place; 0 none
+    Text refunds{};
+
+    std::array<Grid, dataViews> dataView{};
+    std::array<bool, dataViews> dataViewVisible{};
+    std::array<Grid, raceViews> raceView{};
+    std::array<bool, raceViews> raceViewVisible{};
+
+    bool pastPerformanceOpen = false;
+    int currentEntry = 0; ///< the entry whose past lines are shown; 0 none
+    Text pastPerformanceHeading{};
+
+    /// By race and entry: the row of the race's data view that the user took in place of the program's line,
+    /// or one of the values above.
+    Table<Integer, raceViews, raceViewRows> lineTaken{};
+
+    std::array<MenuState, static_cast<std::size_t>(MenuItem::count)> menu{};
+
+    ChoiceList fileList{};
+    ChoiceList trackList{};
+    ChoiceList driverList{};
+    int driverRow = 0;   ///< row of the race view that the driver list was opened for
+    Text driverChoice{}; ///< the line picked in it
+    ChoiceList raceList{};
+    Text profileFilter{}; ///< tracks of the betting profile that is asked for
+    ChoiceList marginList{};
+    ChoiceList oddsList{};
+    ChoiceList maxOddsList{};
+    Integer marginChoice = 0; ///< whole points from which S1 stood out; 50 is any margin
+    Text oddsChoice{};        ///< morning line of S1 in the stars profile
+
+    Grid summary{};
+    Grid profile{};
+    Grid tracks{};
+    Grid picks{};
+    Grid stars{};
+    bool summaryVisible = false;
+    bool profileVisible = false;
+    bool tracksVisible = false;
+    bool picksVisible = false;
+    bool starsVisible = false;
+    std::array<Text, 9> starsFields{}; ///< Text1 to Text8
+    Button record{};                   ///< the summary's Record button
+    bool racePanelsVisible = true;     ///< the race panels, or the analysis view in their place
+
+    MenuState& item(MenuItem item) { return menu[static_cast<std::size_t>(item)]; }
+    const MenuState& item(MenuItem item) const { return menu[static_cast<std::size_t>(item)]; }
+
+    /// Empties the rows of all data and race views; their heads stay.
+    void clearCardViews();
+
+    /// Everything empty, as before start-up.
+    void clear();
+};
+
+extern Screen screen;
+
+} // namespace quillon
