@@ -12,17 +12,19 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QScrollBar>
+#include <QStyle>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <utility>
 
 namespace quillon {
 namespace {
 
-constexpr int cellMargin = 4; ///< pixels on both sides of a text
+constexpr int headMargin = 4; ///< pixels beside the text of a head
 constexpr int measuredRows = 60;
 constexpr int plainColumn = 900;  ///< twips of a column that has no width of its own
 constexpr int longestTyped = 255; ///< as in the boxes: a pasted megabyte would make its column miles wide
@@ -57,6 +59,27 @@ std::vector<int> columnsIn(const QItemSelection& ranges, int row) {
     columns.erase(std::unique(columns.begin(), columns.end()), columns.end());
     return columns;
 }
+
+/// How wide texts are. A view has few faces and many texts: each face is looked up once.
+class TextMeasure {
+public:
+    int width(const QString& text, const QFont& font) {
+        const auto known =
+            std::find_if(faces_.begin(), faces_.end(), [&](const Face& face) { return face.font == font; });
+        const Face& face = known != faces_.end() ? *known : faces_.emplace_back(font, QFontMetricsF{font});
+        return static_cast<int>(std::ceil(face.metrics.horizontalAdvance(text)));
+    }
+
+private:
+    struct Face {
+        Face(QFont itsFont, QFontMetricsF itsMetrics)
+            : font{std::move(itsFont)}, metrics{std::move(itsMetrics)} {}
+        QFont font;
+        QFontMetricsF metrics;
+    };
+
+    std::vector<Face> faces_;
+};
 
 /// Edits a cell in its place.
 class CellDelegate : public QStyledItemDelegate {
@@ -162,12 +185,23 @@ void CellTableView::show(const Grid* grid, const CellRange& range) {
     lay();
 }
 
+// What the style leaves free beside a cell's text, and the line of the grid.
+int CellTableView::roomBesideText() const {
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    return 2 * margin + (showGrid() ? 1 : 0);
+}
+
+// As the cell is drawn: what its own font leaves open, such as the size, is the view's.
+QFont CellTableView::fontOf(const QModelIndex& cell) const {
+    QFont face = cell.data(Qt::FontRole).value<QFont>().resolve(font());
+    if (roomForBold_) face.setBold(true);
+    return face;
+}
+
 // Row by row, since a row may have to be made to be looked at.
 std::vector<int> CellTableView::textWidths() const {
-    QFont bold = font();
-    bold.setBold(true);
-    const QFontMetrics body{font()};
-    const QFontMetrics boldBody{bold};
+    TextMeasure measure;
+    const int besideText = roomBesideText();
     const int columns = model()->columnCount();
     std::vector<int> widths(static_cast<std::size_t>(columns));
     const int rows = std::min(model()->rowCount(), measuredRows);
@@ -176,9 +210,8 @@ std::vector<int> CellTableView::textWidths() const {
             const QModelIndex index = model()->index(row, column);
             const QString text = index.data().toString();
             if (text.isEmpty()) continue;
-            const bool isBold = roomForBold_ || index.data(Qt::FontRole).isValid();
             int& width = widths[static_cast<std::size_t>(column)];
-            width = std::max(width, (isBold ? boldBody : body).horizontalAdvance(text) + 2 * cellMargin);
+            width = std::max(width, measure.width(text, fontOf(index)) + besideText);
         }
     return widths;
 }
@@ -193,7 +226,7 @@ CellTableView::ColumnWidth CellTableView::widthFor(int column, int textWidth) co
         return {pixels, pixels};
     }
     const QString head = model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-    const int headWidth = QFontMetrics{horizontalHeader()->font()}.horizontalAdvance(head) + cellMargin;
+    const int headWidth = QFontMetrics{horizontalHeader()->font()}.horizontalAdvance(head) + headMargin;
     const int needed = std::max({headWidth, textWidth, horizontalHeader()->minimumSectionSize()});
     return {std::max(appearance_.pixels(wanted), needed), needed};
 }
@@ -227,6 +260,7 @@ void CellTableView::lay() {
     dragged_.resize(static_cast<std::size_t>(columns));
     const std::vector<int> texts = textWidths();
     std::vector<ColumnWidth> widths;
+    widths.reserve(static_cast<std::size_t>(columns));
     for (int column = 0; column < columns; ++column)
         widths.push_back(widthFor(column, texts[static_cast<std::size_t>(column)]));
     if (fitted_) fit(widths);

@@ -137,6 +137,8 @@ private:
     };
 
     void lay();
+    int roomBesideText() const;
+    QFont fontOf(const QModelIndex& cell) const;
     std::vector<int> textWidths() const;
     struct ColumnWidth {
         int wanted = 0;

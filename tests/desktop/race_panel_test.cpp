@@ -1,13 +1,16 @@
 #include "desktop/race_panel.h"
 
 #include "desktop/cell_table_view.h"
+#include "desktop/main_window_test.h"
 #include "desktop/shown_text.h"
 #include "desktop/window_test.h"
+#include "rating/rating_display.h"
 #include "screen/race_views.h"
 
 #include <QApplication>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 
 namespace quillon {
 namespace {
@@ -294,6 +297,87 @@ TEST_F(RacePanelTest, ARefreshSendsNoCommand) {
     QObject::connect(&runner, &CommandRunner::aboutToRun, &panel, [&] { ++commands; });
     panel.refresh();
     EXPECT_EQ(0, commands);
+}
+
+struct RaceViewWidthTest : MainWindowTest {
+    CellTableView& table() { return child<CellTableView>(*window, "RaceView"); }
+
+    void numberAllRows(const Text& number) {
+        for (int row = 1; row <= 12; ++row) {
+            Cell& cell = screen.raceView[1](row, RaceColumn::programNumber);
+            cell.text = number;
+            colourSaddleCloth(cell);
+        }
+        window->refresh();
+    }
+
+    /// A cell's text and the font that it is drawn with.
+    QStyleOptionViewItem drawn(const QModelIndex& cell) {
+        struct CellDelegate : QStyledItemDelegate {
+            using QStyledItemDelegate::initStyleOption;
+        };
+        QStyleOptionViewItem option;
+        option.initFrom(&table());
+        option.font = table().font();
+        CellDelegate{}.initStyleOption(&option, cell);
+        return option;
+    }
+
+    // A visual rect is without the line of the grid.
+    void expectWhole(const QModelIndex& cell) {
+        const int margin = table().style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &table()) + 1;
+        const int room = table().visualRect(cell).width() - 2 * margin;
+        const QStyleOptionViewItem option = drawn(cell);
+        EXPECT_LE(QFontMetricsF{option.font}.horizontalAdvance(option.text), room)
+            << option.text.toStdString();
+        EXPECT_EQ(option.text, QFontMetrics{option.font}.elidedText(option.text, Qt::ElideRight, room));
+    }
+
+    void expectAllWhole() {
+        for (int row = 0; row < 12; ++row)
+            for (int column = 0; column < table().model()->columnCount(); ++column) {
+                if (table().isColumnHidden(column)) continue;
+                SCOPED_TRACE("row " + std::to_string(row + 1) + ", column " + std::to_string(column));
+                expectWhole(table().model()->index(row, column));
+            }
+    }
+};
+
+TEST_F(RaceViewWidthTest, InTheFirstWindowEveryTextIsWholeAndTheNumbersOfTheClothsAreToo) {
+    startInWindow();
+    for (const int zoom : {100, 200}) {
+        appearance.setZoom(zoom);
+        window->resize(1083, 747);
+        QTest::qWait(50);
+        ASSERT_EQ(QSize(1083, 747), window->size());
+        for (const char* number : {"5", "10", "12", "1A"}) {
+            SCOPED_TRACE("number " + std::string{number} + " at " + std::to_string(zoom));
+            numberAllRows(number);
+            expectAllWhole();
+        }
+    }
+}
+
+TEST_F(RaceViewWidthTest, ColumnsThatMakeRoomInANarrowWindowKeepTheirTextsWhole) {
+    startInWindow();
+    numberAllRows("1A");
+    for (int width = 1200; width >= 900; width -= 20) {
+        window->resize(width, 747);
+        QTest::qWait(10);
+        ASSERT_EQ(width, window->width());
+        SCOPED_TRACE(width);
+        expectAllWhole();
+    }
+}
+
+TEST_F(RaceViewWidthTest, TheNumbersOfTheClothsGrowWithTheZoom) {
+    startInWindow();
+    const auto clothPoints = [&] {
+        return drawn(table().model()->index(0, RaceColumn::programNumber)).font.pointSizeF();
+    };
+    EXPECT_EQ(10, clothPoints());
+    appearance.setZoom(200);
+    EXPECT_EQ(20, clothPoints());
 }
 
 } // namespace
