@@ -3,7 +3,7 @@
 #include "card/race_card.h"
 #include "core/failure.h"
 #include "support/fuzz_target.h"
-#include "tables/source_tables.h"
+#include "tables/load_state.h"
 
 #include <string>
 
@@ -17,12 +17,12 @@ void takeTrack(const TrackRecord& track) {
     card.stretchLength = track.stretchLength;
     card.maxPosts = track.maxPosts;
     screen.header.track.caption = track.trackKey;
-    sourceLine.TRACK = track.trackKey;
-    sourceLine.TRACKSIZE = track.lineCourseSize;
+    load.line.TRACK = track.trackKey;
+    load.line.TRACKSIZE = track.lineCourseSize;
     for (const Integer post : {Integer{0}, Integer{1}, Integer{9}, Integer{12}}) {
         cursor.entry = post;
         cursor.lineValue = "60.0";
-        sourceLine.POST = std::to_string(post);
+        load.line.POST = std::to_string(post);
         attempt(Tracks);
         attempt(PostPosition);
         attempt(Last_PP);

@@ -7,7 +7,7 @@
 #include "core/failure.h"
 #include "core/journal.h"
 #include "screen/ports.h"
-#include "tables/source_tables.h"
+#include "tables/load_state.h"
 
 #include <unistd.h>
 
@@ -77,9 +77,8 @@ void beginInput() {
     folder.empty();
     ports = {};
     journal.clear();
-    sourceTables = {};
-    sourceLine = {};
-    sourceHorse = {};
+    load = {};
+    load.horse = {};
     StartUp();
 }
 

@@ -206,7 +206,7 @@ void fillTotals(const Totals& totals) {
     for (std::size_t bet = firstSuperfecta; bet < profileBets.size(); ++bet) fillSuperfecta(totals, bet);
 }
 
-void clearProfile() { screen.profile.bind(profileRow::percentages, profileColumns, nullptr); }
+void clearProfile() { screen.profile.layOut(profileRow::percentages + 1, profileColumns); }
 
 void fillProfile(const Totals& totals, const std::shared_ptr<CardRows>& cards) {
     clearProfile();
@@ -215,8 +215,8 @@ void fillProfile(const Totals& totals, const std::shared_ptr<CardRows>& cards) {
     fillCounts(totals, cards->count());
     fillTotals(totals);
     fillPercentages(totals);
-    screen.profile.makeRows(profileRow::firstCard, cards->count(),
-                            [cards](int row, std::span<Cell> cells) { cards->make(row, cells); });
+    const auto make = [cards](int row, std::span<Cell> cells) { cards->make(row, cells); };
+    screen.profile.showRows(profileRow::firstCard, {cards->count(), make});
 }
 
 /// Copies the lines that pass, and adds up their cards on the way. False when the user cancels: then nothing

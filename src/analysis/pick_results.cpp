@@ -41,7 +41,7 @@ constexpr std::array wagers{
 // clang-format on
 
 void layOutView() {
-    screen.picks.bind(viewRows - 1, viewColumns, nullptr);
+    screen.picks.layOut(viewRows, viewColumns);
     for (const Head& head : heads) screen.picks(0, head.column).text = head.text;
     for (const Wager& wager : wagers) screen.picks(0, wager.column).text = wager.head;
     for (int column = 0; column < viewColumns; ++column) screen.picks(0, column).bold = true;

@@ -96,16 +96,17 @@ void fillRow(std::span<Cell> cells, const StarRow& row, PiecesAhead& file) {
 }
 
 void clearTable() {
-    screen.stars.bind(0, static_cast<int>(heads.size()), nullptr);
+    screen.stars.layOut(1, static_cast<int>(heads.size()));
     for (std::size_t column = 0; column < heads.size(); ++column)
         screen.stars(0, static_cast<int>(column)).text = heads[column];
 }
 
 void showTable(const std::shared_ptr<StarTable>& table) {
     clearTable();
-    screen.stars.makeRows(1, static_cast<int>(table->rows.size()), [table](int row, std::span<Cell> cells) {
+    const auto make = [table](int row, std::span<Cell> cells) {
         attempt([&] { fillRow(cells, table->rows[static_cast<std::size_t>(row) - 1], table->file); });
-    });
+    };
+    screen.stars.showRows(1, {static_cast<int>(table->rows.size()), make});
 }
 
 /// The win mark of a line is its last character; short ones leave it as it is.

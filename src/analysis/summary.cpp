@@ -154,7 +154,7 @@ void holdRaceCursor() {
 void clearView() {
     const int labelled = card.raceOffset + card.raceCount;
     const int rows = std::clamp(std::max<int>(labelled, card.raceCount), judgedRaces, lastRow);
-    screen.summary.bind(rows, summaryColumns, nullptr);
+    screen.summary.layOut(rows + 1, summaryColumns);
     for (int column = 0; column < summaryColumns; ++column) screen.summary(0, column).text = heads.at(column);
 }
 

@@ -134,7 +134,7 @@ void fillSizes(const Profile& profile, ReportWriter& report) {
 }
 
 void layOutView(std::size_t tracks) {
-    screen.tracks.bind(static_cast<int>(std::max(tracks, sizes.size())), viewColumns, nullptr);
+    screen.tracks.layOut(static_cast<int>(std::max(tracks, sizes.size())) + 1, viewColumns);
     fillCells(0, firstTrackColumn, {"TRACK", "RACES", "WINS", "PCT"});
     fillCells(0, firstSizeColumn, {"SIZE", "RACES", "WINS", "PCT"});
 }

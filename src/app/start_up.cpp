@@ -4,6 +4,7 @@
 #include "card/race_card.h"
 #include "core/failure.h"
 #include "core/files.h"
+#include "day/snapshot.h"
 #include "screen/screen.h"
 
 #include <array>
@@ -40,7 +41,8 @@ void setMenu() {
 }
 
 void setButtons() {
-    screen.start = {.caption = Text{startCaption}};
+    screen.start = {};
+    screen.offer(StartOffer::load);
     for (auto* keys : {&screen.entryButtons, &screen.heatButtons})
         for (Button& key : *keys) key = {.enabled = false};
     for (Button& heat : screen.heatButtons) heat.visible = false;
@@ -63,7 +65,7 @@ void setFirstRace() {
     cursor.race = 1;
     screen.raceButtons[1].enabled = false;
     screen.raceButtons[1].current = true;
-    screen.dataView[1](0, 0).text = "RACE " + card.raceInfo(1).label;
+    screen.dataView[1](0, DataColumn::entry).text = "RACE " + card.raceInfo(1).label;
 }
 
 void setCrossover(const Text& crossover) {
@@ -84,7 +86,7 @@ void FlexGrid1() {
     for (int view = 1; view <= pastPerformanceView; ++view) {
         Grid& grid = screen.dataView[static_cast<std::size_t>(view)];
         setHeads(grid, dataColumns());
-        grid(0, 0).foreground = red;
+        grid(0, DataColumn::entry).foreground = red;
     }
 }
 
@@ -93,16 +95,13 @@ void MSFlex2() {
     for (int view = 1; view <= ratedRaces; ++view) {
         Grid& grid = screen.raceView[static_cast<std::size_t>(view)];
         setHeads(grid, raceColumns());
-        grid(0, 0).foreground = red;
+        grid(0, RaceColumn::horseName).foreground = red;
     }
 }
 
 void StartUp() {
     const Step step{"StartUp"};
-    screen.clear();
-    card.clear();
-    cursor = {};
-
+    resetAll();
     Text crossover;
     attempt([&] { crossover = crossoverText(); });
     screen.caption = windowCaption;

@@ -1,20 +1,31 @@
 // One list of fields a record, by name: reset, show, and the differences that tests print are made from it.
 #pragma once
 
+#include "card/line_fields.h"
 #include "card/race_card.h"
 
 #include <tuple>
 
 namespace quillon {
 
+/// Where else a field is known.
+struct FieldPlaces {
+    int fileValue = 0;            ///< place among an entry's values in the card file, 0 for none
+    int raceColumn = noColumn;    ///< of a race view
+    const char* vendor = nullptr; ///< its name in the vendor's race table, when it is taken as it stands
+};
+
 template <class Record, class Value>
 struct Field {
     const char* name;
     Value Record::*member;
+    FieldPlaces places{};
 };
 
 template <class Record, class Value>
 Field(const char*, Value Record::*) -> Field<Record, Value>;
+template <class Record, class Value>
+Field(const char*, Value Record::*, FieldPlaces) -> Field<Record, Value>;
 
 /// Calls visit(name, value) for each field of the list, in its order.
 template <class List, class Record, class Visit>
@@ -42,72 +53,54 @@ inline constexpr std::tuple cardScalars{
     Field{"superfectaRaces", &RaceCard::superfectaRaces},
 };
 
+// clang-format off
 inline constexpr std::tuple raceInfoFields{
-    Field{"label", &RaceInfo::label},
-    Field{"trackCode", &RaceInfo::trackCode},
-    Field{"trackInfo", &RaceInfo::trackInfo},
-    Field{"purse", &RaceInfo::purse},
-    Field{"classText", &RaceInfo::classText},
-    Field{"todaysCr", &RaceInfo::todaysCr},
-    Field{"wagering", &RaceInfo::wagering},
-    Field{"postTime", &RaceInfo::postTime},
-    Field{"gait", &RaceInfo::gait},
-    Field{"distance", &RaceInfo::distance},
-    Field{"ratingNote", &RaceInfo::ratingNote},
-    Field{"raceLabelDistance", &RaceInfo::raceLabelDistance},
+    Field{"label",             &RaceInfo::label},
+    Field{"trackCode",         &RaceInfo::trackCode, {.fileValue = 38}},
+    Field{"trackInfo",         &RaceInfo::trackInfo, {.fileValue = 39}},
+    Field{"purse",             &RaceInfo::purse,     {.fileValue = 34, .vendor = "PURSE"}},
+    Field{"classText",         &RaceInfo::classText, {.fileValue = 35, .vendor = "RACETEXT1"}},
+    Field{"todaysCr",          &RaceInfo::todaysCr,  {.fileValue = 36, .vendor = "TODAYS_CR"}},
+    Field{"wagering",          &RaceInfo::wagering,  {.fileValue = 37, .vendor = "RACEWAGERS"}},
+    Field{"postTime",          &RaceInfo::postTime,  {.fileValue = 33, .vendor = "POSTTIME"}},
+    Field{"gait",              &RaceInfo::gait,      {.fileValue = 43, .vendor = "GAIT"}},
+    Field{"distance",          &RaceInfo::distance,  {.vendor = "DISTANCE"}},
+    Field{"ratingNote",        &RaceInfo::ratingNote},
+    Field{"raceLabelDistance", &RaceInfo::raceLabelDistance, {.fileValue = 44}},
 };
+// clang-format on
 
-inline constexpr std::tuple pastLineFields{
-    Field{"DATE", &PastLine::DATE},
-    Field{"TRACK", &PastLine::TRACK},
-    Field{"COND", &PastLine::COND},
-    Field{"PURSE", &PastLine::PURSE},
-    Field{"CLASS", &PastLine::CLASS},
-    Field{"CR", &PastLine::CR},
-    Field{"DIST_MILES", &PastLine::DIST_MILES},
-    Field{"LEAD_TM_1Q", &PastLine::LEAD_TM_1Q},
-    Field{"LEAD_TM_2Q", &PastLine::LEAD_TM_2Q},
-    Field{"LEAD_TM_3Q", &PastLine::LEAD_TM_3Q},
-    Field{"LEAD_TM_FN", &PastLine::LEAD_TM_FN},
-    Field{"POST", &PastLine::POST},
-    Field{"CALL_1Q_BF", &PastLine::CALL_1Q_BF},
-    Field{"CALL_1Q_PO", &PastLine::CALL_1Q_PO},
-    Field{"CALL_1Q_PK", &PastLine::CALL_1Q_PK},
-    Field{"CALL_1Q_AF", &PastLine::CALL_1Q_AF},
-    Field{"CALL_2Q_BF", &PastLine::CALL_2Q_BF},
-    Field{"CALL_2Q_PO", &PastLine::CALL_2Q_PO},
-    Field{"CALL_2Q_PK", &PastLine::CALL_2Q_PK},
-    Field{"CALL_2Q_AF", &PastLine::CALL_2Q_AF},
-    Field{"CALL_3Q_BF", &PastLine::CALL_3Q_BF},
-    Field{"CALL_3Q_PO", &PastLine::CALL_3Q_PO},
-    Field{"CALL_3Q_PK", &PastLine::CALL_3Q_PK},
-    Field{"CALL_3Q_AF", &PastLine::CALL_3Q_AF},
-    Field{"CALL_ST_PO", &PastLine::CALL_ST_PO},
-    Field{"CALL_FN_PO", &PastLine::CALL_FN_PO},
-    Field{"HRSE_TM_4Q", &PastLine::HRSE_TM_4Q},
-    Field{"HRSE_TM_FN", &PastLine::HRSE_TM_FN},
-    Field{"driverName", &PastLine::driverName},
-    Field{"rating", &PastLine::rating},
-    Field{"lineNumber", &PastLine::lineNumber},
-};
+/// The fields of a past line, from the table of what the vendor has of it.
+inline constexpr struct {
+} pastLineFields;
+
+template <class Record, class Visit>
+void forEachField(decltype(pastLineFields), Record& line, Visit visit) {
+    for (const LineField& field : lineFields) visit(TextView{field.name}, line.*field.cell);
+    visit(TextView{"driverName"}, line.driverName);
+    visit(TextView{"rating"}, line.rating);
+    visit(TextView{"lineNumber"}, line.lineNumber);
+}
 
 /// The fields of an entry but for `chosen`, whose own fields are those of a past line.
+// clang-format off
 inline constexpr std::tuple raceEntryFields{
-    Field{"horseName", &RaceEntry::horseName},
-    Field{"programNumber", &RaceEntry::programNumber},
-    Field{"morningOdds", &RaceEntry::morningOdds},
-    Field{"postPosition", &RaceEntry::postPosition},
-    Field{"driverNumber", &RaceEntry::driverNumber},
-    Field{"driverName", &RaceEntry::driverName},
-    Field{"driverUdr", &RaceEntry::driverUdr},
-    Field{"chosenDriver", &RaceEntry::chosenDriver},
-    Field{"trainerName", &RaceEntry::trainerName},
-    Field{"favMark", &RaceEntry::favMark},
-    Field{"linesInLastWindow", &RaceEntry::linesInLastWindow},
-    Field{"linesInFiftyDays", &RaceEntry::linesInFiftyDays},
-    Field{"chosenLineNumber", &RaceEntry::chosenLineNumber},
-    Field{"rating", &RaceEntry::rating},
+    Field{"horseName",         &RaceEntry::horseName,     {.fileValue =  1, .raceColumn = RaceColumn::horseName}},
+    Field{"programNumber",     &RaceEntry::programNumber, {.fileValue =  3, .raceColumn = RaceColumn::programNumber}},
+    Field{"morningOdds",       &RaceEntry::morningOdds,   {.fileValue =  2, .raceColumn = RaceColumn::morningOdds}},
+    Field{"postPosition",      &RaceEntry::postPosition},
+    Field{"driverNumber",      &RaceEntry::driverNumber},
+    Field{"driverName",        &RaceEntry::driverName},
+    Field{"driverUdr",         &RaceEntry::driverUdr,     {.fileValue = 31, .raceColumn = RaceColumn::udr}},
+    Field{"chosenDriver",      &RaceEntry::chosenDriver,  {.fileValue = 30, .raceColumn = RaceColumn::driver}},
+    Field{"trainerName",       &RaceEntry::trainerName,   {.fileValue = 42}},
+    Field{"favMark",           &RaceEntry::favMark,       {.fileValue = 29, .raceColumn = RaceColumn::favourite}},
+    Field{"linesInLastWindow", &RaceEntry::linesInLastWindow, {.fileValue = 40}},
+    Field{"linesInFiftyDays",  &RaceEntry::linesInFiftyDays,  {.fileValue = 41}},
+    Field{"chosenLineNumber",  &RaceEntry::chosenLineNumber},
+    Field{"rating",            &RaceEntry::rating,        {.fileValue = 32, .raceColumn = RaceColumn::rating}},
 };
+// clang-format on
 
 inline constexpr std::tuple driverFields{
     Field{"name", &Driver::name},
@@ -141,6 +134,25 @@ inline constexpr std::tuple lineCursorFields{
     Field{"postNumber", &LineCursor::postNumber},
     Field{"scratchPost", &LineCursor::scratchPost},
     Field{"scratchAdjust", &LineCursor::scratchAdjust},
+};
+
+/// The scalars of the store that are no field of the card's own: they are cleared with it.
+inline constexpr std::tuple furtherScalars{
+    Field{"unreadFile", &RaceCard::unreadFile},
+    Field{"starPercentage", &RaceCard::starPercentage},
+};
+
+/// The tables of the store.
+inline constexpr std::tuple cardTables{
+    Field{"RaceInfo", &RaceCard::raceInfo},         Field{"RaceEntry", &RaceCard::entry},
+    Field{"PastLine", &RaceCard::pastLine},         Field{"DriverTable", &RaceCard::driverTable},
+    Field{"TrainerTable", &RaceCard::trainerTable}, Field{"LineCells", &RaceCard::lineCells},
+    Field{"rankEntry", &RaceCard::rankEntry},       Field{"SelectionSet", &RaceCard::selection},
+    Field{"RaceOutcome", &RaceCard::raceOutcome},   Field{"PayoffRecord", &RaceCard::payoffRecord},
+    Field{"PickPayoff", &RaceCard::pickPayoff},     Field{"PickLegs", &RaceCard::pickLegs},
+    Field{"keyPicks", &RaceCard::keyPicks},         Field{"winHeat", &RaceCard::winHeat},
+    Field{"placeHeat", &RaceCard::placeHeat},       Field{"heatPost", &RaceCard::heatPost},
+    Field{"heatRating", &RaceCard::heatRating},
 };
 
 } // namespace quillon

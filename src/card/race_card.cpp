@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <string>
+#include <tuple>
 #include <utility>
 
 namespace quillon {
@@ -20,8 +21,6 @@ std::size_t columnAt(int column) {
 }
 
 } // namespace
-
-PastLineTable::PastLineTable() = default;
 
 bool PastLineTable::isFilled(int race, int entry, int line) const {
     const bool rated = race >= 1 && race <= ratedRaces && entry >= 1 && entry <= ratedEntries;
@@ -41,10 +40,10 @@ PastLine& PastLineTable::write(int race, int entry, int line) {
 
 PastLine& PastLineTable::writeWide(int race, int entry, int line) {
     auto& kept = lines_(race, entry, line);
-    if (!kept) {
-        kept = std::make_unique<PastLine>();
-        if (isFilled(race, entry, line)) *kept = blankLine_;
-    }
+    if (!kept)
+        kept = std::make_shared<PastLine>(isFilled(race, entry, line) ? blankLine_ : PastLine{});
+    else if (kept.use_count() > 1)
+        kept = std::make_shared<PastLine>(*kept);
     return *kept;
 }
 
@@ -69,7 +68,7 @@ TextView LineCellTable::read(int lineNumber, int column) const {
 }
 
 void LineCellTable::writeLine(int lineNumber, std::span<const TextView, lineCellColumns> cells) {
-    auto line = std::make_unique<Line>();
+    auto line = std::make_shared<Line>();
     std::size_t length = 0;
     for (const TextView cell : cells) length += cell.size();
     line->joined.resize(length);
@@ -84,26 +83,15 @@ void LineCellTable::writeLine(int lineNumber, std::span<const TextView, lineCell
 void LineCellTable::clear() { lines_.clear(); }
 
 void RaceCard::clear() {
-    forEachField(cardScalars, *this, [](TextView, auto& value) { value = std::decay_t<decltype(value)>{}; });
-    unreadFile.clear();
-    starPercentage.clear();
-    raceInfo.clear();
-    entry.clear();
-    pastLine.clear();
-    driverTable.clear();
-    trainerTable.clear();
-    lineCells.clear();
-    rankEntry.clear();
-    selection.clear();
-    raceOutcome.clear();
-    payoffRecord.clear();
-    pickPayoff.clear();
-    pickLegs.clear();
-    keyPicks.clear();
-    winHeat.clear();
-    placeHeat.clear();
-    heatPost.clear();
-    heatRating.clear();
+    const auto empty = [](TextView, auto& value) { value = std::decay_t<decltype(value)>{}; };
+    forEachField(cardScalars, *this, empty);
+    forEachField(furtherScalars, *this, empty);
+    forEachField(cardTables, *this, [](TextView, auto& table) { table.clear(); });
+}
+
+void RaceCard::shareWith(const RaceCard& other) {
+    std::apply([&](const auto&... table) { ((this->*table.member).shareWith(other.*table.member), ...); },
+               cardTables);
 }
 
 } // namespace quillon

@@ -46,6 +46,8 @@ struct RaceInfo {
     Text distance{};
     Integer ratingNote = 0;   ///< filled rows of the race's data view when it was ranked
     Text raceLabelDistance{}; ///< label and distance joined, as a saved card carries them
+
+    bool operator==(const RaceInfo&) const = default;
 };
 
 /// One past race of an entry, under the names of the running-line table's columns.
@@ -81,6 +83,8 @@ struct PastLine {
     Text driverName{};
     Text rating{}; ///< at most 5 characters, "99.9" when unusable
     Integer lineNumber = 0;
+
+    bool operator==(const PastLine&) const = default;
 };
 
 /// One of today's entries.
@@ -100,11 +104,15 @@ struct RaceEntry {
     Integer chosenLineNumber = 0;
     Text rating{};
     PastLine chosen{}; ///< the line that speaks for the entry
+
+    bool operator==(const RaceEntry&) const = default;
 };
 
 struct Driver {
     Text name{}; ///< last name, comma, first initial
     Text udr{};
+
+    bool operator==(const Driver&) const = default;
 };
 
 /// One ranked row of a race: S1 to S4 and the fifth horse.
@@ -114,14 +122,14 @@ struct Selection {
     Text selectionOdds{};
     Text selectionRating{};
     Text selectionPost{};
+
+    bool operator==(const Selection&) const = default;
 };
 
-/// Past lines by race, entry and line. A card has a few thousand of the 20,181 there is room for, so a line
-/// is made when it is first written.
+/// Past lines by race, entry and line. A card has a few thousand of the 29,791 there is room for, so a line
+/// is made when it is first written. Copies share a line until one of them writes it.
 class PastLineTable {
 public:
-    PastLineTable();
-
     /// The line as it stands; an empty one where nothing was written. Fails outside the bounds.
     const PastLine& read(int race, int entry, int line) const;
 
@@ -139,13 +147,14 @@ public:
     void fillRatedEntries(int lines, const PastLine& blankLine);
 
     void clear();
+    void shareWith(const PastLineTable& other) { lines_.shareWith(other.lines_); }
 
 private:
     bool isFilled(int race, int entry, int line) const;
 
     PastLine blankLine_;
     int filledLines_ = 0;
-    Table<std::unique_ptr<PastLine>, raceExtent, wideEntryExtent, lineExtent> lines_;
+    Table<std::shared_ptr<PastLine>, raceExtent, wideEntryExtent, lineExtent> lines_;
 };
 
 /// The cells of the card's lines as their data views first showed them, by line number and column. There are
@@ -162,6 +171,7 @@ public:
     void writeLine(int lineNumber, std::span<const TextView, lineCellColumns> cells);
 
     void clear();
+    void shareWith(const LineCellTable& other) { lines_.shareWith(other.lines_); }
 
 private:
     struct Line {
@@ -169,7 +179,7 @@ private:
         std::array<std::uint32_t, lineCellColumns> ends{}; ///< where each cell ends in it
     };
 
-    Table<std::unique_ptr<Line>, lineNumberExtent> lines_;
+    Table<std::shared_ptr<const Line>, lineNumberExtent> lines_;
 };
 
 struct RaceCard {
@@ -214,6 +224,9 @@ struct RaceCard {
 
     /// Everything back to empty texts and zero.
     void clear();
+
+    /// Lets go of rows of its tables that are the same as the other's, and shares those.
+    void shareWith(const RaceCard& other);
 };
 
 /// What the passes over the card's lines hand each other: where they stand, and the line at work.

@@ -1,78 +1,58 @@
 #include "cardfiles/card_file.h"
 
+#include "card/fields.h"
 #include "core/failure.h"
 #include "core/files.h"
 
 #include <array>
 #include <charconv>
+#include <tuple>
+#include <type_traits>
 #include <variant>
 
 namespace quillon {
 namespace {
 
-constexpr int savedOutcomes = 8; // the fifth horse's cell is not saved
-constexpr int savedPayoffs = 21;
+constexpr int savedOutcomes = OutcomeCell::r4; // the fifth horse's cell is not saved
+constexpr int savedPayoffs = PayoffCell::last;
 constexpr int savedSelections = 4; // neither is its row
-
-constexpr int notShown = -1;
 
 // A value of block 1: whose it is, and the column of the race view that shows it.
 struct EntryValue {
     std::variant<TextCell RaceEntry::*, Text RaceEntry::*, Integer RaceEntry::*, Text PastLine::*,
                  Text RaceInfo::*>
         member; // of a past line: of the entry's chosen one
-    int column = notShown;
+    int column = noColumn;
 };
 
-// Block 1, an entry's values in the order of the file.
-// clang-format off
-constexpr std::array entryValues{
-    EntryValue{&RaceEntry::horseName,           0},          //  1
-    EntryValue{&RaceEntry::morningOdds,         1},          //  2
-    EntryValue{&RaceEntry::programNumber,       2},          //  3
-    EntryValue{&PastLine::TRACK,                4},          //  4
-    EntryValue{&PastLine::PURSE,                5},          //  5
-    EntryValue{&PastLine::CLASS,                6},          //  6
-    EntryValue{&PastLine::CR,                   7},          //  7
-    EntryValue{&PastLine::LEAD_TM_1Q,           8},          //  8
-    EntryValue{&PastLine::LEAD_TM_2Q,           9},          //  9
-    EntryValue{&PastLine::LEAD_TM_3Q,          10},          // 10
-    EntryValue{&PastLine::LEAD_TM_FN,          11},          // 11
-    EntryValue{&PastLine::POST,                12},          // 12
-    EntryValue{&PastLine::CALL_1Q_PO,          14},          // 13
-    EntryValue{&PastLine::CALL_2Q_PO,          18},          // 14
-    EntryValue{&PastLine::CALL_3Q_PO,          22},          // 15
-    EntryValue{&PastLine::CALL_1Q_PK,          15},          // 16
-    EntryValue{&PastLine::CALL_2Q_PK,          19},          // 17
-    EntryValue{&PastLine::CALL_3Q_PK,          23},          // 18
-    EntryValue{&PastLine::CALL_1Q_BF,          13},          // 19
-    EntryValue{&PastLine::CALL_1Q_AF,          16},          // 20
-    EntryValue{&PastLine::CALL_2Q_BF,          17},          // 21
-    EntryValue{&PastLine::CALL_2Q_AF,          20},          // 22
-    EntryValue{&PastLine::CALL_3Q_BF,          21},          // 23
-    EntryValue{&PastLine::CALL_3Q_AF,          24},          // 24
-    EntryValue{&PastLine::CALL_ST_PO,          25},          // 25
-    EntryValue{&PastLine::CALL_FN_PO,          26},          // 26
-    EntryValue{&PastLine::HRSE_TM_4Q,          27},          // 27
-    EntryValue{&PastLine::HRSE_TM_FN,          28},          // 28
-    EntryValue{&RaceEntry::favMark,            29},          // 29
-    EntryValue{&RaceEntry::chosenDriver,       30},          // 30
-    EntryValue{&RaceEntry::driverUdr,          31},          // 31
-    EntryValue{&RaceEntry::rating,             32},          // 32
-    EntryValue{&RaceInfo::postTime,            notShown},    // 33
-    EntryValue{&RaceInfo::purse,               notShown},    // 34
-    EntryValue{&RaceInfo::classText,           notShown},    // 35
-    EntryValue{&RaceInfo::todaysCr,            notShown},    // 36
-    EntryValue{&RaceInfo::wagering,            notShown},    // 37
-    EntryValue{&RaceInfo::trackCode,           notShown},    // 38
-    EntryValue{&RaceInfo::trackInfo,           notShown},    // 39
-    EntryValue{&RaceEntry::linesInLastWindow,  notShown},    // 40
-    EntryValue{&RaceEntry::linesInFiftyDays,   notShown},    // 41
-    EntryValue{&RaceEntry::trainerName,        notShown},    // 42
-    EntryValue{&RaceInfo::gait,                notShown},    // 43
-    EntryValue{&RaceInfo::raceLabelDistance,   notShown},    // 44
-};
-// clang-format on
+constexpr std::size_t valuesOfEntry = 44;
+
+// Block 1, an entry's values in the order of the file, from the places that each field names.
+constexpr std::array entryValues = [] {
+    std::array<EntryValue, valuesOfEntry> values{};
+    const auto put = [&](const auto&... field) {
+        const auto putOne = [&](const auto& one) {
+            if constexpr (std::is_constructible_v<decltype(EntryValue::member), decltype(one.member)>)
+                if (one.places.fileValue > 0)
+                    values[static_cast<std::size_t>(one.places.fileValue) - 1] = {one.member,
+                                                                                  one.places.raceColumn};
+        };
+        (putOne(field), ...);
+    };
+    std::apply(put, raceEntryFields);
+    std::apply(put, raceInfoFields);
+    for (const LineField& field : lineFields)
+        if (field.fileValue > 0)
+            values[static_cast<std::size_t>(field.fileValue) - 1] = {field.cell, field.raceColumn};
+    return values;
+}();
+
+constexpr bool everyPlaceIsTaken() {
+    for (const EntryValue& value : entryValues)
+        if (std::visit([](auto member) { return member == nullptr; }, value.member)) return false;
+    return true;
+}
+static_assert(everyPlaceIsTaken());
 
 // Block 4, a selection's values in the order of the file.
 constexpr std::array selectionValues{&Selection::selectionName, &Selection::selectionDriver,
@@ -82,11 +62,10 @@ constexpr std::size_t valuesOfRace = ratedEntries * entryValues.size() + savedOu
                                      savedSelections * selectionValues.size();
 static_assert(ratedRaces * valuesOfRace == cardFileLines);
 
+// What a user may have changed: the chosen line but for its track and purse, and the rating.
 constexpr bool isTakenBack(int column) {
-    constexpr int firstOfLine = 6;
-    constexpr int favouriteMark = 29;
-    constexpr int rating = 32;
-    return (column >= firstOfLine && column <= favouriteMark) || column == rating;
+    return (column >= RaceColumn::classText && column <= RaceColumn::favourite) ||
+           column == RaceColumn::rating;
 }
 
 // Entry and Info are constant when the card is written to a file.
@@ -286,7 +265,7 @@ void takeArchive(TextView content, RaceCard& card) {
 
 void fillRaceViewRow(Grid& view, int row, const RaceEntry& entry) {
     for (const EntryValue& value : entryValues)
-        if (value.column != notShown)
+        if (value.column != noColumn)
             view(row, value.column).text = std::visit(ShownText{entry}, value.member);
 }
 

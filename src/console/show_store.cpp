@@ -5,6 +5,7 @@
 #include "core/numbers.h"
 
 #include <span>
+#include <type_traits>
 
 namespace quillon {
 namespace {
@@ -89,51 +90,54 @@ private:
     Transcript& transcript_;
 };
 
-void showEntries(StorePrinter& printer) {
-    printer.each(card.entry, [&](const auto& index, const RaceEntry& entry) {
-        const auto name = [&] { return indexed("RaceEntry", index); };
+// A table of the store, by what it holds.
+template <class Record, int... extents>
+constexpr auto fieldsOf(const Table<Record, extents...>&) {
+    if constexpr (std::is_same_v<Record, RaceInfo>) return raceInfoFields;
+    if constexpr (std::is_same_v<Record, Driver>) return driverFields;
+    if constexpr (std::is_same_v<Record, Selection>) return selectionFields;
+}
+
+template <class Record, int... extents>
+void show(StorePrinter& printer, const char* name, const Table<Record, extents...>& table) {
+    if constexpr (std::is_void_v<decltype(fieldsOf(table))>)
+        printer.cells(name, table);
+    else
+        printer.records(name, table, fieldsOf(table));
+}
+
+void show(StorePrinter& printer, const char* table,
+          const Table<RaceEntry, raceExtent, entryExtent>& entries) {
+    printer.each(entries, [&](const auto& index, const RaceEntry& entry) {
+        const auto name = [&] { return indexed(table, index); };
         printer.record(raceEntryFields, entry, [&] { return name() + '.'; });
         printer.record(pastLineFields, entry.chosen, [&] { return name() + ".chosen."; });
     });
 }
 
-void showPastLines(StorePrinter& printer) {
+void show(StorePrinter& printer, const char* table, const PastLineTable& lines) {
     constexpr std::array extents{raceExtent, wideEntryExtent, lineExtent};
     std::array<int, extents.size()> index{};
     do
-        printer.record(pastLineFields, card.pastLine.read(index[0], index[1], index[2]),
-                       [&] { return indexed("PastLine", index) + '.'; });
+        printer.record(pastLineFields, lines.read(index[0], index[1], index[2]),
+                       [&] { return indexed(table, index) + '.'; });
     while (advance(index, extents));
 }
 
-void showLineCells(StorePrinter& printer) {
-    std::array<int, card.lineCells.extents.size()> index{};
-    do printer.cell("LineCells", index, Text{card.lineCells.read(index[0], index[1])});
-    while (advance(index, card.lineCells.extents));
+void show(StorePrinter& printer, const char* table, const LineCellTable& lines) {
+    std::array<int, LineCellTable::extents.size()> index{};
+    do printer.cell(table, index, Text{lines.read(index[0], index[1])});
+    while (advance(index, LineCellTable::extents));
 }
 
 } // namespace
 
 void showStore(Transcript& transcript) {
     StorePrinter printer{transcript};
-    printer.record(cardScalars, card, [] { return Text{}; });
-    printer.records("RaceInfo", card.raceInfo, raceInfoFields);
-    showEntries(printer);
-    showPastLines(printer);
-    printer.records("DriverTable", card.driverTable, driverFields);
-    printer.cells("TrainerTable", card.trainerTable);
-    showLineCells(printer);
-    printer.cells("rankEntry", card.rankEntry);
-    printer.records("SelectionSet", card.selection, selectionFields);
-    printer.cells("RaceOutcome", card.raceOutcome);
-    printer.cells("PayoffRecord", card.payoffRecord);
-    printer.cells("PickPayoff", card.pickPayoff);
-    printer.cells("PickLegs", card.pickLegs);
-    printer.cells("keyPicks", card.keyPicks);
-    printer.cells("winHeat", card.winHeat);
-    printer.cells("placeHeat", card.placeHeat);
-    printer.cells("heatPost", card.heatPost);
-    printer.cells("heatRating", card.heatRating);
+    const RaceCard& store = card;
+    printer.record(cardScalars, store, [] { return Text{}; });
+    forEachField(cardTables, store,
+                 [&](TextView name, const auto& table) { show(printer, name.data(), table); });
     printer.record(lineCursorFields, cursor, [] { return Text{"LineCursor."}; });
 }
 

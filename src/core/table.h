@@ -15,33 +15,55 @@ namespace quillon {
 ///
 /// table(r, e) is for indices that come from data: outside the bounds it fails by the failure policy, so a
 /// store beyond a bound is lost and nothing is clipped. table[{r, e}] is for code that knows: it asserts.
+///
+/// A row is all elements of one first index (of a list: all there are). Rows are made when they are first
+/// written, and a copy of a table shares its rows until one of the two writes there: a copy of the whole
+/// store costs next to nothing. A reference to an element holds until the table is copied or cleared.
 template <class Element, int... Extents>
 class Table {
 public:
     using Index = std::array<int, sizeof...(Extents)>;
     static constexpr Index extents{Extents...};
 
-    Table() : elements_(std::make_unique<Elements>()) {}
-
     template <class... Indices>
     Element& operator()(Indices... indices) {
-        return (*elements_)[checked({static_cast<int>(indices)...})];
+        return written(checked({static_cast<int>(indices)...}));
     }
     template <class... Indices>
     const Element& operator()(Indices... indices) const {
-        return (*elements_)[checked({static_cast<int>(indices)...})];
+        return read(checked({static_cast<int>(indices)...}));
     }
 
-    Element& operator[](const Index& index) { return (*elements_)[known(index)]; }
-    const Element& operator[](const Index& index) const { return (*elements_)[known(index)]; }
+    Element& operator[](const Index& index) { return written(known(index)); }
+    const Element& operator[](const Index& index) const { return read(known(index)); }
 
-    void clear() {
-        for (Element& element : *elements_) element = Element{};
+    void clear() { rows_ = {}; }
+
+    /// Lets go of rows of its own that are the same as the other's, and shares those.
+    void shareWith(const Table& other) {
+        for (std::size_t row = 0; row < rowCount; ++row)
+            if (rows_[row] != other.rows_[row] && rows_[row] && other.rows_[row] &&
+                *rows_[row] == *other.rows_[row])
+                rows_[row] = other.rows_[row];
     }
 
 private:
     static constexpr std::size_t elementCount = (static_cast<std::size_t>(Extents) * ...);
-    using Elements = std::array<Element, elementCount>;
+    static constexpr std::size_t rowCount = sizeof...(Extents) > 1 ? extents[0] : 1;
+    static constexpr std::size_t rowLength = elementCount / rowCount;
+    using Row = std::array<Element, rowLength>;
+
+    Element& written(std::size_t at) {
+        std::shared_ptr<Row>& row = rows_[at / rowLength];
+        if (row.use_count() != 1) row = row ? std::make_shared<Row>(*row) : std::make_shared<Row>();
+        return (*row)[at % rowLength];
+    }
+
+    const Element& read(std::size_t at) const {
+        static const Element none{};
+        const std::shared_ptr<Row>& row = rows_[at / rowLength];
+        return row ? (*row)[at % rowLength] : none;
+    }
 
     static constexpr bool within(const Index& index) {
         for (std::size_t i = 0; i < index.size(); ++i)
@@ -72,7 +94,7 @@ private:
         fail("index (" + shown + ") is out of bounds");
     }
 
-    std::unique_ptr<Elements> elements_;
+    std::array<std::shared_ptr<Row>, rowCount> rows_{};
 };
 
 } // namespace quillon

@@ -1,15 +1,18 @@
 #include "day/card_frame.h"
 
 #include "card/card_files.h"
+#include "card/fields.h"
 #include "card/race_card.h"
 #include "core/failure.h"
 #include "core/files.h"
 #include "core/formats.h"
 #include "screen/screen.h"
-#include "tables/source_tables.h"
+#include "tables/load_state.h"
 #include "tables/track_table.h"
 
 #include <algorithm>
+#include <tuple>
+#include <type_traits>
 #include <vector>
 
 namespace quillon {
@@ -20,26 +23,23 @@ constexpr int listedDrivers = 230;
 constexpr int listedNameWidth = 20;
 constexpr int noPost = 99;
 
-// Race index of each race row, in table order.
-std::vector<int> raceIndexOfRow;
-
 double numberOf(TextView text) { return lenientNumber(text); }
 
 // Numbers the rows from 1 on. A row whose number does not rise above the one before it begins a new run of
 // numbers (races 1A to 5A, then 1 to 9), which goes on where the run before it ended.
 void NumberRaceRows() {
     const Step step{"NumberRaceRows"};
-    raceIndexOfRow.clear();
-    TableCursor& rows = sourceTables.raceRows;
+    load.raceIndexOfRow.clear();
+    TableCursor& rows = load.raceRows;
     double before = 0;
     double index = 0;
     for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
         const double number = numberOf(raceField("RACE"));
-        const bool firstRow = raceIndexOfRow.empty();
+        const bool firstRow = load.raceIndexOfRow.empty();
         index += firstRow || number <= before ? 1 : number - before;
         before = number;
         constexpr double beyond16Bits = 100000; // fails wherever it is used
-        raceIndexOfRow.push_back(static_cast<int>(std::min(index, beyond16Bits)));
+        load.raceIndexOfRow.push_back(static_cast<int>(std::min(index, beyond16Bits)));
     }
     rows.MoveFirst();
 }
@@ -47,15 +47,15 @@ void NumberRaceRows() {
 // The card's first race less 1: of the first line or the first horse, whichever is the earlier race.
 void SetRaceOffset() {
     const Step step{"SetRaceOffset"};
-    sourceTables.lineRows.MoveFirst();
-    sourceTables.horseRows.MoveFirst();
+    load.lineRows.MoveFirst();
+    load.horseRows.MoveFirst();
     ReadSourceLine();
     ReadSourceHorse();
-    const bool noLines = sourceTables.lineRows.Eof();
-    const bool noHorses = sourceTables.horseRows.Eof();
+    const bool noLines = load.lineRows.Eof();
+    const bool noHorses = load.horseRows.Eof();
     if (noLines && noHorses) return;
-    const double firstLine = numberOf(sourceLine.TODAYSRACE);
-    const double firstHorse = numberOf(sourceHorse.RACE);
+    const double firstLine = numberOf(load.line.TODAYSRACE);
+    const double firstHorse = numberOf(load.horse.RACE);
     const double first = noLines ? firstHorse : noHorses ? firstLine : std::min(firstLine, firstHorse);
     card.raceOffset = toInteger(std::max(first, 1.0) - 1);
 }
@@ -65,7 +65,7 @@ void SetRaceOffset() {
 void LeaveOutRacesBeforeTheCard() {
     const Step step{"LeaveOutRacesBeforeTheCard"};
     if (card.raceOffset < 1) return;
-    TableCursor& rows = sourceTables.raceRows;
+    TableCursor& rows = load.raceRows;
     for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext())
         if (numberOf(raceField("RACE")) == card.raceOffset + 1) return rows.beginAt(rows.row());
     rows.MoveFirst();
@@ -80,7 +80,7 @@ RaceInfo& labelledRace(int race) {
 // "1A" for the lettered races that lead the card, the bare number from the first race without a letter on.
 void LabelRaces() {
     const Step step{"LabelRaces"};
-    TableCursor& rows = sourceTables.raceRows;
+    TableCursor& rows = load.raceRows;
     bool leading = true;
     for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
         const Text letter = raceField("CARD_ID");
@@ -107,7 +107,7 @@ void NameCard() {
 // The track of every race; the track of the last one found is the card's course.
 void SetTracks() {
     const Step step{"SetTracks"};
-    TableCursor& rows = sourceTables.raceRows;
+    TableCursor& rows = load.raceRows;
     for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
         const Text key = trackKeyOf(raceField("TRACK"));
         attempt([&] { labelledRace(currentRaceIndex()).trackCode = key; });
@@ -123,9 +123,9 @@ void SetTracks() {
 
 void SetRaceCount() {
     const Step step{"SetRaceCount"};
-    sourceTables.raceRows.MoveLast();
+    load.raceRows.MoveLast();
     attempt([] { card.raceCount = currentRaceIndex(); });
-    sourceTables.raceRows.MoveFirst();
+    load.raceRows.MoveFirst();
 }
 
 // ".25" and "0.25" both become " .25"; what is no rating above 0 becomes ".000".
@@ -165,12 +165,12 @@ Text entryUdr(const Driver& driver) { return formatted("#.#00", "@@@@@", driver.
 
 void ReadEntry() {
     const Step step{"ReadEntry"};
-    takeHorseRow(card.entry(raceIndex(sourceHorse.RACE), entryIndex(sourceHorse.PP)));
+    takeHorseRow(card.entry(raceIndex(load.horse.RACE), entryIndex(load.horse.PP)));
 }
 
 } // namespace
 
-Text raceField(TextView name) { return Text{trimmedRight(sourceTables.raceRows.field(name))}; }
+Text raceField(TextView name) { return Text{trimmedRight(load.raceRows.field(name))}; }
 
 Integer entryIndex(TextView post) {
     const double number = numberOf(post);
@@ -178,12 +178,12 @@ Integer entryIndex(TextView post) {
 }
 
 void takeHorseRow(RaceEntry& entry) {
-    const double driver = numberOf(sourceHorse.DN);
-    const double trainer = numberOf(sourceHorse.TN);
-    entry.horseName = sourceHorse.HORSE_NAME;
-    entry.programNumber = aligned("@@@", sourceHorse.PROGRAM);
-    entry.morningOdds = aligned("@@@@", sourceHorse.MORN_ODDS);
-    entry.postPosition = aligned("@@@", sourceHorse.PP);
+    const double driver = numberOf(load.horse.DN);
+    const double trainer = numberOf(load.horse.TN);
+    entry.horseName = load.horse.HORSE_NAME;
+    entry.programNumber = aligned("@@@", load.horse.PROGRAM);
+    entry.morningOdds = aligned("@@@@", load.horse.MORN_ODDS);
+    entry.postPosition = aligned("@@@", load.horse.PP);
     attempt([&] { entry.driverNumber = toInteger(driver); });
     attempt([&] { entry.trainerName = card.trainerTable(toInteger(trainer)); });
     attempt([&] { entry.driverName = card.driverTable(toInteger(driver)).name; });
@@ -192,7 +192,7 @@ void takeHorseRow(RaceEntry& entry) {
 
 void TrackData() {
     const Step step{"TrackData"};
-    const Text key = trackKeyOf(sourceTables.raceRows.field("TRACK"));
+    const Text key = trackKeyOf(load.raceRows.field("TRACK"));
     if (card.raceCount == 0) card.raceCount = 1;
     RaceInfo& race = card.raceInfo(card.raceCount);
     race.trackCode = key;
@@ -209,16 +209,16 @@ void TrackData() {
 Integer raceIndex(TextView race) { return toInteger(numberOf(race) - card.raceOffset); }
 
 Integer currentRaceIndex() {
-    const auto row = static_cast<std::size_t>(sourceTables.raceRows.row());
-    if (row > raceIndexOfRow.size()) fail("behind the last race of the card");
-    return toInteger(raceIndexOfRow[row - 1]);
+    const auto row = static_cast<std::size_t>(load.raceRows.row());
+    if (row > load.raceIndexOfRow.size()) fail("behind the last race of the card");
+    return toInteger(load.raceIndexOfRow[row - 1]);
 }
 
 bool laterRaceRow(Integer race) {
-    const auto row = static_cast<std::ptrdiff_t>(sourceTables.raceRows.row());
-    const auto rows = static_cast<std::ptrdiff_t>(raceIndexOfRow.size());
-    const auto behind = raceIndexOfRow.begin() + std::min(row, rows); // they never fall from row to row
-    return std::binary_search(behind, raceIndexOfRow.end(), race);
+    const auto row = static_cast<std::ptrdiff_t>(load.raceRows.row());
+    const auto rows = static_cast<std::ptrdiff_t>(load.raceIndexOfRow.size());
+    const auto behind = load.raceIndexOfRow.begin() + std::min(row, rows); // they never fall from row to row
+    return std::binary_search(behind, load.raceIndexOfRow.end(), race);
 }
 
 void FrameCard() {
@@ -241,24 +241,23 @@ void ReadConditions() {
     const Step step{"ReadConditions"};
     const Integer index = currentRaceIndex();
     RaceInfo& race = card.raceInfo(index);
-    race.purse = raceField("PURSE");
-    race.classText = leftOf(raceField("RACETEXT1"), keptClassText);
-    race.todaysCr = raceField("TODAYS_CR");
-    race.wagering = raceField("RACEWAGERS");
-    race.postTime = raceField("POSTTIME");
-    race.gait = raceField("GAIT");
-    race.distance = raceField("DISTANCE");
+    const auto read = [&](const auto& field) {
+        if constexpr (std::is_same_v<decltype(field.member), Text RaceInfo::*>)
+            if (field.places.vendor != nullptr) race.*field.member = raceField(field.places.vendor);
+    };
+    std::apply([&](const auto&... field) { (read(field), ...); }, raceInfoFields);
+    race.classText = leftOf(race.classText, keptClassText);
     if (index > ratedRaces) return; // buttons and data views end there
     const auto shown = static_cast<std::size_t>(index);
     screen.raceButtons[shown].caption = race.label;
     screen.raceButtons[shown].visible = true;
     screen.raceButtons[shown].enabled = true;
-    screen.dataView[shown](0, 0).text = "RACE " + race.label;
+    screen.dataView[shown](0, DataColumn::entry).text = "RACE " + race.label;
 }
 
 void ReadDrivers() {
     const Step step{"ReadDrivers"};
-    TableCursor& rows = sourceTables.driverRows;
+    TableCursor& rows = load.driverRows;
     int number = 1;
     for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext(), ++number) {
         const Driver driver{shortName(trimmedRight(rows.field("DRIVERNAME"))),
@@ -270,7 +269,7 @@ void ReadDrivers() {
 
 void ReadTrainers() {
     const Step step{"ReadTrainers"};
-    TableCursor& rows = sourceTables.trainerRows;
+    TableCursor& rows = load.trainerRows;
     int number = 1;
     for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext(), ++number)
         attempt([&] { card.trainerTable(number) = trimmedRight(rows.field("TRAINNAME")); });
@@ -278,10 +277,10 @@ void ReadTrainers() {
 
 void ReadEntries() {
     const Step step{"ReadEntries"};
-    TableCursor& rows = sourceTables.horseRows;
+    TableCursor& rows = load.horseRows;
     for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
         ReadSourceHorse();
-        if (numberOf(sourceHorse.RACE) - card.raceOffset <= 0)
+        if (numberOf(load.horse.RACE) - card.raceOffset <= 0)
             break; // a race in front of the card ends the entries
         attempt(ReadEntry);
     }

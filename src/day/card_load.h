@@ -10,7 +10,7 @@ namespace quillon {
 void Start();
 
 /// A new entry begins with the running line at work: its horse, and its race where that is a new one, become
-/// current. Reads `sourceLine`; moves the horse and race cursors. Resumes at failures.
+/// current. Reads `load.line`; moves the horse and race cursors. Resumes at failures.
 void ChangeHorseName();
 
 /// Copies the running line's cells 1 to 39 into `card.lineCells` under its line number.

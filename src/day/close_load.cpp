@@ -1,5 +1,6 @@
 #include "day/close_load.h"
 
+#include "card/line_fields.h"
 #include "card/race_card.h"
 #include "core/failure.h"
 #include "core/formats.h"
@@ -17,25 +18,6 @@ namespace {
 
 constexpr int widenedSlots = 10; ///< slots 0 to 9 of each entry
 
-struct CellWidth {
-    Text PastLine::*cell;
-    std::size_t width;
-};
-
-constexpr std::array lineWidths{
-    CellWidth{&PastLine::CR, 3},         CellWidth{&PastLine::TRACK, 5},
-    CellWidth{&PastLine::POST, 2},       CellWidth{&PastLine::CALL_FN_PO, 2},
-    CellWidth{&PastLine::CALL_1Q_PO, 2}, CellWidth{&PastLine::CALL_2Q_PO, 2},
-    CellWidth{&PastLine::CALL_3Q_PO, 2}, CellWidth{&PastLine::CALL_ST_PO, 2},
-    CellWidth{&PastLine::CALL_1Q_PK, 2}, CellWidth{&PastLine::CALL_2Q_PK, 2},
-    CellWidth{&PastLine::CALL_3Q_PK, 2}, CellWidth{&PastLine::CALL_1Q_BF, 2},
-    CellWidth{&PastLine::CALL_1Q_AF, 2}, CellWidth{&PastLine::CALL_2Q_BF, 2},
-    CellWidth{&PastLine::CALL_2Q_AF, 2}, CellWidth{&PastLine::CALL_3Q_BF, 2},
-    CellWidth{&PastLine::CALL_3Q_AF, 2}, CellWidth{&PastLine::HRSE_TM_4Q, 4},
-    CellWidth{&PastLine::LEAD_TM_1Q, 6}, CellWidth{&PastLine::LEAD_TM_2Q, 6},
-    CellWidth{&PastLine::LEAD_TM_3Q, 6}, CellWidth{&PastLine::LEAD_TM_FN, 6},
-};
-
 // Right-aligned in place: there are some sixty thousand of these cells.
 void widen(Text& cell, std::size_t width) {
     if (cell.size() < width) cell.insert(0, width - cell.size(), blank);
@@ -43,7 +25,8 @@ void widen(Text& cell, std::size_t width) {
 
 void giveWidths(PastLine& line) {
     constexpr std::size_t classCharacters = 12;
-    for (const CellWidth& row : lineWidths) widen(line.*row.cell, row.width);
+    for (const LineField& field : lineFields)
+        if (field.widened != Widened::never) widen(line.*field.cell, field.width);
     attempt([&] { line.PURSE = numberText(lenientNumber(line.PURSE) * 1000); });
     if (lenientNumber(line.HRSE_TM_4Q) <= 0) {
         line.HRSE_TM_4Q = blanks(4);
@@ -91,7 +74,8 @@ void tellHowToGoOn() {
 
 void markAsLoaded() {
     screen.start.enabled = false;
-    screen.start.caption = "Select Race";
+    screen.offer(StartOffer::selectRace);
+    screen.mode = CardMode::loaded;
     screen.item(MenuItem::NewRC).enabled = false;
     screen.item(MenuItem::RecallRaceCard).enabled = false;
 }

@@ -17,7 +17,6 @@ namespace {
 constexpr TextView exitLine = "EXIT";
 constexpr int udrCharacters = 4;   ///< a line of the list ends in the driver's UDR
 constexpr int nameCharacters = 15; ///< and begins with his name
-constexpr int fifthCell = 9;       ///< cell of the race's outcome with the fifth horse's number
 
 bool isThere(int race, int row) {
     return race >= 1 && race <= ratedRaces && row >= 1 && row <= ratedEntries &&
@@ -44,7 +43,7 @@ void changeDriver(RaceEntry& entry, Grid& view, int row) {
 
 // The fifth horse keeps its place: it is the entry whose number stands in the race's outcome.
 void renewFifth(int race) {
-    const TextView number = trimmed(card.raceOutcome[{race, fifthCell}]);
+    const TextView number = trimmed(card.raceOutcome[{race, OutcomeCell::fifth}]);
     if (number.empty()) return;
     for (int index = 1; index <= ratedEntries; ++index) {
         const RaceEntry& entry = card.entry[{race, index}];

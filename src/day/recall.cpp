@@ -10,6 +10,7 @@
 #include "rating/rating_display.h"
 #include "results/auto_record.h"
 #include "results/race_display.h"
+#include "screen/race_views.h"
 #include "screen/screen.h"
 
 #include <algorithm>
@@ -18,19 +19,7 @@
 namespace quillon {
 namespace {
 
-constexpr int heatPayCell = 20; // a payoff there marks a dead heat
-constexpr int lastPayoffCell = 21;
-constexpr int fifthHorseCell = 9; // of a race's outcome
-constexpr int postColumn = 3;     // of a race view
-constexpr int programNumberColumn = 2;
-
-// Columns of the line cells that tell where a line belongs.
-constexpr int raceOfLine = 2;
-constexpr int postOfLine = 4;
-constexpr int horseOfLine = 5;
 constexpr int noPost = 99;
-
-Grid& dataViewOf(int race) { return screen.dataView[static_cast<std::size_t>(race)]; }
 
 bool isShown(const RaceEntry& entry) { return !trimmed(entry.horseName).empty(); }
 
@@ -58,7 +47,7 @@ void ClearWindowCounts() {
 void forgetUnsaved(int race) {
     RaceInfo& info = card.raceInfo[{race}];
     info.ratingNote = 0;
-    card.raceOutcome[{race, fifthHorseCell}].clear();
+    card.raceOutcome[{race, OutcomeCell::fifth}].clear();
     card.selection[{race, rankedPlaces}] = {};
     for (int place = 1; place < rankedPlaces; ++place) card.selection[{race, place}].selectionPost.clear();
 }
@@ -66,8 +55,8 @@ void forgetUnsaved(int race) {
 // A race that no file has room for.
 void forgetRace(int race) {
     card.raceInfo[{race}] = {};
-    for (int cell = 1; cell <= fifthHorseCell; ++cell) card.raceOutcome[{race, cell}].clear();
-    for (int cell = 1; cell <= lastPayoffCell; ++cell) card.payoffRecord[{race, cell}].clear();
+    for (int cell = 1; cell <= OutcomeCell::fifth; ++cell) card.raceOutcome[{race, cell}].clear();
+    for (int cell = 1; cell <= PayoffCell::last; ++cell) card.payoffRecord[{race, cell}].clear();
     for (int place = 1; place <= rankedPlaces; ++place) card.selection[{race, place}] = {};
 }
 
@@ -138,30 +127,32 @@ void ReadArchive() {
 void RecountDeadHeats() {
     const Step step{"RecountDeadHeats"};
     for (int race = 1; race <= ratedRaces; ++race)
-        if (lenientNumber(card.payoffRecord[{race, heatPayCell}]) > 0) attempt(AutoRecord2);
+        if (lenientNumber(card.payoffRecord[{race, PayoffCell::deadHeat}]) > 0) attempt(AutoRecord2);
 }
 
 // An entry's name, odds and program number stand in column 0 beside its first three lines; those of the next
 // entry overwrite them where an entry has fewer.
 void headEntry(int race, int row, int lineNumber) {
-    const int post = toInteger(lenientNumber(card.lineCells.read(lineNumber, postOfLine)));
+    const int post = toInteger(lenientNumber(card.lineCells.read(lineNumber, DataColumn::post)));
     const RaceEntry& headed = card.entry(race, post == noPost ? 0 : post);
     Grid& view = dataViewOf(race);
     int at = row;
     for (const TextCell* head : {&headed.horseName, &headed.morningOdds, &headed.programNumber}) {
-        attempt([&] { view(at, 0).text = head->text(); });
+        attempt([&] { view(at, DataColumn::entry).text = head->text(); });
         ++at;
     }
 }
 
 void copyLine(int race, int row, int lineNumber) {
     const auto cells = dataViewOf(race).cellsOf(row);
-    for (int column = 1; column <= archiveColumns; ++column)
+    for (int column = DataColumn::date; column <= archiveColumns; ++column)
         cells[static_cast<std::size_t>(column)].text = card.lineCells.read(lineNumber, column);
 }
 
 // The race that a kept line was run up to; 0 where none is kept under this number.
-double raceOf(int lineNumber) { return lenientNumber(card.lineCells.read(lineNumber, raceOfLine)); }
+double raceOf(int lineNumber) {
+    return lenientNumber(card.lineCells.read(lineNumber, DataColumn::todaysRace));
+}
 
 // The number of the card's first race less 1, which no file carries. Its label tells it. Where the label is
 // lost, or names a race behind that of the first line, the first line is one of the card's first race.
@@ -189,7 +180,7 @@ void RebuildDataViews() {
         const int at = static_cast<int>(race);
         Filling& filling = fillings[static_cast<std::size_t>(at)];
         const int row = ++filling.row;
-        const double horse = lenientNumber(card.lineCells.read(number, horseOfLine));
+        const double horse = lenientNumber(card.lineCells.read(number, DataColumn::horse));
         const bool newEntry = horse > 0 && horse != filling.horse;
         if (newEntry) filling.horse = horse;
         if (row >= dataViewRows) continue;
@@ -215,7 +206,7 @@ void ShowRaceOneAlone() {
     screen.dataViewVisible.fill(false);
     screen.raceViewVisible.fill(false);
     screen.raceViewVisible[1] = true;
-    dataViewOf(ratedRaces)(0, 0).text = "RACE " + std::to_string(ratedRaces);
+    dataViewOf(ratedRaces)(0, DataColumn::entry).text = "RACE " + std::to_string(ratedRaces);
 }
 
 // Races up to the last one that shows an entry.
@@ -229,10 +220,10 @@ void fillEntryRow(int race, int at) {
     RaceEntry& entry = card.entry[{race, at}];
     if (entry.morningOdds.given()) entry.morningOdds = trimmed(entry.morningOdds);
     entry.chosen.TRACK = Text{trimmed(entry.chosen.TRACK)};
-    Grid& view = screen.raceView[static_cast<std::size_t>(race)];
+    Grid& view = raceViewOf(race);
     fillRaceViewRow(view, at, entry);
-    view(at, postColumn).text = std::to_string(at);
-    colourSaddleCloth(view(at, programNumberColumn));
+    view(at, RaceColumn::post).text = std::to_string(at);
+    colourSaddleCloth(view(at, RaceColumn::programNumber));
 }
 
 void FillRaceViews() {
@@ -288,7 +279,8 @@ void ChooseFile(const Text& fileName) {
     attempt(ReadArchive);
     attempt(Recall);
     RecountDeadHeats();
-    screen.start.caption = viewRacesCaption;
+    screen.offer(StartOffer::viewRaces);
+    screen.mode = CardMode::recalled;
     attempt(RebuildDataViews);
     attempt(ShowRaceOneAlone);
     ShowRaceButtons();

@@ -24,7 +24,8 @@ void TakeBackRaceViews() {
     for (int race = 1; race <= ratedRaces; ++race) {
         const Grid& view = screen.raceView[static_cast<std::size_t>(race)];
         for (int row = 1; row <= ratedEntries; ++row)
-            if (!view.read(row, 0).text.empty()) takeBackRaceViewRow(view, row, card.entry[{race, row}]);
+            if (!view.text(row, RaceColumn::horseName).empty())
+                takeBackRaceViewRow(view, row, card.entry[{race, row}]);
     }
 }
 
@@ -62,7 +63,7 @@ void MarkMissingClassRatings() {
 // joining that would lose the rest of the distance.
 void JoinLabelsAndDistances() {
     const Step step{"JoinLabelsAndDistances"};
-    const bool recalled = screen.start.caption == viewRacesCaption;
+    const bool recalled = screen.startOffer == StartOffer::viewRaces;
     for (int race = 1; race <= ratedRaces; ++race) {
         RaceInfo& info = card.raceInfo[{race}];
         if (!recalled || info.raceLabelDistance.empty()) info.raceLabelDistance = info.label + info.distance;
@@ -126,7 +127,8 @@ void CloseRC() {
     screen.item(MenuItem::RecallRaceCard).enabled = true;
     screen.clearCardViews();
     for (int race = 1; race <= ratedRaces; ++race)
-        screen.dataView[static_cast<std::size_t>(race)](0, 0).text.clear(); // "RACE " and the label
+        screen.dataView[static_cast<std::size_t>(race)](0, DataColumn::entry)
+            .text.clear(); // "RACE " and the label
     screen.lineTaken.clear();
     screen.record.enabled = false;
     screen.summary.clearAll();
@@ -136,6 +138,7 @@ void CloseRC() {
     const bool dateVisible = screen.header.date.visible;
     screen.header = {.track = {.visible = trackVisible}, .date = {.visible = dateVisible}};
     card.cardFileName.clear();
+    screen.mode = CardMode::none;
     screen.tote.fill("");
     screen.refunds.clear();
     screen.finishLabels.fill("");

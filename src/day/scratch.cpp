@@ -1,6 +1,7 @@
 #include "day/scratch.h"
 
 #include "card/card_files.h"
+#include "card/line_fields.h"
 #include "card/race_card.h"
 #include "core/failure.h"
 #include "core/formats.h"
@@ -36,17 +37,6 @@ constexpr std::array scratchCredits{
     ScratchCredit{"5/8", {0.4, 0.6, 1,   0.25, 0.75,  1.25 }},
     ScratchCredit{"3/4", {0.4, 0.6, 1,   0.25, 0.75,  1.25 }},
     ScratchCredit{"1/2", {0.8, 0.7, 2.5, 1,    3,     0.5  }},
-};
-
-// What a scratch empties of the chosen line.
-constexpr std::array emptiedFields{
-    &PastLine::TRACK,      &PastLine::PURSE,      &PastLine::CLASS,      &PastLine::CR,
-    &PastLine::LEAD_TM_1Q, &PastLine::LEAD_TM_2Q, &PastLine::LEAD_TM_3Q, &PastLine::LEAD_TM_FN,
-    &PastLine::HRSE_TM_4Q, &PastLine::HRSE_TM_FN,
-};
-constexpr std::array emptiedPositions{
-    &PastLine::POST,       &PastLine::CALL_1Q_PO, &PastLine::CALL_2Q_PO,
-    &PastLine::CALL_3Q_PO, &PastLine::CALL_ST_PO, &PastLine::CALL_FN_PO,
 };
 // clang-format on
 
@@ -111,16 +101,17 @@ void rateTakenOut(int race, int row) {
 // pass has always done so, and saved cards show it.
 void emptyChosen(int race, int index) {
     PastLine& chosen = card.entry(race, index).chosen;
-    for (Text PastLine::*field : emptiedFields) (chosen.*field).clear();
-    for (Text PastLine::*field : emptiedPositions) (chosen.*field).clear();
+    for (const LineField& field : lineFields)
+        if (field.scratched != Scratched::stays) (chosen.*field.cell).clear();
     PastLine& crossed = card.entry(index, race).chosen;
-    for (Text PastLine::*field : emptiedPositions) (crossed.*field).clear();
+    for (const LineField& field : lineFields)
+        if (field.scratched == Scratched::emptiedTwice) (crossed.*field.cell).clear();
 }
 
 void scratch(int race, int index) {
     RaceEntry& entry = card.entry[{race, index}];
     attempt([&] { appendRefund(race, entry); });
-    card.payoffRecord[{race, refundCell}] += " " + entry.programNumber.text();
+    card.payoffRecord[{race, PayoffCell::refunds}] += " " + entry.programNumber.text();
     Grid& view = raceViewOf(race);
     clearRow(view, index);
     attempt([&] { rateTakenOut(race, index); });
@@ -145,7 +136,7 @@ void adjustOutside(int race, int index) {
 
 void rankAgain(int race) {
     rankOnBoard(race, fullRanking);
-    card.raceOutcome[{race, 9}] = rankedEntry(race, rankedPlaces).programNumber;
+    card.raceOutcome[{race, OutcomeCell::fifth}] = rankedEntry(race, rankedPlaces).programNumber;
     renewSelections(race, rankedPlaces, Posts::renewed);
     CloseRanking();
     attempt(TEXT_56);

@@ -4,7 +4,7 @@
 #include "core/failure.h"
 #include "rating/line_value.h"
 #include "screen/screen.h"
-#include "tables/source_tables.h"
+#include "tables/load_state.h"
 #include "tables/track_table.h"
 
 #include <algorithm>
@@ -114,7 +114,7 @@ TextView courseNominal(TextView courseSize) {
 
 void Tracks() {
     const Step step{"Tracks"};
-    const Text lineTrack = trackKeyOf(upperCase(sourceLine.TRACK));
+    const Text lineTrack = trackKeyOf(upperCase(load.line.TRACK));
     TextView todaysNominal;
     cursor.lineSize.clear();
     if (const TrackRecord* track = trackTable().last(lineTrack)) {

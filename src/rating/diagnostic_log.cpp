@@ -4,13 +4,12 @@
 #include "core/files.h"
 #include "core/formats.h"
 #include "screen/screen.h"
+#include "tables/load_state.h"
 
 #include <utility>
 
 namespace quillon {
 namespace {
-
-Text keptLog;
 
 FilePlace logFile() { return {Folder::working, "TEST.txt"}; }
 
@@ -26,21 +25,21 @@ Text logIndex(Integer index) { return formatted("####", "@@@@", static_cast<doub
 bool diagnosticLogIsOn() { return screen.item(MenuItem::Diagnostic).checked; }
 
 void beginLogLine() {
-    keptLog += crCrLf;
-    keptLog += logIndex(cursor.race);
-    keptLog += logIndex(cursor.entry);
+    load.log += crCrLf;
+    load.log += logIndex(cursor.race);
+    load.log += logIndex(cursor.entry);
 }
 
-void addToLogLine(TextView figure) { keptLog += figure; }
+void addToLogLine(TextView figure) { load.log += figure; }
 
 void endLogLine(TextView rating) {
-    keptLog += rating;
-    keptLog += crLf;
+    load.log += rating;
+    load.log += crLf;
 }
 
-void clearDiagnosticLog() { keptLog.clear(); }
+void clearDiagnosticLog() { load.log.clear(); }
 
-void appendDiagnosticLog() { appendToFile(logFile(), std::exchange(keptLog, {})); }
+void appendDiagnosticLog() { appendToFile(logFile(), std::exchange(load.log, {})); }
 
 void Diagnostic() {
     const Step step{"Diagnostic"};

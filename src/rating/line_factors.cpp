@@ -1,12 +1,13 @@
 #include "rating/line_factors.h"
 
+#include "card/line_fields.h"
 #include "card/race_card.h"
 #include "core/formats.h"
 #include "rating/course_factors.h"
 #include "rating/diagnostic_log.h"
 #include "rating/line_value.h"
 #include "screen/screen.h"
-#include "tables/source_tables.h"
+#include "tables/load_state.h"
 #include "tables/track_table.h"
 
 #include <algorithm>
@@ -68,9 +69,7 @@ constexpr double favouriteCredit = 3.0;
 
 constexpr std::array finishCredits{4.0, 3.0, 2.0, 1.0}; // by finish, from the winner on
 
-constexpr int ratingColumn = 38; // "PR" of a race's data view
-
-bool isQualifier() { return contains(sourceLine.CLASS, "QU"); }
+bool isQualifier() { return contains(load.line.CLASS, "QU"); }
 
 } // namespace
 
@@ -80,16 +79,16 @@ void LastQuarterCalc() {
     const Step step{"LastQuarterCalc"};
     // The card's first line has no line index yet; it is stored as line 1.
     const int line = std::max<int>(cursor.line, 1);
-    card.pastLine.write(cursor.race, cursor.entry, line).DIST_MILES = sourceLine.DIST_MILES;
+    card.pastLine.write(cursor.race, cursor.entry, line).DIST_MILES = load.line.DIST_MILES;
 
-    const double miles = lenientNumber(sourceLine.DIST_MILES);
+    const double miles = lenientNumber(load.line.DIST_MILES);
     if (miles > 1) {
         cursor.lineValue = "99.9";
         return;
     }
-    const auto lastQuarter = numberIn(sourceLine.HRSE_TM_4Q);
+    const auto lastQuarter = numberIn(load.line.HRSE_TM_4Q);
     if (!lastQuarter) passOver();
-    if (!lastQuarter || *lastQuarter <= 0 || lenientNumber(sourceLine.CALL_FN_PO) <= 0) {
+    if (!lastQuarter || *lastQuarter <= 0 || lenientNumber(load.line.CALL_FN_PO) <= 0) {
         cursor.horseFinal = "8";
         return;
     }
@@ -154,19 +153,19 @@ void ClassChange() {
     const Step step{"ClassChange"};
     if (isQualifier()) return;
     const double points = classPoints(lenientNumber(card.raceInfo(cursor.race).todaysCr),
-                                      lenientNumber(sourceLine.CR), lenientNumber(sourceLine.CALL_FN_PO));
+                                      lenientNumber(load.line.CR), lenientNumber(load.line.CALL_FN_PO));
     if (points != 0) addToLineValue(points);
 }
 
 void FavouriteCredit() {
     const Step step{"FavouriteCredit"};
-    if (sourceLine.FAV == "*" && cursor.line == 1) cursor.wasFavourite = "Y";
+    if (load.line.FAV == "*" && cursor.line == 1) cursor.wasFavourite = "Y";
     if (cursor.wasFavourite == "Y") addToLineValue(-favouriteCredit);
 }
 
 void WPS() {
     const Step step{"WPS"};
-    const double finish = lenientNumber(sourceLine.CALL_FN_PO);
+    const double finish = lenientNumber(load.line.CALL_FN_PO);
     for (std::size_t i = 0; i < finishCredits.size(); ++i)
         if (finish == static_cast<double>(i + 1)) addToLineValue(-finishCredits[i]);
 }
@@ -184,54 +183,9 @@ Text closedRating(TextView lineValue) {
 
 namespace {
 
-// The cells of a line that are stored as they stand.
-struct StoredCell {
-    Text SourceLine::*from;
-    Text PastLine::*to;
-};
-
-constexpr std::array storedCells{
-    StoredCell{&SourceLine::DATE, &PastLine::DATE},
-    StoredCell{&SourceLine::TRACK, &PastLine::TRACK},
-    StoredCell{&SourceLine::COND, &PastLine::COND},
-    StoredCell{&SourceLine::PURSE, &PastLine::PURSE},
-    StoredCell{&SourceLine::CLASS, &PastLine::CLASS},
-    StoredCell{&SourceLine::CR, &PastLine::CR},
-    StoredCell{&SourceLine::DIST_MILES, &PastLine::DIST_MILES},
-    StoredCell{&SourceLine::LEAD_TM_1Q, &PastLine::LEAD_TM_1Q},
-    StoredCell{&SourceLine::LEAD_TM_2Q, &PastLine::LEAD_TM_2Q},
-    StoredCell{&SourceLine::LEAD_TM_3Q, &PastLine::LEAD_TM_3Q},
-    StoredCell{&SourceLine::LEAD_TM_FN, &PastLine::LEAD_TM_FN},
-    StoredCell{&SourceLine::POST, &PastLine::POST},
-    StoredCell{&SourceLine::CALL_1Q_BF, &PastLine::CALL_1Q_BF},
-    StoredCell{&SourceLine::CALL_1Q_PO, &PastLine::CALL_1Q_PO},
-    StoredCell{&SourceLine::CALL_1Q_PK, &PastLine::CALL_1Q_PK},
-    StoredCell{&SourceLine::CALL_1Q_AF, &PastLine::CALL_1Q_AF},
-    StoredCell{&SourceLine::CALL_2Q_BF, &PastLine::CALL_2Q_BF},
-    StoredCell{&SourceLine::CALL_2Q_PO, &PastLine::CALL_2Q_PO},
-    StoredCell{&SourceLine::CALL_2Q_PK, &PastLine::CALL_2Q_PK},
-    StoredCell{&SourceLine::CALL_2Q_AF, &PastLine::CALL_2Q_AF},
-    StoredCell{&SourceLine::CALL_3Q_BF, &PastLine::CALL_3Q_BF},
-    StoredCell{&SourceLine::CALL_3Q_PO, &PastLine::CALL_3Q_PO},
-    StoredCell{&SourceLine::CALL_3Q_PK, &PastLine::CALL_3Q_PK},
-    StoredCell{&SourceLine::CALL_3Q_AF, &PastLine::CALL_3Q_AF},
-    StoredCell{&SourceLine::CALL_ST_PO, &PastLine::CALL_ST_PO},
-    StoredCell{&SourceLine::CALL_FN_PO, &PastLine::CALL_FN_PO},
-    StoredCell{&SourceLine::HRSE_TM_4Q, &PastLine::HRSE_TM_4Q},
-    StoredCell{&SourceLine::HRSE_TM_FN, &PastLine::HRSE_TM_FN},
-};
-
-// Those of them that a horse beyond the last entry has, too.
-constexpr std::array wideCells{
-    StoredCell{&SourceLine::CALL_2Q_BF, &PastLine::CALL_2Q_BF},
-    StoredCell{&SourceLine::CALL_2Q_AF, &PastLine::CALL_2Q_AF},
-    StoredCell{&SourceLine::CALL_3Q_BF, &PastLine::CALL_3Q_BF},
-    StoredCell{&SourceLine::CALL_3Q_AF, &PastLine::CALL_3Q_AF},
-};
-
 void StartLine() {
     cursor.lineValue.clear();
-    cursor.lineSize = trimmed(sourceLine.TRACKSIZE);
+    cursor.lineSize = trimmed(load.line.TRACKSIZE);
     if (cursor.lineSize == "1") cursor.lineSize = "1.M";
     if (cursor.lineSize == "11/4") cursor.lineSize = "1.Q";
 }
@@ -248,7 +202,7 @@ void RangeTest() {
 
 // The course that the park factors know: a mile and a quarter stays in the vendor's form and earns nothing.
 void TakeLineSize() {
-    cursor.lineSize = trimmed(sourceLine.TRACKSIZE);
+    cursor.lineSize = trimmed(load.line.TRACKSIZE);
     if (cursor.lineSize == "1") cursor.lineSize = "1.M";
 }
 
@@ -271,34 +225,36 @@ void FindEntry() {
     const Step step{"FindEntry"};
     constexpr double noPost = 99;
     if (cursor.race == 0) cursor.race = 1;
-    const double post = lenientNumber(sourceHorse.PP);
+    const double post = lenientNumber(load.horse.PP);
     cursor.entry = post == noPost ? Integer{0} : toInteger(post);
 }
 
-void StoreWideCells() {
+// A horse beyond the last entry has only the fields that have room for it.
+void StoreWideFields() {
     PastLine& line = card.pastLine.writeWide(cursor.race, cursor.entry, cursor.line);
-    for (const StoredCell& cell : wideCells) line.*cell.to = sourceLine.*cell.from;
+    for (const LineField& field : lineFields)
+        if (field.wide) line.*field.cell = load.line.*field.cell;
     line.lineNumber = card.totalLines;
 }
 
 void StoreLine() {
     const Step step{"StoreLine"};
-    if (cursor.entry >= entryExtent) attempt(StoreWideCells);
+    if (cursor.entry >= entryExtent) attempt(StoreWideFields);
     PastLine& line = card.pastLine.write(cursor.race, cursor.entry, cursor.line);
-    for (const StoredCell& cell : storedCells) line.*cell.to = sourceLine.*cell.from;
+    for (const LineField& field : lineFields) line.*field.cell = load.line.*field.cell;
     line.rating = cursor.lineValue;
     line.lineNumber = card.totalLines;
-    attempt([&] { line.driverName = card.driverTable(toInteger(lenientNumber(sourceLine.DN))).name; });
+    attempt([&] { line.driverName = card.driverTable(toInteger(lenientNumber(load.line.DN))).name; });
 }
 
 void CloseLine() {
     const Step step{"CloseLine"};
-    if (lenientNumber(sourceLine.DIST_MILES) < 1) cursor.lineValue = "***";
+    if (lenientNumber(load.line.DIST_MILES) < 1) cursor.lineValue = "***";
     const Text rating = closedRating(cursor.lineValue);
     if (diagnosticLogIsOn()) endLogLine(rating);
     if (cursor.race >= 1 && cursor.race <= ratedRaces) {
         Grid& view = screen.dataView[static_cast<std::size_t>(cursor.race)];
-        attempt([&] { view(cursor.row, ratingColumn).text = rating; });
+        attempt([&] { view(cursor.row, DataColumn::rating).text = rating; });
     }
     attempt([&] { card.pastLine.write(cursor.race, cursor.entry, cursor.line).rating = rating; });
 }

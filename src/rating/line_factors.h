@@ -9,7 +9,7 @@
 
 namespace quillon {
 
-/// Rates the line in `sourceLine` for the race, entry and line of `cursor`: runs all steps in their order,
+/// Rates the line in `load.line` for the race, entry and line of `cursor`: runs all steps in their order,
 /// stores the line in `card.pastLine` and its rating in column 38 of the race's data view, and writes the
 /// diagnostic log where it is on. Reads `PP` of the horse table's row, and the calls and final times that the
 /// load keeps in `cursor`. Resumes at failures.

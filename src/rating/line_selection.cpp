@@ -1,14 +1,15 @@
 #include "rating/line_selection.h"
 
+#include "card/line_fields.h"
 #include "card/race_card.h"
 #include "core/failure.h"
 #include "core/formats.h"
 #include "rating/race_ranking.h"
 #include "rating/rating_display.h"
 #include "screen/race_views.h"
-#include "tables/source_tables.h"
+#include "tables/load_state.h"
 
-#include <algorithm>
+#include <vector>
 
 namespace quillon {
 namespace {
@@ -39,18 +40,9 @@ struct LineSearch {
     Integer& window() const { return shared().linesInLastWindow; }
 };
 
-constexpr std::array copiedFields{
-    &PastLine::CR,         &PastLine::PURSE,      &PastLine::CLASS,      &PastLine::LEAD_TM_1Q,
-    &PastLine::LEAD_TM_2Q, &PastLine::LEAD_TM_3Q, &PastLine::LEAD_TM_FN, &PastLine::HRSE_TM_4Q,
-    &PastLine::HRSE_TM_FN, &PastLine::TRACK,      &PastLine::POST,       &PastLine::CALL_1Q_BF,
-    &PastLine::CALL_1Q_PO, &PastLine::CALL_1Q_PK, &PastLine::CALL_1Q_AF, &PastLine::CALL_2Q_BF,
-    &PastLine::CALL_2Q_PO, &PastLine::CALL_2Q_PK, &PastLine::CALL_2Q_AF, &PastLine::CALL_3Q_BF,
-    &PastLine::CALL_3Q_PO, &PastLine::CALL_3Q_PK, &PastLine::CALL_3Q_AF, &PastLine::CALL_ST_PO,
-    &PastLine::CALL_FN_PO,
-};
-
 void copyLine(const PastLine& line, PastLine& chosen) {
-    for (Text PastLine::*field : copiedFields) chosen.*field = line.*field;
+    for (const LineField& field : lineFields)
+        if (isChosen(field)) chosen.*field.cell = line.*field.cell;
 }
 
 // A line without a class rating is a qualifier's, or no line at all.
@@ -179,84 +171,53 @@ bool choosesLine(LineSearch& search) {
     }
 }
 
-// Columns 4 to 29 of a race view: the chosen line as the table has it, not the cleaned forms of the data
-// views.
-Text asItStands(Text value) { return value; }
-Text dollars(Text thousands) { return numberText(lenientNumber(thousands) * 1000); }
-Text classRating(Text value) {
-    const auto number = numberIn(value);
-    return number && *number > 0 ? value : "NA";
+// The chosen line in a race view: as the table has it, not the cleaned forms of the data views.
+Text shownInRaceView(int column, const Text& value) {
+    switch (column) {
+    case RaceColumn::purse: return numberText(lenientNumber(value) * 1000);
+    case RaceColumn::classRating: {
+        const auto number = numberIn(value);
+        return number && *number > 0 ? value : "NA";
+    }
+    case RaceColumn::lastQuarter: return value.size() == 2 ? value + ".0" : value;
+    default: return value;
+    }
 }
-Text lastQuarter(Text value) { return value.size() == 2 ? value + ".0" : value; }
 
-struct LineColumn {
+/// Where the running-line table has the field that a race view shows in a column.
+struct ShownField {
     int column;
-    const char* field;
-    Text (*shown)(Text value);
+    int number;
 };
 
-// clang-format off
-constexpr std::array lineColumns{
-    LineColumn{ 4, "TRACK",      asItStands},
-    LineColumn{ 5, "PURSE",      dollars},
-    LineColumn{ 6, "CLASS",      asItStands},
-    LineColumn{ 7, "CR",         classRating},
-    LineColumn{ 8, "LEAD_TM_1Q", asItStands},
-    LineColumn{ 9, "LEAD_TM_2Q", asItStands},
-    LineColumn{10, "LEAD_TM_3Q", asItStands},
-    LineColumn{11, "LEAD_TM_FN", asItStands},
-    LineColumn{12, "POST",       asItStands},
-    LineColumn{13, "CALL_1Q_BF", asItStands},
-    LineColumn{14, "CALL_1Q_PO", asItStands},
-    LineColumn{15, "CALL_1Q_PK", asItStands},
-    LineColumn{16, "CALL_1Q_AF", asItStands},
-    LineColumn{17, "CALL_2Q_BF", asItStands},
-    LineColumn{18, "CALL_2Q_PO", asItStands},
-    LineColumn{19, "CALL_2Q_PK", asItStands},
-    LineColumn{20, "CALL_2Q_AF", asItStands},
-    LineColumn{21, "CALL_3Q_BF", asItStands},
-    LineColumn{22, "CALL_3Q_PO", asItStands},
-    LineColumn{23, "CALL_3Q_PK", asItStands},
-    LineColumn{24, "CALL_3Q_AF", asItStands},
-    LineColumn{25, "CALL_ST_PO", asItStands},
-    LineColumn{26, "CALL_FN_PO", asItStands},
-    LineColumn{27, "HRSE_TM_4Q", lastQuarter},
-    LineColumn{28, "HRSE_TM_FN", asItStands},
-    LineColumn{29, "FAV",        asItStands},
-};
-// clang-format on
-
-// Where the running-line table has each of those fields.
-using FieldNumbers = std::array<int, lineColumns.size()>;
-
-FieldNumbers fieldNumbers() {
-    FieldNumbers numbers{};
-    std::transform(lineColumns.begin(), lineColumns.end(), numbers.begin(),
-                   [](const LineColumn& column) { return sourceTables.lineRows.fieldNumber(column.field); });
-    return numbers;
+std::vector<ShownField> shownFields() {
+    std::vector<ShownField> fields;
+    for (const LineField& field : lineFields)
+        if (isChosen(field)) fields.push_back({field.raceColumn, load.lineRows.fieldNumber(field.name)});
+    fields.push_back({RaceColumn::favourite, load.lineRows.fieldNumber("FAV")});
+    return fields;
 }
 
 // A field of the running-line table. Row 0, that of an entry without a line, is the head with the fields'
 // names.
 Text tableCell(int row, int field) {
-    const TableCursor& lines = sourceTables.lineRows;
+    const TableCursor& lines = load.lineRows;
     if (row == 0) return Text{lines.fieldName(field)};
     Text value = lines.field(row, field);
     value.resize(trimmedRight(value).size());
     return value;
 }
 
-void writeRow(int race, int index, const FieldNumbers& fields) {
+void writeRow(int race, int index, const std::vector<ShownField>& fields) {
     Grid& view = raceViewOf(race);
     RaceEntry& entry = card.entry[{race, index}];
     view(index, RaceColumn::horseName).text = entry.horseName;
     view(index, RaceColumn::morningOdds).text = entry.morningOdds;
     view(index, RaceColumn::programNumber).text = entry.programNumber;
     view(index, RaceColumn::post).text = std::to_string(index);
-    for (std::size_t i = 0; i < lineColumns.size(); ++i)
-        attempt([&] {
-            view(index, lineColumns[i].column).text =
-                lineColumns[i].shown(tableCell(entry.chosenLineNumber, fields[i]));
+    for (const auto& [column, number] : fields)
+        attempt([&, column = column, number = number] {
+            view(index, column).text = shownInRaceView(column, tableCell(entry.chosenLineNumber, number));
         });
     entry.chosenDriver = entry.driverName;
     view(index, RaceColumn::driver).text = entry.driverName;
@@ -266,7 +227,7 @@ void writeRow(int race, int index, const FieldNumbers& fields) {
 }
 
 // The line of the cursor's race and entry.
-void selectLine(const FieldNumbers& fields) {
+void selectLine(const std::vector<ShownField>& fields) {
     LineSearch search{.race = cursor.race, .entry = cursor.entry};
     if (!choosesLine(search)) return;
     RaceEntry& entry = search.shared();
@@ -279,7 +240,7 @@ void selectLine(const FieldNumbers& fields) {
 
 void SelectLines() {
     const Step step{"SelectLines"};
-    const FieldNumbers fields = fieldNumbers();
+    const std::vector<ShownField> fields = shownFields();
     cursor.line = 0;
     for (cursor.race = 1; cursor.race <= ratedRaces; ++cursor.race) {
         for (cursor.entry = 1; cursor.entry <= ratedEntries; ++cursor.entry)

@@ -1,5 +1,6 @@
 #include "rating/race_ranking.h"
 
+#include "card/line_fields.h"
 #include "core/failure.h"
 #include "core/formats.h"
 #include "screen/race_views.h"
@@ -84,8 +85,10 @@ Integer filledRows(const Grid& dataView) {
     return filled;
 }
 
-// Cell of the race's outcome that holds the program number of each place. Cells 5 to 8 are the finish.
-constexpr std::array outcomeCell{0, 1, 2, 3, 4, 9};
+// Cell of the race's outcome that holds the program number of each place.
+constexpr std::array<int, rankedPlaces + 1> outcomeCell{OutcomeCell::none, OutcomeCell::s1,
+                                                        OutcomeCell::s2,   OutcomeCell::s3,
+                                                        OutcomeCell::s4,   OutcomeCell::fifth};
 
 template <class Action>
 void forEachPlace(int last, Action action) {
@@ -123,34 +126,13 @@ void fillNames(int race) {
     });
 }
 
-struct PrintWidth {
-    Text PastLine::*cell;
-    Alignment width;
-};
-
-// clang-format off
-constexpr std::array chosenWidths{
-    PrintWidth{&PastLine::CR,         "@@@"},
-    PrintWidth{&PastLine::TRACK,      "@@@@@"},
-    PrintWidth{&PastLine::POST,       "@@"},
-    PrintWidth{&PastLine::CALL_FN_PO, "@@"},
-    PrintWidth{&PastLine::CALL_1Q_PO, "@@"},
-    PrintWidth{&PastLine::CALL_2Q_PO, "@@"},
-    PrintWidth{&PastLine::CALL_3Q_PO, "@@"},
-    PrintWidth{&PastLine::CALL_ST_PO, "@@"},
-    PrintWidth{&PastLine::HRSE_TM_4Q, "@@@@"},
-    PrintWidth{&PastLine::CALL_1Q_PK, "@@"},
-    PrintWidth{&PastLine::CALL_2Q_PK, "@@"},
-    PrintWidth{&PastLine::CALL_3Q_PK, "@@"},
-};
-// clang-format on
-
 void widenCells(RaceEntry& entry) {
     entry.programNumber = aligned("@@@", entry.programNumber);
     entry.postPosition = aligned("@@@", entry.postPosition);
     entry.morningOdds = aligned("@@@@", entry.morningOdds);
-    for (const PrintWidth& row : chosenWidths)
-        entry.chosen.*row.cell = aligned(row.width, entry.chosen.*row.cell);
+    for (const LineField& field : lineFields)
+        if (field.widened == Widened::whenRanked)
+            entry.chosen.*field.cell = rightAligned(entry.chosen.*field.cell, static_cast<int>(field.width));
 }
 
 // The fourth selection's stretch position is the third's: so it has always stood on the reports.

@@ -5,7 +5,7 @@
 #include "core/failure.h"
 #include "reports/report_writer.h"
 #include "reports/viewers.h"
-#include "tables/source_tables.h"
+#include "tables/load_state.h"
 
 namespace quillon {
 namespace {
@@ -78,7 +78,7 @@ void Entries() {
     const FilePlace file = cardFile(Folder::entries, "txt");
     ReportWriter list;
     addMeeting(list);
-    list.line("{}", sourceTables.lineRows.field("CALL_ST_PO"));
+    list.line("{}", load.lineRows.field("CALL_ST_PO"));
     list.line("");
     list.line("");
     list.line(heading);

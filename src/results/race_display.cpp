@@ -43,7 +43,7 @@ void showViews(int race, int lastPutAway) {
     screen.raceButtons.at(race).current = true;
     screen.raceChecks.at(race).visible = true;
     screen.raceChecks.at(race).caption = card.raceInfo(race).label;
-    if (screen.start.caption == "Start") screen.dataViewVisible.at(race) = true;
+    if (screen.startOffer == StartOffer::load) screen.dataViewVisible.at(race) = true;
 }
 
 void captionEntryButtons(int race) {

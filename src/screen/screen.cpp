@@ -2,27 +2,44 @@
 
 #include "core/failure.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quillon {
 
 Screen screen;
 
-Grid::Grid(int rows, int columns)
-    : cells_(static_cast<std::size_t>(rows)), rowCount_(rows), columnCount_(columns) {}
+Grid::Grid(int rows, int columns) { layOut(rows, columns); }
 
 void Grid::check(int row, int column) const {
     if (row < 0 || row >= rowCount_ || column < 0 || column >= columnCount_)
         fail("cell (" + std::to_string(row) + ", " + std::to_string(column) + ") is outside its view");
 }
 
+// Versions are given once in a run, so that a view put back from a copy differs from what stood there.
+void Grid::change() {
+    static std::uint64_t lastVersion = 0;
+    version_ = ++lastVersion;
+}
+
+void Grid::layOut(int rows, int columns) {
+    source_ = nullptr;
+    rowCount_ = rows;
+    columnCount_ = columns;
+    rows_.assign(static_cast<std::size_t>(rows), nullptr);
+    change();
+}
+
 std::span<Cell> Grid::cellsOf(int row) {
     check(row, 0);
     if (isMade(row)) fail("row " + std::to_string(row) + " of the view is made from a file");
-    ++version_;
-    auto& cells = cells_[static_cast<std::size_t>(row)];
-    if (cells.empty()) cells.resize(static_cast<std::size_t>(columnCount_));
-    return cells;
+    change();
+    auto& cells = rows_[static_cast<std::size_t>(row)];
+    if (!cells)
+        cells = std::make_shared<Row>(static_cast<std::size_t>(columnCount_));
+    else if (cells.use_count() > 1)
+        cells = std::make_shared<Row>(*cells);
+    return *cells;
 }
 
 Cell& Grid::operator()(int row, int column) {
@@ -34,22 +51,17 @@ const Cell& Grid::read(int row, int column) const {
     static const Cell none;
     check(row, column);
     if (isMade(row)) return madeCell(row, column);
-    const auto& cells = cells_[static_cast<std::size_t>(row)];
-    return cells.empty() ? none : cells[static_cast<std::size_t>(column)];
+    const auto& cells = rows_[static_cast<std::size_t>(row)];
+    return cells ? (*cells)[static_cast<std::size_t>(column)] : none;
 }
 
 const Cell& Grid::madeCell(int row, int column) const {
     if (lookedAt_ != row) {
         madeCells_.assign(static_cast<std::size_t>(columnCount_), {});
-        make_(row, madeCells_);
+        source_->make(row, madeCells_);
         lookedAt_ = row;
     }
     return madeCells_[static_cast<std::size_t>(column)];
-}
-
-Text Grid::text(int row, int column) const {
-    const Cell& cell = read(row, column);
-    return source_ && row > 0 ? source_(row, column) : cell.text;
 }
 
 void Grid::shade(int row, int from, int to, std::optional<Colour> background) {
@@ -60,46 +72,50 @@ void Grid::shade(int row, int from, int to, std::optional<Colour> background) {
         cells[static_cast<std::size_t>(column)].background = background;
 }
 
-void Grid::bind(int rows, int columns, Source source) {
-    letGoOfMadeRows();
-    rowCount_ = rows + 1;
-    columnCount_ = columns;
-    cells_.assign(static_cast<std::size_t>(rowCount_), {});
-    source_ = std::move(source);
-    ++version_;
-}
-
-void Grid::makeRows(int first, int count, RowMaker make) {
-    cells_.resize(static_cast<std::size_t>(first));
-    rowCount_ = first + count;
-    make_ = std::move(make);
+void Grid::showRows(int first, RowSource source) {
+    rows_.resize(static_cast<std::size_t>(first));
+    rowCount_ = first + source.count;
+    source_ = std::make_shared<const RowSource>(std::move(source));
     lookedAt_ = 0;
-    ++version_;
+    change();
 }
 
-void Grid::letGoOfMadeRows() {
-    if (!make_) return;
-    make_ = nullptr;
-    rowCount_ = static_cast<int>(cells_.size());
+void Grid::letGoOfSource() {
+    if (!source_) return;
+    source_ = nullptr;
+    rowCount_ = static_cast<int>(rows_.size());
     lookedAt_ = 0;
     madeCells_.clear();
 }
 
 void Grid::clear() {
-    letGoOfMadeRows();
-    for (std::size_t row = 1; row < cells_.size(); ++row) cells_[row].clear();
-    source_ = nullptr;
-    ++version_;
+    letGoOfSource();
+    for (std::size_t row = 1; row < rows_.size(); ++row) rows_[row] = nullptr;
+    change();
 }
 
 void Grid::clearAll() {
     clear();
-    if (!cells_.empty()) cells_.front().clear();
+    if (!rows_.empty()) rows_.front() = nullptr;
+}
+
+void Grid::shareWith(const Grid& other) {
+    const std::size_t both = std::min(rows_.size(), other.rows_.size());
+    for (std::size_t row = 0; row < both; ++row)
+        if (rows_[row] != other.rows_[row] && rows_[row] && other.rows_[row] &&
+            *rows_[row] == *other.rows_[row])
+            rows_[row] = other.rows_[row];
 }
 
 Screen::Screen() {
     dataView.fill(Grid{dataViewRows, dataViewColumns});
     raceView.fill(Grid{raceViewRows, raceViewColumns});
+}
+
+void Screen::offer(StartOffer what) {
+    static constexpr std::array captions{"Start", "View Races", "Select Race"};
+    startOffer = what;
+    start.caption = captions.at(static_cast<std::size_t>(what));
 }
 
 void Screen::clearCardViews() {
@@ -110,6 +126,12 @@ void Screen::clearCardViews() {
 void Screen::clear() {
     std::destroy_at(this);
     std::construct_at(this);
+}
+
+void Screen::shareWith(const Screen& other) {
+    for (std::size_t view = 0; view < dataView.size(); ++view) dataView[view].shareWith(other.dataView[view]);
+    for (std::size_t view = 0; view < raceView.size(); ++view) raceView[view].shareWith(other.raceView[view]);
+    lineTaken.shareWith(other.lineTaken);
 }
 
 } // namespace quillon

@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <span>
 #include <vector>
@@ -34,9 +35,19 @@ struct Cell {
     std::optional<Colour> background{}; ///< none: the view's own
     std::optional<Colour> foreground{};
     bool bold = false;
+
+    bool operator==(const Cell&) const = default;
 };
 
-/// A table of cells with fixed column numbers; row 0 is the head. Rows are made when they are first written.
+/// Rows of a view that are made when they are looked at, for tables too long to be held: `make` fills the
+/// cells of a row of the view, all empty before, and must not fail.
+struct RowSource {
+    int count = 0;
+    std::function<void(int row, std::span<Cell> cells)> make{};
+};
+
+/// A table of cells with fixed column numbers; row 0 is the head. Rows are made when they are first written,
+/// and copies share a row until one of them writes there.
 ///
 /// grid(row, column) fails outside the bounds by the failure policy, as every store beyond a bound does.
 class Grid {
@@ -47,7 +58,11 @@ public:
     int rows() const { return rowCount_; }
     int columns() const { return columnCount_; }
 
-    /// The cell to be written. Fails outside the bounds. The cell stays where it is until clear().
+    /// An empty view of this size, its head row counted; let go of what it showed.
+    void layOut(int rows, int columns);
+
+    /// The cell to be written. Fails outside the bounds. The cell stays where it is until the view is copied
+    /// or cleared.
     Cell& operator()(int row, int column);
 
     /// All cells of a row, to be written. Fails outside the bounds.
@@ -56,43 +71,38 @@ public:
     /// The cell as it stands, an empty one where nothing was written. Fails outside the bounds. A cell of a
     /// made row stands until another row is looked at.
     const Cell& read(int row, int column) const;
-
-    /// The text of a cell: of a bound view what its table holds, else the cell's own. Fails outside the
-    /// bounds.
-    Text text(int row, int column) const;
+    const Text& text(int row, int column) const { return read(row, column).text; }
 
     /// Gives every cell of the columns `from` to `to` of a row this background.
     void shade(int row, int from, int to, std::optional<Colour> background);
 
-    /// Shows another table in this view, row for row, without copying it: `source(row, column)` gives the
-    /// text of rows 1 to `rows`. Row 0 stays the head's.
-    using Source = std::function<Text(int row, int column)>;
-    void bind(int rows, int columns, Source source);
+    /// The rows from `first` on are the source's, in place of all there were from there on; they can't be
+    /// written.
+    void showRows(int first, RowSource source);
 
-    /// Rows that are made when they are looked at, for tables too long to be held: `make` fills the cells of
-    /// a row, all empty before, and must not fail. The `count` rows from `first` on take the place of all
-    /// rows there were from there on. They can't be written.
-    using RowMaker = std::function<void(int row, std::span<Cell> cells)>;
-    void makeRows(int first, int count, RowMaker make);
-
-    /// Empties every cell but those of the head row, and lets go of a bound table and of made rows.
+    /// Empties every cell but those of the head row, and lets go of a source.
     void clear();
     void clearAll(); ///< the head row too
 
-    /// Goes up with every change, so that a front end can tell what to draw again.
+    /// Another one after every change, so that a front end can tell what to draw again.
     std::uint64_t version() const { return version_; }
 
-private:
-    void check(int row, int column) const;
-    bool isMade(int row) const { return make_ && row >= static_cast<int>(cells_.size()); }
-    const Cell& madeCell(int row, int column) const;
-    void letGoOfMadeRows();
+    /// Lets go of rows of its own that are the same as the other's, and shares those.
+    void shareWith(const Grid& other);
 
-    std::vector<std::vector<Cell>> cells_; ///< a row without cells was never written
-    Source source_;
-    RowMaker make_;            ///< of the rows behind `cells_`
-    mutable int lookedAt_ = 0; ///< the made row that stands in `madeCells_`; 0 none
-    mutable std::vector<Cell> madeCells_;
+private:
+    using Row = std::vector<Cell>;
+
+    void check(int row, int column) const;
+    bool isMade(int row) const { return source_ && row >= static_cast<int>(rows_.size()); }
+    const Cell& madeCell(int row, int column) const;
+    void letGoOfSource();
+    void change();
+
+    std::vector<std::shared_ptr<Row>> rows_;  ///< none: a row that was never written
+    std::shared_ptr<const RowSource> source_; ///< of the rows after `rows_`
+    mutable int lookedAt_ = 0;                ///< the made row that stands in `madeCells_`; 0 none
+    mutable Row madeCells_;
     int rowCount_ = 0;
     int columnCount_ = 0;
     std::uint64_t version_ = 0;
@@ -190,9 +200,16 @@ constexpr int raceViewColumns = 40;
 constexpr Integer noLineTaken = 0; ///< the program's choice stands
 constexpr Integer takenOut = -1;   ///< scratched or removed: no line speaks for the entry
 
-inline constexpr TextView startCaption = "Start";            ///< before a card
-inline constexpr TextView viewRacesCaption = "View Races";   ///< for a card recalled from file
-inline constexpr TextView selectRaceCaption = "Select Race"; ///< after a load
+/// What the Start button stands for.
+enum class StartOffer {
+    load,       ///< before a card: "Start"
+    viewRaces,  ///< a card was recalled from file, and there is nothing to load: "View Races"
+    selectRace, ///< a card was loaded: "Select Race"
+};
+
+/// What is open.
+enum class CardMode { none, loaded, recalled };
+
 inline constexpr TextView windowCaption = "Quillon Professional Version";
 
 /// The heading of the race on show.
@@ -217,8 +234,11 @@ struct Screen {
     int width = 16250; ///< twips
     int height = 11200;
 
+    CardMode mode = CardMode::none;
+
     RaceHeader header{};
-    Button start{};
+    StartOffer startOffer = StartOffer::load;
+    Button start{};                          ///< captioned by what it offers
     std::array<Button, 24> raceButtons{};    ///< 1 to 23; 0 is spare
     std::array<Button, 24> raceChecks{};     ///< check marks of the card's race list
     std::array<Button, 13> entryButtons{};   ///< 1 to 12, captioned with program numbers
@@ -277,11 +297,17 @@ struct Screen {
     MenuState& item(MenuItem item) { return menu[static_cast<std::size_t>(item)]; }
     const MenuState& item(MenuItem item) const { return menu[static_cast<std::size_t>(item)]; }
 
+    /// What the Start button stands for from now on, and its caption.
+    void offer(StartOffer startOffer);
+
     /// Empties the rows of all data and race views; their heads stay.
     void clearCardViews();
 
     /// Everything empty, as before start-up.
     void clear();
+
+    /// Lets go of rows of its views that are the same as the other's, and shares those.
+    void shareWith(const Screen& other);
 };
 
 extern Screen screen;

@@ -26,41 +26,46 @@ void TableCursor::open(TextView fileName) {
         return;
     }
     *this = TableCursor{};
-    fileName_ = fileName;
-    tell("the table is missing");
+    OpenedTable{.fileName = Text{fileName}}.tell("the table is missing");
 }
 
 void TableCursor::openContent(Text content, TextView fileName) {
     static std::uint64_t opened = 0;
-    *this = TableCursor{};
-    serial_ = ++opened;
-    fileName_ = fileName;
-    content_ = std::move(content);
-    format_ = tableFormat(content_);
-    for (const Text& damage : format_.damage) tell(damage);
+    auto table = std::make_shared<OpenedTable>();
+    table->serial = ++opened;
+    table->fileName = fileName;
+    table->content = std::move(content);
+    table->format = tableFormat(table->content);
+    for (const Text& damage : table->format.damage) table->tell(damage);
 
-    for (std::size_t i = 0; i < format_.fields.size(); ++i)
-        numbers_.try_emplace(format_.fields[i].name, static_cast<int>(i) + 1); // of two the first wins
-    findRows();
+    const auto& fields = table->format.fields;
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        table->numbers.try_emplace(fields[i].name, static_cast<int>(i) + 1); // of two the first wins
+    table->findRows();
+    table_ = std::move(table);
+    row_ = 1;
 }
 
 // Notes where the rows lie that are not deleted.
-void TableCursor::findRows() {
-    rows_.reserve(format_.rows);
-    for (std::size_t i = 0; i < format_.rows; ++i) {
-        const std::size_t start = format_.firstRow + i * format_.rowLength;
-        if (content_[start] == endOfTable) {
+void TableCursor::OpenedTable::findRows() {
+    rows.reserve(format.rows);
+    for (std::size_t i = 0; i < format.rows; ++i) {
+        const std::size_t start = format.firstRow + i * format.rowLength;
+        if (content[start] == endOfTable) {
             tell("the end mark stands in front of row " + std::to_string(i + 1));
             return;
         }
-        if (content_[start] != deletedFlag) rows_.push_back(start);
+        if (content[start] != deletedFlag) rows.push_back(start);
     }
 }
 
-void TableCursor::tell(TextView damage) const { reportFault(fileName_ + ": " + Text{damage}); }
+void TableCursor::OpenedTable::tell(TextView damage) const { reportFault(fileName + ": " + Text{damage}); }
 
 void TableCursor::beginAt(int row) {
-    rows_.erase(rows_.begin(), rows_.begin() + std::clamp(row - 1, 0, rowCount()));
+    if (!table_) return;
+    auto table = std::make_shared<OpenedTable>(*table_);
+    table->rows.erase(table->rows.begin(), table->rows.begin() + std::clamp(row - 1, 0, rowCount()));
+    table_ = std::move(table);
     MoveFirst();
 }
 
@@ -75,12 +80,13 @@ void TableCursor::MoveLast() { row_ = std::max(rowCount(), 1); }
 bool TableCursor::Eof() const { return row_ > rowCount(); }
 
 int TableCursor::fieldNumber(TextView name) const {
-    if (const auto found = numbers_.find(name); found != numbers_.end()) return found->second;
-    const bool told = std::any_of(missing_.begin(), missing_.end(),
+    if (!table_) return 0;
+    if (const auto found = table_->numbers.find(name); found != table_->numbers.end()) return found->second;
+    const bool told = std::any_of(table_->missing.begin(), table_->missing.end(),
                                   [=](const Text& other) { return sameIgnoringCase(name, other); });
-    if (format_.fields.empty() || told) return 0; // of a table that isn't one all fields are missing
-    missing_.emplace_back(name);
-    tell("no field " + Text{name});
+    if (table_->format.fields.empty() || told) return 0; // of a table that isn't one all fields are missing
+    table_->missing.emplace_back(name);
+    table_->tell("no field " + Text{name});
     return 0;
 }
 
@@ -98,13 +104,13 @@ void TableCursor::trimmedFieldTo(Text& text, int number) const {
     while (text.ends_with(blank)) text.pop_back();
 }
 
-int TableCursor::rowCount() const { return static_cast<int>(rows_.size()); }
+int TableCursor::rowCount() const { return table_ ? static_cast<int>(table_->rows.size()) : 0; }
 
-int TableCursor::fieldCount() const { return static_cast<int>(format_.fields.size()); }
+int TableCursor::fieldCount() const { return table_ ? static_cast<int>(table_->format.fields.size()) : 0; }
 
 TextView TableCursor::fieldName(int number) const {
     if (number < 1 || number > fieldCount()) return {};
-    return format_.fields[static_cast<std::size_t>(number) - 1].name;
+    return table_->format.fields[static_cast<std::size_t>(number) - 1].name;
 }
 
 Text TableCursor::field(int row, int number) const {
@@ -116,9 +122,9 @@ Text TableCursor::field(int row, int number) const {
 
 TableCursor::StoredField TableCursor::stored(int row, int number) const {
     if (row < 1 || row > rowCount() || number < 1 || number > fieldCount()) return {};
-    const TableField& field = format_.fields[static_cast<std::size_t>(number) - 1];
-    const std::size_t start = rows_[static_cast<std::size_t>(row) - 1] + field.start;
-    return {field.form, {content_.data() + start, field.width}};
+    const TableField& field = table_->format.fields[static_cast<std::size_t>(number) - 1];
+    const std::size_t start = table_->rows[static_cast<std::size_t>(row) - 1] + field.start;
+    return {field.form, {table_->content.data() + start, field.width}};
 }
 
 int TableCursor::row() const { return row_; }

@@ -1,6 +1,7 @@
 // One table of the dBASE family, read forward as a cursor.
 //
-// The whole file is read into memory when it is opened; nothing is ever written. Rows keep their stored
+// The whole file is read into memory when it is opened, and copies of a cursor share it; nothing is ever
+// written. Rows keep their stored
 // order; rows marked deleted are skipped and take no row number. A table that is missing or no table at all
 // is an empty one, and a header that lies gives the whole rows that are there, or none; the fault journal
 // names it.
@@ -11,6 +12,7 @@
 #include "tables/table_format.h"
 
 #include <cstdint>
+#include <memory>
 #include <unordered_map>
 #include <vector>
 
@@ -53,7 +55,7 @@ public:
     int row() const; ///< the current row, from 1; rowCount() + 1 behind the last
 
     /// Tells one opened table from another, so that field numbers can be kept; 0 for no table.
-    std::uint64_t serial() const { return serial_; }
+    std::uint64_t serial() const { return table_ ? table_->serial : 0; }
 
 private:
     struct NameHash {
@@ -65,8 +67,19 @@ private:
         bool operator()(TextView left, TextView right) const { return sameIgnoringCase(left, right); }
     };
 
-    void findRows();
-    void tell(TextView damage) const;
+    /// What is the same for all cursors on a table.
+    struct OpenedTable {
+        Text fileName{};
+        Text content{}; ///< the whole file
+        TableFormat format{};
+        std::unordered_map<Text, int, NameHash, SameName> numbers{}; ///< field numbers by name
+        std::vector<std::size_t> rows{};                             ///< where each row starts in the file
+        std::uint64_t serial = 0;
+        mutable std::vector<Text> missing{}; ///< names told as missing
+
+        void findRows();
+        void tell(TextView damage) const;
+    };
 
     struct StoredField {
         FieldForm form = FieldForm::unread;
@@ -74,14 +87,8 @@ private:
     };
     StoredField stored(int row, int number) const; ///< an unread one outside the table
 
-    Text fileName_;
-    Text content_; ///< the whole file
-    TableFormat format_;
-    std::unordered_map<Text, int, NameHash, SameName> numbers_; ///< field numbers by name
-    std::vector<std::size_t> rows_;                             ///< where each row starts in the file
-    mutable std::vector<Text> missing_;                         ///< names told as missing
+    std::shared_ptr<const OpenedTable> table_;
     int row_ = 1;
-    std::uint64_t serial_ = 0;
 };
 
 } // namespace quillon

@@ -2,14 +2,13 @@
 
 #include "core/failure.h"
 #include "core/files.h"
+#include "tables/load_state.h"
 
 #include <algorithm>
 #include <numeric>
 
 namespace quillon {
 namespace {
-
-TrackTable tracks;
 
 // Pars are seconds of a minute; one below 10 has left its minute out. A blank one is none.
 Text parOf(TextView columns) {
@@ -76,12 +75,12 @@ TrackTable trackTableOf(TextView content) {
     return table;
 }
 
-const TrackTable& trackTable() { return tracks; }
+const TrackTable& trackTable() { return load.tracks; }
 
 void readTrackTable() {
     const auto content = fileContent({Folder::working, "TrackEditor.ini"});
     if (!content) reportFault("TrackEditor.ini can't be read");
-    tracks = trackTableOf(content.value_or(""));
+    load.tracks = trackTableOf(content.value_or(""));
 }
 
 Text trackKeyOf(TextView track) {

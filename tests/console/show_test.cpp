@@ -116,8 +116,11 @@ TEST_F(ShowTest, DataViewsAreTables) {
 }
 
 TEST_F(ShowTest, TheLineTableIsTheTableItIsBoundTo) {
-    screen.dataView[24].bind(
-        2, 3, [](int row, int column) { return column == 0 ? Text{} : std::to_string(row * 10 + column); });
+    screen.dataView[24].layOut(1, 3);
+    screen.dataView[24].showRows(1, {2, [](int row, std::span<Cell> cells) {
+                                         cells[1].text = std::to_string(row * 10 + 1);
+                                         cells[2].text = std::to_string(row * 10 + 2);
+                                     }});
     screen.dataView[24](0, 1).text = "TRACK";
     EXPECT_EQ("0\t1=TRACK\n1\t1=11\t2=12\n2\t1=21\t2=22\n", shownPart("dataview 24"));
 }

@@ -3,7 +3,7 @@
 #include "card_tables.h"
 #include "day/card_load.h"
 #include "rating/diagnostic_log.h"
-#include "tables/source_tables.h"
+#include "tables/load_state.h"
 
 #include <algorithm>
 #include <utility>
@@ -25,8 +25,7 @@ constexpr int farPost = 13;
 class CardLoadTest : public CardTest {
 protected:
     CardLoadTest() {
-        sourceTables = {};
-        sourceLine = {};
+        load = {};
         clearDiagnosticLog();
         StartUp();
         journal.clear();
@@ -117,7 +116,7 @@ TEST_F(CardLoadTest, OnARecalledCardStartReadsNoTable) {
     EXPECT_EQ("as recalled", card.raceInfo(1).purse);
     EXPECT_EQ(0, card.totalLines);
     EXPECT_EQ("View Races", screen.start.caption);
-    EXPECT_EQ(0, sourceTables.raceRows.rowCount());
+    EXPECT_EQ(0, load.raceRows.rowCount());
 }
 
 TEST_F(CardLoadTest, AfterTheLoadANewCardNeedsANewProcess) {

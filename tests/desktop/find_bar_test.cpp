@@ -110,10 +110,10 @@ struct MillionRowsTest : FindBarTest {
     static constexpr int rows = 1000000;
 
     MillionRowsTest() {
-        second.makeRows(1, rows, [](int row, std::span<Cell> cells) {
-            cells[0].text = "card " + std::to_string(row);
-            cells[1].text = "x";
-        });
+        second.showRows(1, {rows, [](int row, std::span<Cell> cells) {
+                                cells[0].text = "card " + std::to_string(row);
+                                cells[1].text = "x";
+                            }});
         lower->show(&second);
         lower->setFocus();
         bar->open();

@@ -42,7 +42,7 @@ protected:
 
     static Text afterTracks(TextView trackSize, TextView lineTrack, TextView figure = "   70.0") {
         card.trackSize = trackSize;
-        sourceLine.TRACK = lineTrack;
+        load.line.TRACK = lineTrack;
         cursor.lineValue = figure;
         Tracks();
         return cursor.lineValue;

@@ -4,7 +4,7 @@
 #include "rating/diagnostic_log.h"
 #include "rating/line_factors.h"
 #include "support/card_test.h"
-#include "tables/source_tables.h"
+#include "tables/load_state.h"
 #include "tables/table_builder.h"
 #include "tables/track_table.h"
 
@@ -19,8 +19,7 @@ constexpr const char* otherTwoRings = "\xB0\xB0";
 class LineFactorsTest : public CardTest {
 protected:
     LineFactorsTest() {
-        sourceTables = {};
-        sourceLine = {};
+        load = {};
         clearDiagnosticLog();
         cursor.race = 1;
         cursor.entry = 2;
@@ -67,10 +66,10 @@ TEST_F(LineFactorsTest, TheFirstFigureIsThreeFinalTimesLessTheLeadersThirdTimeAn
         {"a finish with a letter", "1", "29.1", "3x", "54.3", "25.3", "67.6", "54.3"},
     };
     for (const LastQuarterRow& row : rows) {
-        sourceLine = {};
-        sourceLine.DIST_MILES = row.miles;
-        sourceLine.HRSE_TM_4Q = row.lastQuarter;
-        sourceLine.CALL_FN_PO = row.finish;
+        load.line = {};
+        load.line.DIST_MILES = row.miles;
+        load.line.HRSE_TM_4Q = row.lastQuarter;
+        load.line.CALL_FN_PO = row.finish;
         cursor.lineValue = "";
         cursor.horseFinal = row.horseFinal;
         cursor.leaderFinal = row.leaderFinal;
@@ -84,7 +83,7 @@ TEST_F(LineFactorsTest, TheFirstFigureIsThreeFinalTimesLessTheLeadersThirdTimeAn
 
 TEST_F(LineFactorsTest, TheCardsFirstLineHasItsDistanceAsLineOne) {
     cursor.line = 0;
-    sourceLine.DIST_MILES = "1";
+    load.line.DIST_MILES = "1";
     LastQuarterCalc();
     EXPECT_EQ("1", card.pastLine.read(1, 2, 1).DIST_MILES);
     EXPECT_EQ("", card.pastLine.read(1, 2, 0).DIST_MILES);
@@ -299,12 +298,12 @@ TEST_F(LineFactorsTest, TheClassOfTodaysRaceIsThatOfTheLinesRace) {
     cursor.race = 3;
     card.raceInfo(3).todaysCr = "80";
     card.raceInfo(1).todaysCr = "60";
-    sourceLine.CR = "76";
-    sourceLine.CALL_FN_PO = "2";
+    load.line.CR = "76";
+    load.line.CALL_FN_PO = "2";
     cursor.lineValue = " 60.0";
     ClassChange();
     EXPECT_EQ("62", cursor.lineValue); // 60 + (80 - 76) / 2
-    sourceLine.CR = "80";
+    load.line.CR = "80";
     cursor.lineValue = " 60.0";
     ClassChange();
     EXPECT_EQ(" 60.0", cursor.lineValue); // the same class touches nothing
@@ -312,7 +311,7 @@ TEST_F(LineFactorsTest, TheClassOfTodaysRaceIsThatOfTheLinesRace) {
 
 TEST_F(LineFactorsTest, RatingsInLettersCountAsNought) {
     card.raceInfo(1).todaysCr = "NA";
-    sourceLine.CR = "NA";
+    load.line.CR = "NA";
     cursor.lineValue = " 60.0";
     ClassChange();
     EXPECT_EQ("57", cursor.lineValue); // no rating of the line: 60 - 3
@@ -320,9 +319,9 @@ TEST_F(LineFactorsTest, RatingsInLettersCountAsNought) {
 
 TEST_F(LineFactorsTest, AQualifierIsCreditedAndHasNoClass) {
     card.raceInfo(1).todaysCr = "80";
-    sourceLine.CR = "";
+    load.line.CR = "";
     for (const char* text : {"QUA", "QU", "TQUAL"}) {
-        sourceLine.CLASS = text;
+        load.line.CLASS = text;
         cursor.lineValue = " 60.0";
         QualifierCredit();
         EXPECT_EQ("57", cursor.lineValue) << text; // 60 - 3
@@ -330,7 +329,7 @@ TEST_F(LineFactorsTest, AQualifierIsCreditedAndHasNoClass) {
         EXPECT_EQ("57", cursor.lineValue) << text;
     }
     for (const char* text : {"", "qua", "Q U", "NW4000"}) {
-        sourceLine.CLASS = text;
+        load.line.CLASS = text;
         cursor.lineValue = " 60.0";
         QualifierCredit();
         EXPECT_EQ(" 60.0", cursor.lineValue) << text;
@@ -362,7 +361,7 @@ TEST_F(LineFactorsTest, AFavouriteInItsLatestRaceIsCreditedOnEveryLine) {
     for (const FavouriteRow& row : rows) {
         cursor.wasFavourite = row.was;
         cursor.line = static_cast<Integer>(row.line);
-        sourceLine.FAV = row.mark;
+        load.line.FAV = row.mark;
         cursor.lineValue = " 60.0";
         FavouriteCredit();
         EXPECT_EQ(row.expected, cursor.lineValue) << row.what;
@@ -381,7 +380,7 @@ TEST_F(LineFactorsTest, TheFirstFourAreCredited) {
         {"", none},  {"-1", none}, {"dnf", none}, {" 1", "56"}, {"2x", "57"}, {"1.5", none}, {"3dh", "58"},
     };
     for (const auto& row : rows) {
-        sourceLine.CALL_FN_PO = row.finish;
+        load.line.CALL_FN_PO = row.finish;
         cursor.lineValue = none;
         WPS();
         EXPECT_EQ(row.expected, cursor.lineValue) << row.finish;
@@ -390,9 +389,9 @@ TEST_F(LineFactorsTest, TheFirstFourAreCredited) {
 
 TEST_F(LineFactorsTest, AFigureThatIsNoNumberPassesEveryFactor) {
     card.raceInfo(1).todaysCr = "80";
-    sourceLine.CLASS = "QUA";
-    sourceLine.CALL_FN_PO = "1";
-    sourceLine.FAV = "*";
+    load.line.CLASS = "QUA";
+    load.line.CALL_FN_PO = "1";
+    load.line.FAV = "*";
     cursor.lineSize = "1/2";
     cursor.firstCall = cursor.secondCall = cursor.thirdCall = "1";
     for (const char* figure : {"", "   - ", "***"})
@@ -447,13 +446,13 @@ protected:
         card.driverTable(7).name = "Mapes, J";
         cursor.row = 3;
         setPost("2");
-        sourceLine.TRACK = "TQ";
-        sourceLine.TRACKSIZE = "3/4";
-        sourceLine.DIST_MILES = "1";
-        sourceLine.HRSE_TM_4Q = "29.1";
-        sourceLine.CALL_FN_PO = "5";
-        sourceLine.CR = "75";
-        sourceLine.DN = "7";
+        load.line.TRACK = "TQ";
+        load.line.TRACKSIZE = "3/4";
+        load.line.DIST_MILES = "1";
+        load.line.HRSE_TM_4Q = "29.1";
+        load.line.CALL_FN_PO = "5";
+        load.line.CR = "75";
+        load.line.DN = "7";
         cursor.horseFinal = "54.3"; // 3 x 54.3 - 25.3 - 70 = 67.6
         cursor.leaderFinal = "25.3";
     }
@@ -463,7 +462,7 @@ protected:
     }
 
     /// The post of the line's horse.
-    static void setPost(TextView post) { sourceHorse.PP = post; }
+    static void setPost(TextView post) { load.horse.PP = post; }
 
     static const PastLine& stored(int race = 1, int entry = 2, int line = 1) {
         return card.pastLine.read(race, entry, line);
@@ -495,12 +494,12 @@ TEST_F(RateLineTest, AGoodLineOnAMileComesToAHalfMile) {
     card.trackSize = "1/2";
     cursor.entry = 6;
     setPost("6");
-    sourceLine.TRACK = "MILE";
-    sourceLine.TRACKSIZE = "1";
-    sourceLine.CLASS = "NW4000L5";
-    sourceLine.CR = "72";
-    sourceLine.CALL_FN_PO = "2";
-    sourceLine.FAV = "*";
+    load.line.TRACK = "MILE";
+    load.line.TRACKSIZE = "1";
+    load.line.CLASS = "NW4000L5";
+    load.line.CR = "72";
+    load.line.CALL_FN_PO = "2";
+    load.line.FAV = "*";
     cursor.firstCall = "3";
     cursor.secondCall = "1";
     cursor.secondPark = ring;
@@ -528,12 +527,12 @@ TEST_F(RateLineTest, AQualifierOnAHalfMileComesToAFiveEighths) {
     cursor.entry = 10;
     cursor.line = 3;
     setPost("10");
-    sourceLine.TRACK = "HALF";
-    sourceLine.TRACKSIZE = "1/2";
-    sourceLine.CLASS = "QUA";
-    sourceLine.CR = "-99";
-    sourceLine.CALL_FN_PO = "4";
-    sourceLine.FAV = "*"; // not its latest line
+    load.line.TRACK = "HALF";
+    load.line.TRACKSIZE = "1/2";
+    load.line.CLASS = "QUA";
+    load.line.CR = "-99";
+    load.line.CALL_FN_PO = "4";
+    load.line.FAV = "*"; // not its latest line
     cursor.horseFinal = "01.2";
     cursor.leaderFinal = "32.1";
     cursor.firstCall = "2";
@@ -558,7 +557,7 @@ TEST_F(RateLineTest, AQualifierOnAHalfMileComesToAFiveEighths) {
 
 TEST_F(RateLineTest, HundredthsOfAPostChargeAreRoundedAwayWithTheLatePostCredit) {
     card.trackSize = "7/8";
-    sourceLine.TRACK = "MILE"; // 67.6 + 58 - 57 = 68.6
+    load.line.TRACK = "MILE"; // 67.6 + 58 - 57 = 68.6
     cursor.entry = 4;
     RateLine();
     EXPECT_EQ(" 68.0", stored().rating); // 68.6 + 0.03 - 0.6 = 68.03: the smallest charges leave no trace
@@ -568,7 +567,7 @@ TEST_F(RateLineTest, HundredthsOfAPostChargeAreRoundedAwayWithTheLatePostCredit)
 }
 
 TEST_F(RateLineTest, ALineOfMoreThanAMileIsUnusable) {
-    sourceLine.DIST_MILES = "1.0625";
+    load.line.DIST_MILES = "1.0625";
     EXPECT_EQ("   1    2    99.9     -      -      -      -      -      -      -      -      - 99.9\r\n",
               logOfRateLine());
     EXPECT_EQ("99.9", stored().rating);
@@ -577,8 +576,8 @@ TEST_F(RateLineTest, ALineOfMoreThanAMileIsUnusable) {
 }
 
 TEST_F(RateLineTest, ALineWithoutALastQuarterIsUnusableAndStored) {
-    sourceLine.HRSE_TM_4Q = "";
-    sourceLine.CR = "72";
+    load.line.HRSE_TM_4Q = "";
+    load.line.CR = "72";
     EXPECT_EQ("   1    2             -      -      -      -      -      -      -      -      - 99.9\r\n",
               logOfRateLine());
     EXPECT_EQ("99.9", stored().rating);
@@ -588,7 +587,7 @@ TEST_F(RateLineTest, ALineWithoutALastQuarterIsUnusableAndStored) {
 }
 
 TEST_F(RateLineTest, ADashIsUnusable) {
-    sourceLine.DIST_MILES = "0.6250";
+    load.line.DIST_MILES = "0.6250";
     RateLine();
     EXPECT_EQ("99.9", stored().rating);
 }
@@ -621,7 +620,7 @@ TEST_F(RateLineTest, FiguresOutOfRangeAreThrownOut) {
 TEST_F(RateLineTest, AFigureMayLeaveTheRangeBehindTheRangeTest) {
     cursor.horseFinal = "00.0";
     cursor.leaderFinal = "10.2"; // 99.8
-    sourceLine.TRACK = "MILE";   // + 59 - 57
+    load.line.TRACK = "MILE";    // + 59 - 57
     RateLine();
     EXPECT_EQ("101.8", stored().rating);
 }
@@ -630,12 +629,12 @@ TEST_F(RateLineTest, AFigureThatFallsToOneOrLessIsUnusable) {
     cursor.horseFinal = "50.0";
     cursor.leaderFinal = "39.9"; // 40.1
     card.raceInfo(1).todaysCr = "40";
-    sourceLine.CALL_FN_PO = "4";
-    sourceLine.CR = "78"; // a drop of 38, fourth: 40.1 - 38 - 1 = 1.1
+    load.line.CALL_FN_PO = "4";
+    load.line.CR = "78"; // a drop of 38, fourth: 40.1 - 38 - 1 = 1.1
     RateLine();
     EXPECT_EQ("  1.1", stored().rating);
     cursor.horseFinal = "50.0";
-    sourceLine.CR = "78.1"; // 1.0
+    load.line.CR = "78.1"; // 1.0
     RateLine();
     EXPECT_EQ("99.9", stored().rating);
 }
@@ -644,17 +643,17 @@ TEST_F(RateLineTest, AFigureBelowOneIsWrittenWithoutALeadingNought) {
     cursor.horseFinal = "50.0";
     cursor.leaderFinal = "39.9";
     card.raceInfo(1).todaysCr = "40";
-    sourceLine.CALL_FN_PO = "4";
-    sourceLine.CR = "79.6"; // a drop of 39.6, fourth: 40.1 - 39.6 = 0.5, and - 1 = -0.5
+    load.line.CALL_FN_PO = "4";
+    load.line.CR = "79.6"; // a drop of 39.6, fourth: 40.1 - 39.6 = 0.5, and - 1 = -0.5
     EXPECT_EQ("   1    2    40.1   40.1   40.1   40.1   40.1   40.1   40.1     .5     .5    -.599.9\r\n",
               logOfRateLine());
 }
 
 // A line without calls: the load leaves what it kept of the line before.
 TEST_F(RateLineTest, PositionAndParkMarksAreThoseTheLoadKept) {
-    sourceLine.POST = "0";
-    sourceLine.TRACKSIZE = "1/2";
-    sourceLine.CALL_1Q_PO = "9";
+    load.line.POST = "0";
+    load.line.TRACKSIZE = "1/2";
+    load.line.CALL_1Q_PO = "9";
     cursor.firstCall = "1";
     cursor.thirdPark = ring;
     cursor.thirdCall = "5";
@@ -679,7 +678,7 @@ TEST_F(RateLineTest, TheParkFactorsGoByTheVendorsCourseSize) {
     for (const LineSizeRow& row : rows) {
         cursor.entry = 2;
         cursor.horseFinal = "54.3";
-        sourceLine.TRACKSIZE = row.trackSize;
+        load.line.TRACKSIZE = row.trackSize;
         RateLine();
         EXPECT_EQ(row.expected, stored().rating) << row.trackSize;
     }
@@ -817,10 +816,10 @@ TEST_F(RateLineTest, EveryCellOfTheLineIsStoredAsItStands) {
         {&SourceLine::HRSE_TM_4Q, &PastLine::HRSE_TM_4Q},
         {&SourceLine::HRSE_TM_FN, &PastLine::HRSE_TM_FN},
     };
-    for (std::size_t i = 0; i < std::size(rows); ++i) sourceLine.*rows[i].from = "cell " + std::to_string(i);
-    sourceLine.TRACK = "M"; // not yet "M1"
+    for (std::size_t i = 0; i < std::size(rows); ++i) load.line.*rows[i].from = "cell " + std::to_string(i);
+    load.line.TRACK = "M"; // not yet "M1"
     RateLine();
-    for (const CellRow& row : rows) EXPECT_EQ(sourceLine.*row.from, stored().*row.to);
+    for (const CellRow& row : rows) EXPECT_EQ(load.line.*row.from, stored().*row.to);
     // No cell was left out: every text of a past line has been given.
     forEachField(pastLineFields, stored(), [](TextView name, const auto& value) {
         if constexpr (std::is_same_v<std::decay_t<decltype(value)>, Text>) {
@@ -832,7 +831,7 @@ TEST_F(RateLineTest, EveryCellOfTheLineIsStoredAsItStands) {
 }
 
 TEST_F(RateLineTest, ADriverNumberThatNamesNobodyLeavesTheRestOfTheLine) {
-    sourceLine.DN = "301";
+    load.line.DN = "301";
     RateLine();
     EXPECT_EQ("", stored().driverName);
     EXPECT_EQ(12, stored().lineNumber);
@@ -841,7 +840,7 @@ TEST_F(RateLineTest, ADriverNumberThatNamesNobodyLeavesTheRestOfTheLine) {
 }
 
 TEST_F(RateLineTest, ABlankDriverNumberIsDriverNought) {
-    sourceLine.DN = "";
+    load.line.DN = "";
     card.pastLine.write(1, 2, 1).driverName = "left over";
     RateLine();
     EXPECT_EQ("", stored().driverName);
@@ -849,10 +848,10 @@ TEST_F(RateLineTest, ABlankDriverNumberIsDriverNought) {
 }
 
 TEST_F(RateLineTest, AFavouritesLinesAreAllCreditedUntilTheNextEntry) {
-    sourceLine.FAV = "*";
+    load.line.FAV = "*";
     RateLine();
     EXPECT_EQ(" 64.6", stored(1, 2, 1).rating); // 67.6 - 3
-    sourceLine.FAV = "";
+    load.line.FAV = "";
     cursor.line = 2;
     RateLine();
     EXPECT_EQ(" 64.6", stored(1, 2, 2).rating);

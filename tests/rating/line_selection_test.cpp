@@ -2,7 +2,7 @@
 #include "core/formats.h"
 #include "rating/line_selection.h"
 #include "support/card_test.h"
-#include "tables/source_tables.h"
+#include "tables/load_state.h"
 #include "tables/table_builder.h"
 
 namespace quillon {
@@ -30,7 +30,7 @@ std::vector<std::pair<Text, Text>> textsOf(const PastLine& line) {
 class LineSelectionTest : public CardTest {
 protected:
     LineSelectionTest() { card.raceCount = 1; }
-    ~LineSelectionTest() override { sourceTables = {}; }
+    ~LineSelectionTest() override { load = {}; }
 
     static RaceEntry& enter(int race = 1, int index = testEntry) {
         RaceEntry& entry = card.entry(race, index);
@@ -583,7 +583,7 @@ TEST_F(LineSelectionTest, TheRaceViewShowsTheChosenLineAsItsTableHasIt) {
         second += inField(field.second, static_cast<std::size_t>(field.width));
     }
     table.rows = {first, second};
-    sourceTables.lineRows.openContent(table.bytes(), "RUNLINHR.DBF");
+    load.lineRows.openContent(table.bytes(), "RUNLINHR.DBF");
 
     for (const int index : {1, 2, 3}) {
         RaceEntry& entry = enter(1, index);

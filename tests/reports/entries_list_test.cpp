@@ -2,7 +2,7 @@
 
 #include "core/failure.h"
 #include "sheet_test.h"
-#include "tables/source_tables.h"
+#include "tables/load_state.h"
 
 namespace quillon {
 namespace {
@@ -18,10 +18,10 @@ const std::string heading =
 class EntriesListTest : public SheetTest {
 protected:
     EntriesListTest() {
-        sourceTables = {};
+        load = {};
         card.raceCount = 1;
     }
-    ~EntriesListTest() override { sourceTables = {}; }
+    ~EntriesListTest() override { load = {}; }
 
     static void addEntry(int race, int post, const Text& name) {
         card.entry(race, post).horseName = name;
@@ -93,10 +93,10 @@ TEST_F(EntriesListTest, WritesHeadAndEntriesAndShowsThem) {
 }
 
 TEST_F(EntriesListTest, TheThirdLineIsTheStretchPositionOfTheRowAtHand) {
-    sourceTables.lineRows.openContent(lineTable("5 "), "RUNLINHR.DBF");
+    load.lineRows.openContent(lineTable("5 "), "RUNLINHR.DBF");
     Entries();
     EXPECT_EQ("5 ", linesOf(listPath).at(2));
-    sourceTables.lineRows.MoveNext(); // as a load leaves it
+    load.lineRows.MoveNext(); // as a load leaves it
     Entries();
     EXPECT_EQ("", linesOf(listPath).at(2));
 }

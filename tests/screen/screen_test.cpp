@@ -2,6 +2,8 @@
 #include "screen/screen.h"
 #include "support/card_test.h"
 
+#include <utility>
+
 namespace quillon {
 
 using ScreenTest = CardTest;
@@ -27,28 +29,14 @@ TEST_F(ScreenTest, ClearingKeepsTheHeads) {
     EXPECT_EQ("", grid.text(0, 1));
 }
 
-TEST_F(ScreenTest, ABoundViewShowsItsTableWithoutACopy) {
-    Grid grid;
-    int asked = 0;
-    grid.bind(2, 3, [&](int row, int column) {
-        ++asked;
-        return std::to_string(row) + "/" + std::to_string(column);
-    });
-    grid(0, 1).text = "head";
-    EXPECT_EQ(0, asked);
-    EXPECT_EQ("head", grid.text(0, 1));
-    EXPECT_EQ("2/1", grid.text(2, 1));
-    EXPECT_FALSE(attempt([&] { grid.text(3, 1); }));
-}
-
 TEST_F(ScreenTest, RowsAreMadeWhenTheyAreLookedAt) {
     Grid grid{3, 2};
     grid(1, 0).text = "kept";
     int made = 0;
-    grid.makeRows(2, 1000000, [&](int row, std::span<Cell> cells) {
-        ++made;
-        cells[1] = {.text = "row " + std::to_string(row), .bold = row == 3};
-    });
+    grid.showRows(2, {1000000, [&](int row, std::span<Cell> cells) {
+                          ++made;
+                          cells[1] = {.text = "row " + std::to_string(row), .bold = row == 3};
+                      }});
     EXPECT_EQ(1000002, grid.rows());
     EXPECT_EQ("kept", grid.text(1, 0));
     EXPECT_EQ(0, made);
@@ -62,18 +50,32 @@ TEST_F(ScreenTest, RowsAreMadeWhenTheyAreLookedAt) {
 
 TEST_F(ScreenTest, MadeRowsAreNotWrittenAndGoWithTheRest) {
     Grid grid{4, 2};
-    const Grid::RowMaker sameText = [](int, std::span<Cell> cells) { cells[0].text = "made"; };
-    grid.makeRows(2, 5, sameText);
+    const RowSource sameText{5, [](int, std::span<Cell> cells) { cells[0].text = "made"; }};
+    grid.showRows(2, sameText);
     EXPECT_FALSE(attempt([&] { grid(2, 0).text = "lost"; }));
     EXPECT_EQ("made", grid.text(2, 0));
     grid.clear();
     EXPECT_EQ(2, grid.rows());
     EXPECT_FALSE(attempt([&] { grid.text(2, 0); }));
 
-    grid.makeRows(1, 5, sameText);
-    grid.bind(3, 2, nullptr);
+    grid.showRows(1, sameText);
+    grid.layOut(4, 2);
     EXPECT_EQ(4, grid.rows());
     EXPECT_EQ("", grid.text(2, 0));
+}
+
+TEST_F(ScreenTest, CopiesShareRowsUntilOneOfThemIsWritten) {
+    Grid grid{3, 2};
+    grid(1, 1).text = "5/2";
+    const Grid copy = grid;
+    EXPECT_EQ(&copy.read(1, 1), &std::as_const(grid).read(1, 1));
+    grid(1, 1).text = "3/1";
+    EXPECT_EQ("3/1", grid.text(1, 1));
+    EXPECT_EQ("5/2", copy.text(1, 1));
+    EXPECT_NE(copy.version(), grid.version());
+    grid(1, 1).text = "5/2";
+    grid.shareWith(copy);
+    EXPECT_EQ(&copy.read(1, 1), &std::as_const(grid).read(1, 1));
 }
 
 TEST_F(ScreenTest, EveryChangeRaisesTheVersion) {
@@ -82,7 +84,7 @@ TEST_F(ScreenTest, EveryChangeRaisesTheVersion) {
     grid(1, 1).text = "x";
     EXPECT_GT(grid.version(), before);
     const auto written = grid.version();
-    grid.makeRows(1, 1, [](int, std::span<Cell>) {});
+    grid.showRows(1, {1, [](int, std::span<Cell>) {}});
     EXPECT_GT(grid.version(), written);
 }
 

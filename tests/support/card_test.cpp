@@ -1,5 +1,7 @@
 #include "support/card_test.h"
 
+#include "day/snapshot.h"
+
 #include <algorithm>
 #include <array>
 #include <fstream>
@@ -65,9 +67,7 @@ void writeLineCell(int lineNumber, int column, TextView cell) {
 
 CardTest::CardTest() : folder_(freshFolder()), before_(fs::current_path()) {
     fs::current_path(folder_);
-    card.clear();
-    cursor = {};
-    screen.clear();
+    resetAll();
     journal.clear();
 
     const auto record = [this](std::string text) { shown.push_back(std::move(text)); };

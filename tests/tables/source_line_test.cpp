@@ -1,5 +1,5 @@
 #include "support/card_test.h"
-#include "tables/source_tables.h"
+#include "tables/load_state.h"
 #include "tables/table_builder.h"
 
 namespace quillon {
@@ -10,10 +10,7 @@ protected:
     SourceLineTest() { forget(); }
     ~SourceLineTest() override { forget(); }
 
-    static void forget() {
-        sourceTables = {};
-        sourceLine = {};
-    }
+    static void forget() { load = {}; }
 
     static BuiltTable lines() {
         return {
@@ -26,55 +23,55 @@ protected:
 };
 
 TEST_F(SourceLineTest, TheRowIsTakenWithoutTrailingBlanks) {
-    sourceTables.lineRows.openContent(lines().bytes(), "RUNLINHR.DBF");
+    load.lineRows.openContent(lines().bytes(), "RUNLINHR.DBF");
     ReadSourceLine();
-    EXPECT_EQ("101", sourceLine.HN);
-    EXPECT_EQ("M1", sourceLine.TRACK);
-    EXPECT_EQ("\xB0", sourceLine.CALL_1Q_PK); // two places wide, one mark
-    EXPECT_EQ("29", sourceLine.LEAD_TM_1Q);
+    EXPECT_EQ("101", load.line.HN);
+    EXPECT_EQ("M1", load.line.TRACK);
+    EXPECT_EQ("\xB0", load.line.CALL_1Q_PK); // two places wide, one mark
+    EXPECT_EQ("29", load.line.LEAD_TM_1Q);
 
-    sourceTables.lineRows.MoveNext();
+    load.lineRows.MoveNext();
     ReadSourceLine();
-    EXPECT_EQ("1010", sourceLine.HN);
-    EXPECT_EQ("Sac", sourceLine.TRACK);
-    EXPECT_EQ("\xB0\xB0", sourceLine.CALL_1Q_PK);
-    EXPECT_EQ("-97", sourceLine.LEAD_TM_1Q);
+    EXPECT_EQ("1010", load.line.HN);
+    EXPECT_EQ("Sac", load.line.TRACK);
+    EXPECT_EQ("\xB0\xB0", load.line.CALL_1Q_PK);
+    EXPECT_EQ("-97", load.line.LEAD_TM_1Q);
 }
 
 TEST_F(SourceLineTest, BehindTheLastRowTheLineIsEmpty) {
-    sourceTables.lineRows.openContent(lines().bytes(), "RUNLINHR.DBF");
+    load.lineRows.openContent(lines().bytes(), "RUNLINHR.DBF");
     ReadSourceLine();
-    sourceTables.lineRows.MoveLast();
-    sourceTables.lineRows.MoveNext();
+    load.lineRows.MoveLast();
+    load.lineRows.MoveNext();
     ReadSourceLine();
-    EXPECT_EQ("", sourceLine.HN);
-    EXPECT_EQ("", sourceLine.CALL_1Q_PK);
+    EXPECT_EQ("", load.line.HN);
+    EXPECT_EQ("", load.line.CALL_1Q_PK);
 }
 
 TEST_F(SourceLineTest, FieldsThatTheTableLacksAreEmptyAndToldOnce) {
-    sourceTables.lineRows.openContent(lines().bytes(), "RUNLINHR.DBF");
-    sourceLine.PURSE = "left from the card before";
+    load.lineRows.openContent(lines().bytes(), "RUNLINHR.DBF");
+    load.line.PURSE = "left from the card before";
     ReadSourceLine();
     ReadSourceLine();
-    EXPECT_EQ("", sourceLine.PURSE);
+    EXPECT_EQ("", load.line.PURSE);
     EXPECT_TRUE(journalTells("RUNLINHR.DBF: no field PURSE"));
     EXPECT_EQ(30U, journal.count()); // 34 fields are taken, 4 are there
 }
 
 TEST_F(SourceLineTest, ATableWithOtherPlacesForItsFieldsIsReadByItsOwn) {
-    sourceTables.lineRows.openContent(lines().bytes(), "RUNLINHR.DBF");
+    load.lineRows.openContent(lines().bytes(), "RUNLINHR.DBF");
     ReadSourceLine();
     const BuiltTable other{.fields = {{"TRACK", 'C', 5}, {"HN", 'N', 4}}, .rows = {" PcD  2002"}};
-    sourceTables.lineRows.openContent(other.bytes(), "RUNLINHR.DBF");
+    load.lineRows.openContent(other.bytes(), "RUNLINHR.DBF");
     ReadSourceLine();
-    EXPECT_EQ("PcD", sourceLine.TRACK);
-    EXPECT_EQ("2002", sourceLine.HN);
+    EXPECT_EQ("PcD", load.line.TRACK);
+    EXPECT_EQ("2002", load.line.HN);
 }
 
 TEST_F(SourceLineTest, WithoutATableTheLineIsEmpty) {
-    sourceLine.HN = "7";
+    load.line.HN = "7";
     ReadSourceLine();
-    EXPECT_EQ("", sourceLine.HN);
+    EXPECT_EQ("", load.line.HN);
     EXPECT_EQ(0U, journal.count());
 }
 

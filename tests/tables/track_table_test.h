@@ -3,7 +3,7 @@
 
 #include "card/race_card.h"
 #include "support/card_test.h"
-#include "tables/source_tables.h"
+#include "tables/load_state.h"
 #include "tables/table_builder.h"
 #include "tables/track_table.h"
 
@@ -18,10 +18,7 @@ inline Text trackRow(TextView key, TextView courseSize, TextView par = "57.0", T
 
 class TrackTableTest : public CardTest {
 protected:
-    TrackTableTest() {
-        sourceTables = {};
-        sourceLine = {};
-    }
+    TrackTableTest() { load = {}; }
 
     static void useTracks(const Text& content) {
         put("TrackEditor.ini", content);
@@ -31,7 +28,7 @@ protected:
     /// The race table with one race at this track.
     static void raceAt(const Text& track) {
         const BuiltTable races{.fields = {{"TRACK", 'C', 5}}, .rows = {" " + inField(track, 5)}};
-        sourceTables.raceRows.openContent(races.bytes(), "RACESHR.DBF");
+        load.raceRows.openContent(races.bytes(), "RACESHR.DBF");
     }
 };
 

@@ -1,0 +1,65 @@
+// What a load keeps from line to line, beside the card and the screen: the vendor's tables with their
+// cursors, the rows they stand on, the track table, and the log. Steps read and write it through `load`.
+#pragma once
+
+#include "card/race_card.h"
+#include "core/text.h"
+#include "tables/table_cursor.h"
+#include "tables/track_table.h"
+
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+namespace quillon {
+
+/// The row of the running-line table that the line cursor is on, without trailing blanks, read once a line:
+/// the fields of a past line as the vendor has them, and what the store doesn't keep.
+struct SourceLine : PastLine {
+    Text TODAYSRACE{};
+    Text HN{};
+    Text TRACKSIZE{};
+    Text FAV{};
+    Text ODDS{};
+    Text DN{};
+};
+
+/// The row of the horse table that the horse cursor is on, without trailing blanks, read once a horse.
+struct SourceHorse {
+    Text RACE{};
+    Text HN{};
+    Text HORSE_NAME{};
+    Text PROGRAM{};
+    Text PP{}; ///< post position; 99 for none
+    Text MORN_ODDS{};
+    Text DN{};
+    Text TN{};
+};
+
+struct LoadState {
+    TableCursor raceRows;    ///< RACESHR: one row per race of today's card
+    TableCursor horseRows;   ///< HORSEHR: one row per entry
+    TableCursor lineRows;    ///< RUNLINHR: one row per past line of an entry
+    TableCursor driverRows;  ///< DRIVERHR: row n is driver n
+    TableCursor trainerRows; ///< TRAINRHR: row n is trainer n
+
+    SourceLine line;
+    SourceHorse horse;
+    TrackTable tracks; ///< TrackEditor.ini as it was read last
+
+    std::vector<int> raceIndexOfRow;              ///< of each race row, in table order
+    std::unordered_map<Text, int> lastRowOfHorse; ///< the last row of the horse table with this HN
+    std::optional<int> cardDay;                   ///< the card's date, by the current race row
+    int daysFromCard = 0; ///< the line's date less the card's; an unreadable date leaves it as it was
+    Text log;             ///< of the ratings, while a card loads
+};
+
+extern LoadState load;
+
+/// Takes the current row of the running-line table into `load.line`.
+void ReadSourceLine();
+
+/// Takes the current row of the horse table into `load.horse`.
+void ReadSourceHorse();
+
+} // namespace quillon
