@@ -1,6 +1,7 @@
 #include "day/save.h"
 
 #include "card/card_files.h"
+#include "card/columns.h"
 #include "card/race_card.h"
 #include "cardfiles/card_file.h"
 #include "core/failure.h"
