@@ -34,7 +34,7 @@ const PastLine& PastLineTable::read(int race, int entry, int line) const {
 }
 
 PastLine& PastLineTable::write(int race, int entry, int line) {
-    if (entry >= entryExtent) fail("entry " + std::to_string(entry) + " has no past lines");
+    if (entry >= entryExtent) lines_.failOutside({race, entry, line});
     return writeWide(race, entry, line);
 }
 

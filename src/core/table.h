@@ -47,6 +47,13 @@ public:
                 rows_[row] = other.rows_[row];
     }
 
+    /// Fails as an index outside the bounds does, for a caller whose own bounds are narrower.
+    [[noreturn]] static void failOutside(const Index& index) {
+        Text shown;
+        for (const int part : index) shown += (shown.empty() ? "" : ", ") + std::to_string(part);
+        fail("index (" + shown + ") is out of bounds");
+    }
+
 private:
     static constexpr std::size_t elementCount = (static_cast<std::size_t>(Extents) * ...);
     static constexpr std::size_t rowCount = sizeof...(Extents) > 1 ? extents[0] : 1;
@@ -86,12 +93,6 @@ private:
     static std::size_t known(const Index& index) {
         assert(within(index));
         return flat(index);
-    }
-
-    [[noreturn]] static void failOutside(const Index& index) {
-        Text shown;
-        for (const int part : index) shown += (shown.empty() ? "" : ", ") + std::to_string(part);
-        fail("index (" + shown + ") is out of bounds");
     }
 
     std::array<std::shared_ptr<Row>, rowCount> rows_{};

@@ -154,14 +154,21 @@ double raceOf(int lineNumber) {
     return lenientNumber(card.lineCells.read(lineNumber, DataColumn::todaysRace));
 }
 
-// The number of the card's first race less 1, which no file carries. Its label tells it. Where the label is
-// lost, or names a race behind that of the first line, the first line is one of the card's first race.
+// The number of the card's first race less 1, which no file carries. Its label tells it; a lost one is taken
+// for race 1. Where that is a race after the first line's, or leaves the last line after the card's last
+// race, the first line is one of the card's first race.
 double racesBeforeTheCard() {
     double firstLine = 0;
-    for (int number = 1; number <= archiveRows && firstLine < 1; ++number) firstLine = raceOf(number);
-    const double firstLabel = lenientNumber(card.raceInfo[{1}].label);
-    const bool told = firstLabel >= 1 && firstLabel <= firstLine;
-    return std::max(told ? firstLabel : firstLine, 1.0) - 1;
+    double lastLine = 0;
+    for (int number = 1; number <= archiveRows; ++number) {
+        const double race = raceOf(number);
+        if (race < 1) continue;
+        if (firstLine < 1) firstLine = race;
+        lastLine = race;
+    }
+    const double first = std::max(lenientNumber(card.raceInfo[{1}].label), 1.0);
+    const bool linesFit = first <= firstLine && lastLine - first + 1 <= card.raceCount;
+    return (linesFit ? first : std::max(firstLine, 1.0)) - 1;
 }
 
 // The lines of the card, each into the view of its race after the lines before it. A change of HN begins an

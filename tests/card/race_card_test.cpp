@@ -40,6 +40,18 @@ TEST_F(CardTest, ALineWrittenIntoABlankSlotKeepsTheRestOfTheBlank) {
     EXPECT_EQ("", card.pastLine.write(2, 5, 8).PURSE);
 }
 
+TEST_F(CardTest, APastLineHasRoomForEntriesUpTo20AndWideFieldsUpTo30) {
+    EXPECT_TRUE(attempt([] { card.pastLine.write(1, 20, 1).POST = "1"; }));
+    EXPECT_TRUE(attempt([] { card.pastLine.writeWide(1, 30, 30).CALL_2Q_BF = "1"; }));
+    EXPECT_EQ("1", card.pastLine.read(1, 30, 30).CALL_2Q_BF);
+    EXPECT_FALSE(attempt([] { card.pastLine.writeWide(1, 31, 1).CALL_2Q_BF = "1"; }));
+    EXPECT_FALSE(attempt([] { card.pastLine.write(1, 21, 1).POST = "1"; }));
+    EXPECT_FALSE(attempt([] { card.pastLine.write(1, 30, 30).POST = "1"; })); // though it is there
+    EXPECT_EQ("", card.pastLine.read(1, 30, 30).POST);
+    card.clear();
+    EXPECT_FALSE(card.pastLine.has(1, 30, 30));
+}
+
 TEST_F(CardTest, AKeptLineHasItsCellsByColumn) {
     std::array<TextView, lineCellColumns> cells;
     cells[0] = "first";

@@ -391,10 +391,111 @@ TEST_F(RecallTest, AViewTakesItsFirst199Lines) {
 }
 
 TEST_F(RecallTest, LinesUpToRow2300AreShown) {
-    line(2300, "23", "1", "1", "20260301");
+    line(1, "1", "1", "1", "20260301"); // the card starts at race 1
+    line(2300, "23", "1", "2", "20260302");
     saveAndStartAnew();
     recall();
-    EXPECT_EQ("20260301", dataCell(23, 1, 1));
+    EXPECT_EQ("20260302", dataCell(23, 1, 1));
+}
+
+// ---- the first race of a card ----
+
+// Cards of two races or three, with a horse in each and two lines of different races.
+class FirstRaceRecall : public RecallTest {
+protected:
+    static void races(int count, int firstLabel) {
+        for (int race = 1; race <= count; ++race) {
+            named(race, 1);
+            card.raceInfo(race).raceLabelDistance = std::to_string(firstLabel + race - 1) + "1";
+        }
+    }
+
+    static void recallLines(const char* first, const char* second) {
+        line(1, first, "1", "1", "20260301");
+        line(2, second, "1", "2", "20260302");
+        saveAndStartAnew();
+        recall();
+    }
+
+    /// The views with a line, by the day of their first: "1:1 2:2".
+    static Text shownLines() {
+        Text found;
+        for (int race = 1; race <= 23; ++race)
+            if (const Text date = dataCell(race, 1, 1); !date.empty())
+                found += (found.empty() ? "" : " ") + std::to_string(race) + ":" + date.substr(7);
+        return found;
+    }
+};
+
+TEST_F(FirstRaceRecall, LinesOfAPartialCardStandWithTheirRace) {
+    races(2, 5);
+    recallLines("5", "6");
+    EXPECT_EQ("1:1 2:2", shownLines());
+    EXPECT_EQ("Some Horse", dataCell(1, 1, 0)); // headed by the race's own entry
+    EXPECT_EQ("5", dataCell(1, 1, 2));          // as the table told it
+}
+
+TEST_F(FirstRaceRecall, ALabelTellsTheFirstRaceOfACardThatHasNoLinesThere) {
+    races(3, 5);
+    recallLines("6", "7");
+    EXPECT_EQ("2:1 3:2", shownLines());
+}
+
+TEST_F(FirstRaceRecall, ACardThatStartsAtRaceOneMayHaveNoLinesThere) {
+    races(3, 1);
+    recallLines("2", "3");
+    EXPECT_EQ("2:1 3:2", shownLines());
+}
+
+TEST_F(FirstRaceRecall, ALetterInTheLabelIsPassedOver) {
+    races(3, 1);
+    card.raceInfo(1).raceLabelDistance = "1A1";
+    recallLines("2", "3");
+    EXPECT_EQ("2:1 3:2", shownLines());
+}
+
+TEST_F(FirstRaceRecall, WhereTheLabelIsLostTheFirstLineTellsIt) {
+    races(2, 5);
+    card.raceInfo(1).raceLabelDistance = "5mile"; // five characters, which can't be split
+    recallLines("5", "6");
+    EXPECT_EQ("1:1 2:2", shownLines());
+}
+
+TEST_F(FirstRaceRecall, WithoutItsLabelTooACardMayHaveNoLinesInRaceOne) {
+    races(3, 1);
+    card.raceInfo(1).raceLabelDistance = "1mile";
+    recallLines("2", "3");
+    EXPECT_EQ("", card.raceInfo(1).label);
+    EXPECT_EQ("2:1 3:2", shownLines());
+}
+
+TEST_F(FirstRaceRecall, ALabelAfterTheFirstLineTellsNothing) {
+    races(2, 8);
+    recallLines("1", "2");
+    EXPECT_EQ("1:1 2:2", shownLines());
+}
+
+// The two-digit label of a race without a distance comes back cut to its first digit.
+TEST_F(FirstRaceRecall, ALabelThatLeavesLinesAfterTheLastRaceTellsNothing) {
+    races(2, 10);
+    card.raceInfo(1).raceLabelDistance = "10";
+    recallLines("10", "11");
+    EXPECT_EQ("1", card.raceInfo(1).label);
+    EXPECT_EQ("1:1 2:2", shownLines());
+}
+
+TEST_F(FirstRaceRecall, ATableNumberedFromOneHasTheLinesOfALaterRaceWithIt) {
+    races(2, 1);
+    recallLines("2", "3");
+    EXPECT_EQ("1:1 2:2", shownLines());
+}
+
+TEST_F(FirstRaceRecall, LinesOfNoRaceInFrontTellNothing) {
+    races(2, 5);
+    card.raceInfo(1).raceLabelDistance = "";
+    line(3, "6", "1", "2", "20260303");
+    recallLines("", "5");
+    EXPECT_EQ("1:2 2:3", shownLines());
 }
 
 // ---- damaged and missing files ----

@@ -742,11 +742,35 @@ TEST_F(RateLineTest, AnEntryWithoutAPostIsEntryNoughtAndPaysForPostOneMeanwhile)
     EXPECT_EQ(" 67.8", stored(1, 0, 1).rating);
 }
 
+TEST_F(RateLineTest, PostsFrom21To30HaveFiveFieldsOfTheLineStored) {
+    sourceLine.CALL_2Q_BF = "2b";
+    sourceLine.CALL_2Q_AF = "2a";
+    sourceLine.CALL_3Q_BF = "3b";
+    sourceLine.CALL_3Q_AF = "3a";
+    for (const int post : {21, 30}) {
+        setPost(std::to_string(post));
+        cursor.entry = 2;
+        RateLine();
+        EXPECT_EQ(" 67.6", shownRating()) << post;
+        Text given;
+        forEachField(pastLineFields, stored(1, post), [&](TextView name, const auto& value) {
+            if (value != std::decay_t<decltype(value)>{}) given += Text{name} + " ";
+        });
+        EXPECT_EQ("CALL_2Q_BF CALL_2Q_AF CALL_3Q_BF CALL_3Q_AF lineNumber ", given) << post;
+        EXPECT_EQ("2b", stored(1, post).CALL_2Q_BF) << post;
+        EXPECT_EQ("2a", stored(1, post).CALL_2Q_AF) << post;
+        EXPECT_EQ("3b", stored(1, post).CALL_3Q_BF) << post;
+        EXPECT_EQ("3a", stored(1, post).CALL_3Q_AF) << post;
+        EXPECT_EQ(12, stored(1, post).lineNumber) << post;
+        EXPECT_TRUE(journalTells("index (1, " + std::to_string(post) + ", 1) is out of bounds")) << post;
+    }
+}
+
 TEST_F(RateLineTest, APostBeyondAllBoundsLosesTheLineAndNothingElse) {
-    setPost("21");
+    setPost("31");
     RateLine();
     EXPECT_EQ(" 67.6", shownRating());
-    EXPECT_TRUE(journalTells("out of bounds"));
+    EXPECT_TRUE(journalTells("index (1, 31, 1) is out of bounds"));
     setPost("99999");
     cursor.entry = 2;
     RateLine();
