@@ -127,6 +127,17 @@ TEST_F(SummaryTest, TrimsThePayoffs) {
     EXPECT_EQ("150.40", card.payoffRecord(1, 9));
 }
 
+TEST_F(SummaryTest, TrimsThePayoffsOfRacesThatNoBetIsDecidedForToo) {
+    for (const int at : {24, 25, 30})
+        race(at, {"1", "2", "3", "4"}, {"1", "2", "3", "4"},
+             {.winPay = "  5.40 ", .superfectaPay = " 150.40  "});
+    SelectionResults();
+    for (const int at : {24, 25, 30}) {
+        EXPECT_EQ("5.40", card.payoffRecord(at, 1)) << at;
+        EXPECT_EQ("150.40", card.payoffRecord(at, 9)) << at;
+    }
+}
+
 TEST_F(SummaryTest, ASecondRunKeepsNothingOfTheFirst) {
     race(1, {"1", "2", "3", "4"}, {"1", "2", "3", "4"}, {.winPay = "5.40", .exactaPay = "12.60"});
     SelectionResults();

@@ -48,6 +48,7 @@ const StoreCase storeCases[] = {
     {"RaceEntry(0,0).chosen.lineNumber\t7", [] { card.entry(0, 0).chosen.lineNumber = 7; }},
     {"PastLine(1,3,2).DATE\t20260228", [] { card.pastLine.write(1, 3, 2).DATE = "20260228"; }},
     {"PastLine(30,20,30).rating\t 0", [] { card.pastLine.write(30, 20, 30).rating = " 0"; }},
+    {"PastLine(30,30,30).CALL_3Q_AF\t2", [] { card.pastLine.writeWide(30, 30, 30).CALL_3Q_AF = "2"; }},
     {"DriverTable(4).name\tBarlow,A", [] { card.driverTable(4).name = "Barlow,A"; }},
     {"DriverTable(300).udr\t.212", [] { card.driverTable(300).udr = ".212"; }},
     {"TrainerTable(200)\tOddie,P", [] { card.trainerTable(200) = "Oddie,P"; }},

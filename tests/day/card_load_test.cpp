@@ -227,6 +227,49 @@ TEST_F(CardLoadTest, TheOffsetIsThatOfTheEarlierOfFirstHorseAndFirstLine) {
     EXPECT_EQ("", linesOf(1, 1));
 }
 
+// Races 1 and 3 of the table are before the card: they'd give race 5 a purse of 1000 and a class of 95.
+TEST_F(CardLoadTest, ARaceTableOfTheWholeProgrammeBeginsAtTheCardsFirstRace) {
+    races({{.RACE = "1", .CARD_ID = "A", .TRACK = "DD", .PURSE = "1000", .TODAYS_CR = "95"},
+           {.RACE = "3", .TRACK = "DD", .PURSE = "3000", .TODAYS_CR = "95"},
+           {.RACE = "5", .PURSE = "5000"},
+           {.RACE = "6", .PURSE = "6000"}});
+    horses({{.RACE = "5", .PP = "13"}, {.RACE = "6", .HN = "2", .PP = "13"}});
+    lines({{.TODAYSRACE = "5"}, {.TODAYSRACE = "6", .HN = "2"}});
+    Start();
+    EXPECT_EQ(4, card.raceOffset);
+    EXPECT_EQ("BANG_20260314.pmd2", card.cardFileName);
+    EXPECT_EQ(2, card.raceCount);
+    EXPECT_EQ(0, card.labelledRaces); // race 1's letter is none of the card's
+    EXPECT_EQ("5", card.raceInfo(1).label);
+    EXPECT_EQ("6", card.raceInfo(2).label);
+    EXPECT_EQ("", card.raceInfo(3).label);
+    EXPECT_EQ("BANG", card.raceInfo(1).trackCode);
+    EXPECT_EQ("5000", card.raceInfo(1).purse);
+    EXPECT_EQ("6000", card.raceInfo(2).purse);
+    EXPECT_EQ("6", screen.raceButtons[2].caption);
+    EXPECT_FALSE(screen.raceButtons[3].visible);
+    EXPECT_EQ("RACE 6", cell(2, 0, 0));
+    EXPECT_EQ("1:1 ", linesOf(1, 13));
+    EXPECT_EQ("1:2 ", linesOf(2, 13));
+    // Class 75 in a race of 75. Post 13 with a limit of 8 costs 1.5, late post 0.9 off: 67.6 + 0.6
+    EXPECT_EQ(" 68.2", cell(1, 1, 38));
+    EXPECT_EQ(" 68.2", cell(2, 1, 38));
+}
+
+TEST_F(CardLoadTest, ARaceTableWithoutTheCardsFirstRaceIsTheCardsOwn) {
+    races({{.RACE = "1", .PURSE = "5000"}, {.RACE = "2", .PURSE = "6000"}});
+    horses({{.RACE = "5"}, {.RACE = "6", .HN = "2"}});
+    lines({{.TODAYSRACE = "5"}, {.TODAYSRACE = "6", .HN = "2"}});
+    Start();
+    EXPECT_EQ(4, card.raceOffset);
+    EXPECT_EQ("1", card.raceInfo(1).label);
+    EXPECT_EQ("5000", card.raceInfo(1).purse);
+    EXPECT_EQ("6000", card.raceInfo(2).purse);
+    EXPECT_EQ(2, card.raceCount);
+    EXPECT_EQ("1:1 ", linesOf(1, 1));
+    EXPECT_EQ("1:2 ", linesOf(2, 1));
+}
+
 TEST_F(CardLoadTest, TheCardIsNamedByTrackAndDate) {
     oneHorse({{}});
     races({{.TRACK = "M"}});
@@ -670,22 +713,34 @@ TEST_F(CardLoadTest, LinesCountByTheirAgeInDays) {
     for (const Row& row : rows) {
         card.clear();
         StartUp();
-        // The card's very first line counts for entry 1; those behind it for their own.
-        oneHorse({{.DATE = "20250101"}, {.DATE = row.date}});
+        oneHorse({{.DATE = row.date}});
         Start();
         EXPECT_EQ(row.recent, card.entry(1, farPost).linesInLastWindow) << row.date;
         EXPECT_EQ(row.fifty, card.entry(1, farPost).linesInFiftyDays) << row.date;
     }
 }
 
-TEST_F(CardLoadTest, TheCardsFirstLineCountsForEntryOne) {
+TEST_F(CardLoadTest, TheCardsFirstLineCountsForTheFirstHorse) {
     races({{}});
     horses({{.PP = "13"}, {.HN = "2", .PP = "14"}});
     lines({{}, {}, {.HN = "2"}, {.HN = "2"}});
     Start();
-    EXPECT_EQ(1, card.entry(1, farPost).linesInLastWindow);
+    EXPECT_EQ(2, card.entry(1, farPost).linesInLastWindow);
+    EXPECT_EQ(2, card.entry(1, farPost).linesInFiftyDays);
     EXPECT_EQ(2, card.entry(1, 14).linesInLastWindow);
-    EXPECT_EQ(1, card.entry(1, 1).linesInFiftyDays);
+}
+
+TEST_F(CardLoadTest, NothingStandsAtEntryOneWhereNobodyHasPostOne) {
+    races({{}});
+    horses({{.PP = "6"}, {.HN = "2", .PP = "7"}});
+    lines({{.FAV = "*"}, {.HN = "2"}});
+    Start();
+    EXPECT_EQ(0, card.entry(1, 1).linesInLastWindow);
+    EXPECT_EQ(0, card.entry(1, 1).linesInFiftyDays);
+    EXPECT_EQ("", card.entry(1, 1).favMark);
+    EXPECT_EQ("", card.entry(1, 1).rating); // not even blanks, which could be ranked
+    EXPECT_EQ("", screen.raceView[1].text(1, 3));
+    EXPECT_EQ("*", card.entry(1, 6).favMark);
 }
 
 TEST_F(CardLoadTest, LinesOfAnEntryWithoutAPostCountForEntryOne) {
@@ -695,7 +750,8 @@ TEST_F(CardLoadTest, LinesOfAnEntryWithoutAPostCountForEntryOne) {
     Start();
     EXPECT_EQ(0, card.entry(1, 0).linesInLastWindow);
     EXPECT_EQ(0, card.entry(1, 0).linesInFiftyDays);
-    EXPECT_EQ(3, card.entry(1, 1).linesInFiftyDays); // with the card's first line
+    EXPECT_EQ(2, card.entry(1, 1).linesInFiftyDays); // 10 and 41 days
+    EXPECT_EQ(1, card.entry(1, farPost).linesInFiftyDays);
     EXPECT_EQ("1:2 2:3 ", linesOf(1, 0));
 }
 
@@ -703,14 +759,13 @@ TEST_F(CardLoadTest, AnUnreadableDateLeavesTheAgeOfTheLineBefore) {
     races({{}});
     horses({{.PP = "13"}, {.HN = "2", .PP = "14"}, {.HN = "3", .PP = "15"}});
     lines({{.DATE = "2026 304"},
-           {.DATE = "20250101"}, // day 0 at first; then over 50 days
+           {.DATE = "20250101"}, // no difference at first; then over a year
            {.HN = "2", .DATE = "20260230"},
            {.HN = "2"}, // no such day; then 10 days
            {.HN = "3", .DATE = ""},
            {.HN = "3", .DATE = "20250101"}}); // blank
     Start();
-    EXPECT_EQ(1, card.entry(1, 1).linesInLastWindow);       // the first line: no difference yet
-    EXPECT_EQ(0, card.entry(1, farPost).linesInLastWindow); // a year old
+    EXPECT_EQ(1, card.entry(1, farPost).linesInLastWindow); // no difference counts as the card's day: 1 of 2
     EXPECT_EQ(1, card.entry(1, 14).linesInLastWindow);      // the year before it stood: 1 of 2
     EXPECT_EQ(1, card.entry(1, 15).linesInLastWindow);      // ten days stood: 1 of 2
 }
@@ -911,17 +966,47 @@ TEST_F(CardLoadTest, AFavouriteIsForgottenWithItsLastLine) {
     EXPECT_EQ("*", card.entry(1, 14).favMark);
 }
 
-TEST_F(CardLoadTest, TheCardsFirstLinePaysForPostOne) {
+TEST_F(CardLoadTest, TheCardsFirstLinePaysForTheFirstHorsesPost) {
     races({{}});
     horses({{.PP = "8"}});
     lines({{}, {}});
     Start();
-    // 67.6 on Bangor's half mile from Bangor: no course; post 1 nothing, late post 0.9: 66.7
-    EXPECT_EQ(" 66.7", cell(1, 1, 38));
-    EXPECT_EQ(" 71.2", cell(1, 2, 38)); // from post 8: 67.6 + 4.5 - 0.9
+    // 67.6 on Bangor's half mile from Bangor: no course; post 8 costs 4.5, late post 0.9 off: 71.2
+    EXPECT_EQ(" 71.2", cell(1, 1, 38));
+    EXPECT_EQ(" 71.2", cell(1, 2, 38));
+}
+
+TEST_F(CardLoadTest, TheCardsFirstLineOfAHorseWithoutAPostPaysForPostOne) {
+    races({{}});
+    horses({{.PP = "99"}});
+    lines({{}});
+    Start();
+    EXPECT_EQ(" 66.7", cell(1, 1, 38)); // 67.6 - 0.9, post 1 costing nothing
+    EXPECT_EQ("1:1 ", linesOf(1, 0));
 }
 
 // Bounds ---
+
+// A past line has room for posts up to 20, five of its fields for posts up to 30.
+TEST_F(CardLoadTest, OfAHorseAtPostTwentyFiveFiveFieldsOfEachLineAreStored) {
+    races({{}});
+    horses({{.PP = "2"}, {.HN = "2", .PP = "25"}});
+    lines({{}, {.HN = "2"}, {.HN = "2"}});
+    Start();
+    EXPECT_EQ("1:2 2:3 ", linesOf(1, 25));
+    for (const int line : {1, 2}) {
+        const PastLine& stored = card.pastLine.read(1, 25, line);
+        EXPECT_EQ("2b", stored.CALL_2Q_BF);
+        EXPECT_EQ("2a", stored.CALL_2Q_AF);
+        EXPECT_EQ("3b", stored.CALL_3Q_BF);
+        EXPECT_EQ("3a", stored.CALL_3Q_AF);
+        EXPECT_EQ("", stored.DATE);
+        EXPECT_EQ("", stored.CALL_2Q_PO);
+        EXPECT_EQ("", stored.rating);
+    }
+    EXPECT_EQ("99.9", cell(1, 2, 38)); // no entry to rate it for
+    EXPECT_TRUE(journalTells("index (1, 25, 1) is out of bounds"));
+}
 
 TEST_F(CardLoadTest, AThirtyFirstLineIsLostButForItsCells) {
     std::vector<LineRow> rows(31);
@@ -1025,16 +1110,16 @@ TEST_F(CardLoadTest, ALoadMakesTheLogFileAlsoWithoutTheMark) {
 
 TEST_F(CardLoadTest, TheLogHasALineForEachLineWithTheIndicesOfItsFirstFigure) {
     races({{.TRACK = "ZZ"}});
-    horses({{.PP = "13"}});
-    lines({{.TRACK = "ZZ"}, {.TRACK = "ZZ"}});
+    horses({{.PP = "13"}, {.HN = "2", .PP = "99"}});
+    lines({{.TRACK = "ZZ"}, {.HN = "2", .TRACK = "ZZ"}});
     Diagnostic();
     Start();
     const std::string figures =
         "   67.6   67.6   67.6   67.6   67.6   67.6   67.6   67.6   67.6   67.6 67.6\r\n";
     EXPECT_EQ(" RACE  PP    LQC    POST   LH     PO     POW    POD    QU     CL     FAV    WPS\r\n"
-              "\r\r\n   1    1 " +
-                  figures + // the first line stands under entry 1 until its post is found
-                  "\r\r\n   1   13 " + figures,
+              "\r\r\n   1   13 " +
+                  figures +                     // the first line's too
+                  "\r\r\n   1    1 " + figures, // under entry 1 until it is found to have no post
               contentOf("TEST.txt"));
 }
 

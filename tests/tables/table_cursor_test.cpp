@@ -73,6 +73,45 @@ TEST_F(TableCursorTest, TheWholeTableIsThereByRowAndField) {
     for (const int number : {-1, 0, 4}) EXPECT_EQ("", rows.fieldName(number));
 }
 
+TEST_F(TableCursorTest, RowsBeforeItsBeginningAreLeftOut) {
+    TableCursor rows = opened(entries());
+    rows.MoveLast();
+    rows.beginAt(2);
+    EXPECT_EQ(1, rows.row());
+    EXPECT_EQ(2, rows.rowCount());
+    EXPECT_EQ("Bo Jo     ", rows.field("HORSE_NAME"));
+    EXPECT_EQ("12", rows.field(2, 1));
+    rows.beginAt(2); // counted from the new beginning
+    EXPECT_EQ(1, rows.rowCount());
+    EXPECT_EQ("Cy        ", rows.field("HORSE_NAME"));
+}
+
+TEST_F(TableCursorTest, ABeginningAtOrBeforeTheFirstRowLeavesTheTableWhole) {
+    for (const int row : {1, 0, -1}) {
+        TableCursor rows = opened(entries());
+        rows.MoveLast();
+        rows.beginAt(row);
+        EXPECT_EQ(3, rows.rowCount()) << row;
+        EXPECT_EQ(1, rows.row()) << row;
+        EXPECT_EQ("Ada       ", rows.field("HORSE_NAME")) << row;
+    }
+}
+
+TEST_F(TableCursorTest, ABeginningAfterTheLastRowLeavesNone) {
+    for (const int row : {4, 5, 1000}) {
+        TableCursor rows = opened(entries());
+        rows.beginAt(row);
+        EXPECT_EQ(0, rows.rowCount()) << row;
+        EXPECT_TRUE(rows.Eof()) << row;
+        EXPECT_EQ("", rows.field("HORSE_NAME")) << row;
+        rows.beginAt(1);
+        EXPECT_TRUE(rows.Eof()) << row;
+    }
+    TableCursor none;
+    none.beginAt(3);
+    EXPECT_TRUE(none.Eof());
+}
+
 TEST_F(TableCursorTest, FieldNamesIgnoreCaseAndTheFirstOfTwoWins) {
     const TableCursor rows =
         opened({.fields = {{"Race", 'N', 2}, {"RACE", 'N', 2}, {"race", 'N', 2}}, .rows = {"  1 2 3"}});
