@@ -26,7 +26,8 @@ static void readTable(const char* path) {
     }
     rows = number(head + 4, 4);
     rowLength = number(head + 10, 2);
-    while (fieldCount < 256 && fread(fields[fieldCount], 1, 32, file) == 32 && fields[fieldCount][0] != 13) ++fieldCount;
+    while (fieldCount < 256 && fread(fields[fieldCount], 1, 32, file) == 32 && fields[fieldCount][0] != 13)
+        ++fieldCount;
     fseek(file, (long)number(head + 8, 2), SEEK_SET);
     if (rowLength > sizeof row) exit(1);
     while (rows-- > 0 && fread(row, 1, rowLength, file) == rowLength) {
@@ -50,7 +51,8 @@ int main(int count, char** paths) {
         clock_gettime(CLOCK_MONOTONIC, &from);
         for (int i = 1; i < count; ++i) readTable(paths[i]);
         clock_gettime(CLOCK_MONOTONIC, &to);
-        const double taken = (double)(to.tv_sec - from.tv_sec) * 1e3 + (double)(to.tv_nsec - from.tv_nsec) / 1e6;
+        const double taken =
+            (double)(to.tv_sec - from.tv_sec) * 1e3 + (double)(to.tv_nsec - from.tv_nsec) / 1e6;
         if (taken < best) best = taken;
     }
     printf("%.3f\n", best);

@@ -6,8 +6,7 @@
 
 namespace quillon {
 
-/// UTF-8 of a text. The five bytes that the code page leaves undefined become the code points of the same
-/// number.
+/// UTF-8 of a text. The five bytes that the code page leaves undefined keep their numbers as code points.
 std::string toUtf8(TextView text);
 
 /// The text of UTF-8. A character that the code page does not have becomes "?", and so does each byte that is

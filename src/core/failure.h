@@ -1,14 +1,12 @@
 // The failure policy: when a statement fails, the next one runs.
 //
-//     attempt([&] { entry.morningOdds = source.field("ODDS"); });     // one statement: stands or falls alone
-//     attempt(PostPosition);                                          // a step that fails ends there; we go
-//     on if (holdsOrFails([&] { return strictNumber(cell) > 0; })) ...   // a condition that fails counts as
-//     true
+//     attempt([&] { entry.morningOdds = source.field("ODDS"); });   // a statement stands or falls alone
+//     attempt(PostPosition);                                        // a step that fails ends there; we go on
+//     if (holdsOrFails([&] { return strictNumber(cell) > 0; })) ... // a condition that fails counts as true
 //
 // What can fail raises a Failure and nothing else: a strict number, a table index, 16-bit narrowing, a
 // division by zero, a piece of a text, a date, a file. Programming errors (assertions, std::out_of_range)
-// pass through and stay loud. Compute first and store last, so that a failing statement leaves its cell as it
-// was.
+// pass through and stay loud. Compute first and store last: then a failing statement leaves its cell alone.
 #pragma once
 
 #include "core/text.h"

@@ -79,7 +79,7 @@ bool endsWithoutLineEnd(const fs::path& path) {
     return file.get() != '\n';
 }
 
-// True where nothing stands behind the first `size` bytes of the file but a part of the record, or all of it.
+// True where nothing stands after the first `size` bytes of the file but a part of the record, or all of it.
 bool isStartOf(TextView record, const fs::path& path, std::uintmax_t size) {
     std::ifstream file{path, std::ios::binary};
     file.seekg(static_cast<std::streamoff>(size));
@@ -88,8 +88,7 @@ bool isStartOf(TextView record, const fs::path& path, std::uintmax_t size) {
     return record.starts_with(TextView{behind}.substr(0, static_cast<std::size_t>(file.gcount())));
 }
 
-// A record that could not be written whole, or not flushed, leaves nothing of it, so that it can be asked for
-// again.
+// A record that could not be written whole, or not flushed, leaves nothing of itself: it can be tried again.
 void takeBack(const fs::path& path, bool isNew, std::uintmax_t size) {
     std::error_code error;
     if (isNew)

@@ -47,8 +47,8 @@ std::filesystem::path folderOnDisk(Folder folder);
 /// Fails on a name that is no file name.
 std::filesystem::path pathOnDisk(const FilePlace& place);
 
-/// The names of the folder's files that end in `extension` (".pmd"), in any case, sorted; none for a missing
-/// folder.
+/// The names of the folder's files that end in `extension` (".pmd"), in any case, sorted. A missing folder
+/// has none.
 std::vector<Text> filesIn(Folder folder, TextView extension);
 
 /// True where the file is there, whether or not it can be read.
@@ -131,7 +131,7 @@ void putInPlaceTogether(PreparedFile& first, PreparedFile& second);
 void appendToFile(const FilePlace& place, TextView content);
 
 /// Lines of a text, whether they end in LF or CR LF. A last line without an end counts; an end of the text
-/// behind a line end does not start another line.
+/// after a line end does not start another line.
 class LineReader {
 public:
     explicit LineReader(TextView content) : rest_(content) {}

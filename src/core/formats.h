@@ -2,8 +2,7 @@
 //
 // A number format such as "##.0": '#' is an optional digit, '0' a forced one, rounding on the exact binary
 // value, halves away from zero, at the last place shown. The point always stands: "##.#" of 5 is "5.", "##.0"
-// of 0.5 is ".5".
-// '%' multiplies by 100; blanks and other text stand as they are.
+// of 0.5 is ".5". '%' multiplies by 100; blanks and other text stand as they are.
 //
 // An alignment such as "@@@@" right-aligns a text in blanks to the number of signs; a longer text stays
 // whole, and text round the signs ("@@@%") stands as it is.
@@ -41,9 +40,9 @@ public:
     static constexpr int mostDecimals = 3;
 
     TextView prefix;        ///< text in front of the digits
-    TextView suffix;        ///< text behind them
+    TextView suffix;        ///< text after them
     int forcedWhole = 0;    ///< digits that stand before the point at the least
-    int decimals = 0;       ///< digits behind the point at the most
+    int decimals = 0;       ///< digits after the point at the most
     int forcedDecimals = 0; ///< and at the least
     bool point = false;
     bool percent = false;

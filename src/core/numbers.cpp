@@ -11,7 +11,7 @@ namespace {
 
 constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
-// What a text begins with, behind its blanks: a number without an exponent.
+// What a text begins with, after its blanks: a number without an exponent.
 struct Leading {
     double value = 0;
     std::size_t length = 0; ///< characters up to the number's end, blanks in front included
@@ -21,16 +21,14 @@ struct Leading {
 constexpr double tens[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                            1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
-// A number of more digits than fit an integer exactly, or with an exponent; infinite when it is beyond a
-// double.
+// A number with an exponent, or of more digits than fit an integer; infinite when it is beyond a double.
 double converted(TextView digits) {
     double value = 0;
     const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
     return result.ec == std::errc::result_out_of_range ? std::numeric_limits<double>::infinity() : value;
 }
 
-// Nearly all numbers have few digits: those are read exactly in integers, with at most one division at the
-// end.
+// Nearly all numbers have few digits: those are read exactly in integers, with one division at the most.
 Leading leadingNumber(TextView text) {
     const char* const begin = text.data();
     const char* const end = begin + text.size();
@@ -61,7 +59,7 @@ Leading leadingNumber(TextView text) {
     return {negative ? -value : value, static_cast<std::size_t>(at - begin), true};
 }
 
-// The exponent behind a number's digits: its length, 0 where there is none.
+// The exponent after a number's digits: its length, 0 where there is none.
 std::size_t exponentLength(TextView text) {
     if (text.empty() || (text[0] != 'e' && text[0] != 'E')) return 0;
     std::size_t at = 1;

@@ -15,8 +15,8 @@ using Integer = std::int16_t;
 /// follows is ignored ("1A" is 1, "8/5" is 8). 0 when there is none. No exponent, no thousands separator.
 double lenientNumber(TextView text);
 
-/// The number that a text is, with nothing but blanks round it (an exponent is accepted); nothing for other
-/// texts.
+/// The number that a text is, with nothing but blanks round it (an exponent is accepted); nothing for any
+/// other text.
 std::optional<double> numberIn(TextView text);
 
 /// The number that a text is; fails on any text that numberIn() gives nothing for, the empty one too.
@@ -35,7 +35,7 @@ double quotient(double dividend, double divisor);
 /// leading 0 before the point, no point for a whole number.
 Text numberText(double number);
 
-/// A number in a print list: a blank (or its minus sign) before it and a blank behind it.
+/// A number in a print list: a blank (or its minus sign) before it and a blank after it.
 Text listNumber(double number);
 
 } // namespace quillon

@@ -29,7 +29,7 @@ TextView leftOf(TextView text, int count);
 /// The last `count` characters, all of them when there are fewer. A negative count fails.
 TextView rightOf(TextView text, int count);
 
-/// `count` characters from `place`, counted from 1; what lies behind the end is left out.
+/// `count` characters from `place`, counted from 1; what lies beyond the end is left out.
 /// A place below 1 or a negative count fails.
 TextView midOf(TextView text, int place, int count);
 
