@@ -2,6 +2,7 @@
 
 #include "card/fields.h"
 #include "core/failure.h"
+#include "core/journal.h"
 
 #include <algorithm>
 #include <string>
@@ -14,6 +15,24 @@ RaceCard card;
 LineCursor cursor;
 
 namespace {
+
+// "race 3, entry 5, line 2" of the cursor, as far as it stands anywhere.
+Text placeOnCard() {
+    Text place;
+    const auto append = [&](const char* name, int index) {
+        if (index == 0) return;
+        place += place.empty() ? "" : ", ";
+        place += name;
+        place += ' ';
+        place += std::to_string(index);
+    };
+    append("race", cursor.race);
+    append("entry", cursor.entry);
+    append("line", cursor.line);
+    return place;
+}
+
+[[maybe_unused]] const bool placeIsTold = (placeOfFaults = placeOnCard, true);
 
 std::size_t columnAt(int column) {
     if (column < 0 || column >= lineCellColumns) fail("column " + std::to_string(column) + " is no cell's");

@@ -33,4 +33,7 @@ private:
 
 extern FaultJournal journal;
 
+/// Where the running step stands, in words for the journal; "" where it stands nowhere. The store sets it.
+extern Text (*placeOfFaults)();
+
 } // namespace quillon
