@@ -246,7 +246,7 @@ TEST_F(ShowTest, ButtonsThatShow) {
 
 TEST_F(ShowTest, TheStartButtonAlone) {
     for (Button& button : screen.raceButtons) button.visible = false;
-    screen.start.caption = "Start";
+    screen.offer(StartOffer::load);
     EXPECT_EQ("start=Start\n", shownPart("buttons"));
 }
 

@@ -110,7 +110,7 @@ TEST_F(CardLoadTest, ARaceTableThatIsNoTableIsNone) {
 
 TEST_F(CardLoadTest, OnARecalledCardStartReadsNoTable) {
     oneHorse({{}});
-    screen.start.caption = "View Races";
+    screen.offer(StartOffer::viewRaces);
     card.raceInfo(1).purse = "as recalled";
     Start();
     EXPECT_EQ("as recalled", card.raceInfo(1).purse);

@@ -27,7 +27,7 @@ protected:
         card.clear();
         cursor = {};
         screen.clear();
-        screen.start.caption = "Start";
+        screen.offer(StartOffer::load);
         for (Button& button : screen.raceButtons) button = {.visible = false};
         for (Button& button : screen.entryButtons) button.enabled = false;
     }

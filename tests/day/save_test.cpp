@@ -215,7 +215,7 @@ TEST_F(SaveTest, ALoadedCardJoinsThemAnewInEachSave) {
 }
 
 TEST_F(SaveTest, ARecalledCardKeepsADistanceThatTheRecallShortened) {
-    screen.start.caption = "View Races";
+    screen.offer(StartOffer::viewRaces);
     card.raceInfo(1).raceLabelDistance = "71 1/16"; // which a recall splits into "7" and "1/16"
     card.raceInfo(1).label = "7";
     card.raceInfo(1).distance = "1/16";

@@ -74,6 +74,7 @@ TEST_F(SnapshotTest, PuttingBackShowsEverythingAsItStood) {
 }
 
 TEST_F(SnapshotTest, ResettingIsAFreshProgram) {
+    StartUp();
     const std::string fresh = everythingShown();
     start(randomCard(3, false), 3);
     changeTheCard();

@@ -18,7 +18,7 @@ protected:
     RaceDisplayTest() {
         card.raceCount = 12;
         card.cardFileName = "M1_20260314.pmd";
-        screen.start.caption = "Select Race";
+        screen.offer(StartOffer::selectRace);
         for (int race = 1; race <= 25; ++race) {
             const Text number = std::to_string(race);
             card.raceInfo(race) = {.label = number + "A",
@@ -151,7 +151,7 @@ TEST_F(RaceDisplayTest, TheHeatMarkAndItsButtonsGoAndTheEntrysFrameCloses) {
 TEST_F(RaceDisplayTest, TheDataViewIsShownOnlyWhileTheStartButtonReadsStart) {
     RaceButton(7);
     EXPECT_FALSE(screen.dataViewVisible[7]);
-    screen.start.caption = "Start";
+    screen.offer(StartOffer::load);
     RaceButton(7);
     EXPECT_TRUE(screen.dataViewVisible[7]);
 }
