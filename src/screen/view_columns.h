@@ -49,7 +49,89 @@ struct SummaryRow {
     enum Number { totals = 21, percentages = 22 };
 };
 
+/// Columns of a betting profile; a row below the totals is a card.
+struct ProfileColumn {
+    enum Number {
+        card, ///< its key; the labels of the rows above the cards
+        races,
+        s1Wins,
+        s2Wins,
+        s3Wins,
+        s4Wins,
+        win,
+        place,
+        show,
+        exacta1With2,
+        exactaBox12,
+        exacta1With23,
+        exactaBox123,
+        exactaBox1234,
+        trifecta1With23,
+        trifecta1With234,
+        trifectaBox123,
+        superfecta1With234,
+        superfecta2With134,
+        superfectaBox1234,
+        superfectaRaces, ///< figures without a head
+        count
+    };
+};
+
+/// Rows of a betting profile.
+struct ProfileRow {
+    enum Number {
+        heads,
+        winAmount = 2,
+        adjustedWin,
+        totalBet,
+        netProfit,
+        roi,
+        winningCards = 8,
+        counts,
+        percentages,
+        firstCard
+    };
+};
+
+/// Columns of the tracks profile: a table of tracks and beside it one of course sizes.
+struct TrackColumn {
+    enum Number { track, races, wins, percentage, size = 6, sizeRaces, sizeWins, sizePercentage, count };
+};
+
+/// Columns of the pick results; rows are races by their index.
+struct PickColumn {
+    enum Number {
+        race,
+        s1,
+        s2,
+        s3,
+        s4,
+        afterPicks,
+        firstWinner, ///< of the leg; the others shared the win
+        secondWinner,
+        thirdWinner,
+        fourthWinner,
+        afterWinners,
+        dailyDouble,
+        pick3,
+        pick4,
+        pick5,
+        pick6,
+        pick10, ///< the last column that is shown
+        count = 20
+    };
+};
+
+/// Columns of the stars profile; a row is a recorded race.
+struct StarColumn {
+    enum Number { card, race, margin, decimalOdds, odds, bet, payoff, win, count };
+};
+
 /// Heads, widths and alignments by column.
 std::span<const ViewColumn> summaryColumns();
+std::span<const ViewColumn> profileColumns();
+std::span<const ViewColumn> trackColumns();
+std::span<const ViewColumn> pickColumns();
+std::span<const ViewColumn> starColumns();
 
 } // namespace quillon
