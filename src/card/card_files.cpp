@@ -5,6 +5,16 @@
 
 namespace quillon {
 
+TextView cardNameOf(TextView fileName) { return fileName.substr(0, fileName.find('.')); }
+
+TextView cardTrackOf(TextView fileName) { return leftOf(fileName, placeOf("_", fileName) - 1); }
+
+TextView cardDateOf(TextView fileName) {
+    constexpr int dateLength = 8;
+    const int gap = placeOf("_", fileName);
+    return gap == 0 ? TextView{} : midOf(fileName, gap + 1, dateLength);
+}
+
 FilePlace cardFile(Folder folder, TextView extension) {
     const int point = placeOf(".", card.cardFileName);
     if (point == 0) fail("no card is open");

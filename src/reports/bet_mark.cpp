@@ -29,10 +29,19 @@ constexpr std::array betMarks{
 
 } // namespace
 
+double gapAfterS1(int race) {
+    return lenientNumber(rankedRow(race, 2).pr) - lenientNumber(rankedRow(race, 1).pr);
+}
+
+double oddsOf(TextView morningLine) {
+    const TextView dividend = leftOf(morningLine, placeOf("/", morningLine) - 1);
+    return quotient(lenientNumber(dividend), lenientNumber(rightOf(morningLine, 1)));
+}
+
 // A margin of 9.9 and the residue of a level pair once looked alike ("9.9E-02"), so both are as good as
 // level.
 Text marginOf(int race) {
-    const Text text = numberText(lenientNumber(rankedRow(race, 2).pr) - lenientNumber(rankedRow(race, 1).pr));
+    const Text text = numberText(gapAfterS1(race));
     return text.starts_with("9.9") ? "0.01" : Text{leftOf(text, 4)};
 }
 

@@ -58,12 +58,6 @@ Gaps gapsOf(int race) {
     return gaps;
 }
 
-// A morning line in whole points: 10/1 is 10, 5/2 and 9/5 are 2. Of the divisor only the last digit is read.
-Integer wholeOdds(TextView morningLine) {
-    const TextView dividend = leftOf(morningLine, placeOf("/", morningLine) - 1);
-    return toInteger(quotient(lenientNumber(dividend), lenientNumber(rightOf(morningLine, 1))));
-}
-
 // The percentage of past wins never came into use; the stars profile counts them instead.
 void WinPct() {}
 
@@ -122,7 +116,7 @@ void addRace(ReportWriter& sheet, ReportWriter& stars, int race, Integer& odds) 
     sheet.line("{}", info.wagering);
     sheet.line(sheetHeading);
     if (contains(rankedRow(race, 1).ml, "/"))
-        attempt([&] { odds = wholeOdds(rankedRow(race, 1).ml); });
+        attempt([&] { odds = toInteger(oddsOf(rankedRow(race, 1).ml)); });
     else
         passOver(); // nobody was rated
     WinPct();

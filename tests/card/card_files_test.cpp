@@ -26,6 +26,29 @@ TEST_F(CardFilesTest, NamesAFileByTheCardUpToItsFirstPoint) {
     }
 }
 
+TEST_F(CardFilesTest, ANameTellsTrackAndDate) {
+    struct Row {
+        const char* fileName;
+        const char* name;
+        const char* track;
+        const char* date;
+    };
+    constexpr Row rows[] = {
+        {"M1_20260314.pmd", "M1_20260314", "M1", "20260314"},
+        {"PcDwn_20260314.pmd2", "PcDwn_20260314", "PcDwn", "20260314"},
+        {"M1_2026.03.pmd", "M1_2026", "M1", "2026.03."}, // eight characters, whatever they are
+        {"M1_2026", "M1_2026", "M1", "2026"},
+        {"_20260314.pmd", "_20260314", "", "20260314"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(row.name, cardNameOf(row.fileName));
+        EXPECT_EQ(row.track, cardTrackOf(row.fileName));
+        EXPECT_EQ(row.date, cardDateOf(row.fileName));
+    }
+    EXPECT_EQ("", cardDateOf("M1.pmd"));
+    EXPECT_FALSE(attempt([] { cardTrackOf("M1.pmd"); }));
+}
+
 TEST_F(CardFilesTest, FailsWithNoCardOpen) {
     bool reached = false;
     EXPECT_FALSE(attempt([&] { reached = !cardFile(Folder::selections, "pms").name.empty(); }));
