@@ -31,6 +31,12 @@ void showAnalysisView(bool Screen::*view) {
     screen.item(MenuItem::MainScreen).visible = true;
 }
 
+void layOut(Grid& view, int rows, std::span<const ViewColumn> columns) {
+    view.bind(rows, static_cast<int>(columns.size()), nullptr);
+    const auto heads = view.cellsOf(0);
+    for (std::size_t column = 0; column < columns.size(); ++column) heads[column].text = columns[column].head;
+}
+
 void MainScreen() {
     const Step step{"MainScreen"};
     for (const std::size_t workView : {std::size_t{pastPerformanceView}, std::size_t{0}}) {

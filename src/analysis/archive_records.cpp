@@ -1,95 +1,92 @@
 #include "analysis/archive_records.h"
 
-#include "analysis/summary.h"
+#include "analysis/archive_scan.h"
+#include "card/card_files.h"
 #include "card/race_card.h"
 #include "core/failure.h"
-#include "core/files.h"
 #include "core/formats.h"
+#include "reports/bet_mark.h"
 #include "reports/report_writer.h"
 #include "screen/screen.h"
+#include "screen/view_columns.h"
 
 #include <array>
 
 namespace quillon {
 namespace {
 
-constexpr int keyLength = 14;
-constexpr int trackLength = 5;
-constexpr int datePlace = 7;
-constexpr int dateLength = 8;
-
-constexpr int winPayCell = 1;
 constexpr double winBet = 6; ///< a bet of 12 in units of the track's 2
 
 // clang-format off
-/// What stands behind a card's key and number of races: cells of the summary's totals row.
-struct ArchiveField { int column; int width; };
-constexpr std::array archiveFields{
-    ArchiveField{ 1,  5}, ArchiveField{ 2,  5}, ArchiveField{ 3,  5}, ArchiveField{ 4,  5}, // wins
-    ArchiveField{11,  9}, ArchiveField{12,  9}, ArchiveField{13,  9}, // Win, Place, Show
-    ArchiveField{15,  9}, ArchiveField{16,  9}, ArchiveField{17,  9}, // E1/2, E1-2, E1/2-3
-    ArchiveField{18,  9}, ArchiveField{19,  9},                       // E1-2-3, E1-2-3-4
-    ArchiveField{22,  9}, ArchiveField{23,  9}, ArchiveField{24,  9}, // T1/2-3, T1/2-3-4, T1-2-3
-    ArchiveField{26, 10}, ArchiveField{28, 10}, ArchiveField{27, 10}, // S1/2-3-4, S1-2-3-4, S2-1/3-4
+/// The totals of the summary in the order of the archive's wins and sums.
+constexpr std::array winTotals{
+    SummaryColumn::s1, SummaryColumn::s2, SummaryColumn::s3, SummaryColumn::s4,
 };
+constexpr std::array sumTotals{
+    SummaryColumn::win,                SummaryColumn::place,             SummaryColumn::show,
+    SummaryColumn::exacta1With2,       SummaryColumn::exactaBox12,       SummaryColumn::exacta1With23,
+    SummaryColumn::exactaBox123,       SummaryColumn::exactaBox1234,
+    SummaryColumn::trifecta1With23,    SummaryColumn::trifecta1With234,  SummaryColumn::trifectaBox123,
+    SummaryColumn::superfecta1With234, SummaryColumn::superfectaBox1234, SummaryColumn::superfecta2With134,
+};
+static_assert(winTotals.size() == archivePlaces::wins.size());
+static_assert(sumTotals.size() == archivePlaces::sums.size());
 
 //                                  race    margin    odds   line     bet      return of a winner
 constexpr const char* starLine   = "               @@@     @@@@@@    @@@@@  {}      12.00";
 constexpr const char* winnerPart = "    @@@@@@@@1";
 // clang-format on
 
-FilePlace archiveFile() { return {Folder::working, "HRA.ini"}; }
-FilePlace starsFile() { return {Folder::working, "Stars5.ini"}; }
+Text totalField(SummaryColumn::Number column, Places places) {
+    return rightAligned(screen.summary.read(SummaryRow::totals, column).text, places.width);
+}
 
 Text archiveLine() {
     Text line = archiveKey(card.cardFileName);
     line += aligned("@@@", std::to_string(card.raceCount));
-    for (const ArchiveField& field : archiveFields)
-        line += rightAligned(screen.summary.read(totalsRow, field.column).text, field.width);
+    for (std::size_t at = 0; at < winTotals.size(); ++at)
+        line += totalField(winTotals[at], archivePlaces::wins[at]);
+    for (std::size_t at = 0; at < sumTotals.size(); ++at)
+        line += totalField(sumTotals[at], archivePlaces::sums[at]);
     line += aligned("@@@", std::to_string(card.superfectaRaces));
     return line += crLf;
 }
 
 // How far S1 stands before S2, cut to the characters that a margin has. Level horses are set apart by a
 // trace, which the one decimal of the record then leaves out.
-Text margin(int race) {
+Text recordedMargin(double gap) {
     constexpr double level = 0.01;
     constexpr double twoDigits = 10;
-    const double gap = lenientNumber(card.selection(race, 2).selectionRating) -
-                       lenientNumber(card.selection(race, 1).selectionRating);
     const Text shown = numberText(gap == 0 ? level : gap);
     return formatted(" ##.# ", leftOf(shown, gap < twoDigits ? 3 : 4));
 }
 
-// The morning line as a number: 5/2 is 2.5. Of the divisor only the last digit is read.
-Text decimalOdds(TextView morningLine) {
+Text recordedOdds(double odds) {
     constexpr int shownCharacters = 5;
-    const TextView dividend = leftOf(morningLine, placeOf("/", morningLine) - 1);
-    const double odds = quotient(lenientNumber(dividend), lenientNumber(rightOf(morningLine, 1)));
     return formatted("##.00", leftOf(numberText(odds), shownCharacters));
 }
 
 bool wonByS1(int race) {
-    return lenientNumber(screen.summary.read(race, firstFinisherColumn).text) ==
-           lenientNumber(screen.summary.read(race, firstSelectionColumn).text);
+    return lenientNumber(screen.summary.read(race, SummaryColumn::r1).text) ==
+           lenientNumber(screen.summary.read(race, SummaryColumn::s1).text);
 }
 
 Text winReturn(int race) {
-    return formatted(" ###.00  ", lenientNumber(card.payoffRecord(race, winPayCell)) * winBet);
+    return formatted(" ###.00  ", lenientNumber(card.payoffRecord(race, PayoffCell::win)) * winBet);
 }
 
 void addStarRecord(ReportWriter& stars, int race) {
     const Text& morningLine = card.selection(race, 1).selectionOdds;
-    const Text odds = decimalOdds(morningLine);
+    const Text odds = recordedOdds(oddsOf(morningLine));
     const Text returned = wonByS1(race) ? winReturn(race) : Text{};
-    stars.part(starLine, formatted("## ", race), margin(race), odds, morningLine);
+    stars.part(starLine, formatted("## ", race), recordedMargin(gapAfterS1(race)), odds, morningLine);
     if (!returned.empty()) stars.part(winnerPart, returned);
     stars.endLine();
 }
 
 void addStarRecords(ReportWriter& stars) {
     if (card.raceCount < 1) return;
-    stars.line("{}", leftOf(card.cardFileName, placeOf(".", card.cardFileName) - 1));
+    stars.line("{}", cardNameOf(card.cardFileName));
     for (int race = 1; race <= card.raceCount; ++race) addStarRecord(stars, race);
 }
 
@@ -98,22 +95,20 @@ void addStarRecords(ReportWriter& stars) {
 Text archiveKey(TextView cardFileName) {
     constexpr int extensionLength = 4;
     const TextView name = leftOf(cardFileName, static_cast<int>(cardFileName.size()) - extensionLength);
-    return rightAligned(leftOf(name, keyLength), keyLength);
+    return rightAligned(leftOf(name, archivePlaces::key.width), archivePlaces::key.width);
 }
 
 // Track and date tell a card, so that a line that was edited by hand still does. The key itself counts too:
 // it holds neither at its place for a card whose name ends in ".pmd2".
 bool isArchived(TextView cardFileName) {
     const Text key = archiveKey(cardFileName);
-    const int gap = placeOf("_", cardFileName);
-    const TextView track = leftOf(cardFileName, gap - 1);
-    const TextView date = midOf(cardFileName, gap + 1, dateLength);
-    const auto archive = fileContent(archiveFile());
+    const TextView track = cardTrackOf(cardFileName);
+    const TextView date = cardDateOf(cardFileName);
+    const auto archive = fileContent(archivePlace());
     if (!archive) return false;
     LineReader lines{*archive};
     while (const auto line = lines.next()) {
-        const bool sameCard =
-            trimmed(leftOf(*line, trackLength)) == track && midOf(*line, datePlace, dateLength) == date;
+        const bool sameCard = trackIn(*line) == track && cellIn(*line, archivePlaces::date) == date;
         if (sameCard || line->starts_with(key)) return true;
     }
     return false;
@@ -121,11 +116,11 @@ bool isArchived(TextView cardFileName) {
 
 void Record() {
     const Step step{"Record"};
-    appendToFile(archiveFile(), archiveLine());
+    appendToFile(archivePlace(), archiveLine());
     screen.record.enabled = false;
     ReportWriter stars;
     attempt([&] { addStarRecords(stars); }); // a race that can't be told ends them; those before it are kept
-    if (!stars.content().empty()) appendToFile(starsFile(), stars.content());
+    if (!stars.content().empty()) appendToFile(starsPlace(), stars.content());
 }
 
 } // namespace quillon

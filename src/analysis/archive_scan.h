@@ -23,6 +23,7 @@ struct Places {
 namespace archivePlaces {
 inline constexpr Places track{1, 5};
 inline constexpr Places key{1, 14};   ///< track, "_" and date (yyyymmdd)
+inline constexpr Places date{7, 8};
 inline constexpr Places races{15, 3};
 inline constexpr std::array wins{Places{18, 5}, Places{23, 5}, Places{28, 5}, Places{33, 5}}; ///< of S1 to S4
 inline constexpr std::array sums{     ///< of the track's $2 payoffs, a bet type each
@@ -48,6 +49,7 @@ TextView cellIn(TextView line, Places places);
 TextView trackIn(TextView line); ///< trimmed
 
 inline FilePlace archivePlace() { return {Folder::working, "HRA.ini"}; }
+inline FilePlace starsPlace() { return {Folder::working, "Stars5.ini"}; } ///< a line a race
 
 /// The lines of a file from its first to its last, read in blocks.
 class LinesForwards {

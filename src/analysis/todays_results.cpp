@@ -1,12 +1,12 @@
 #include "analysis/todays_results.h"
 
-#include "analysis/summary.h"
 #include "card/race_card.h"
 #include "core/failure.h"
 #include "core/files.h"
 #include "core/numbers.h"
 #include "reports/report_writer.h"
 #include "screen/screen.h"
+#include "screen/view_columns.h"
 
 #include <algorithm>
 #include <array>
@@ -28,18 +28,19 @@ constexpr const char* totalsMargin = "       ";
 /// What a field shows where its cell is not above 0.
 enum class Otherwise { theCell, theFieldBefore, blanks };
 
-/// Columns of the summary as fields of a line, one behind the other; columns not named here have no field,
+/// Columns of the summary as fields of a line, one after the other; columns not named here have no field,
 /// S1-2-3-4 among them, which has a heading all the same.
-struct Fields { int first; int last; int width; Otherwise otherwise; };
+struct Fields { SummaryColumn::Number first; SummaryColumn::Number last; int width; Otherwise otherwise; };
 constexpr std::array fields{
-    Fields{ 0,  0,  7, Otherwise::theCell},        // label of the race
-    Fields{ 1,  4,  4, Otherwise::theFieldBefore}, // S1 to S4: no wins repeat those of the selection before
-    Fields{ 5,  5,  2, Otherwise::blanks},         // between selections and results
-    Fields{ 6,  9,  4, Otherwise::blanks},         // R1 to R4
-    Fields{11, 13,  8, Otherwise::blanks},         // Win, Place, Show
-    Fields{15, 19,  9, Otherwise::blanks},         // exactas
-    Fields{22, 24, 10, Otherwise::blanks},         // trifectas
-    Fields{26, 27, 11, Otherwise::blanks},         // superfectas
+    Fields{SummaryColumn::label,              SummaryColumn::label,               7, Otherwise::theCell},
+    // No wins repeat those of the selection before.
+    Fields{SummaryColumn::s1,                 SummaryColumn::s4,                  4, Otherwise::theFieldBefore},
+    Fields{SummaryColumn::afterSelections,    SummaryColumn::afterSelections,     2, Otherwise::blanks},
+    Fields{SummaryColumn::r1,                 SummaryColumn::r4,                  4, Otherwise::blanks},
+    Fields{SummaryColumn::win,                SummaryColumn::show,                8, Otherwise::blanks},
+    Fields{SummaryColumn::exacta1With2,       SummaryColumn::exactaBox1234,       9, Otherwise::blanks},
+    Fields{SummaryColumn::trifecta1With23,    SummaryColumn::trifectaBox123,     10, Otherwise::blanks},
+    Fields{SummaryColumn::superfecta1With234, SummaryColumn::superfecta2With134, 11, Otherwise::blanks},
 };
 // clang-format on
 
@@ -76,16 +77,16 @@ void addHead(ReportWriter& report) {
 
 // Totals stand on their own lines, seven places to the right of their headings.
 void addTotals(ReportWriter& report) {
-    addRow(report, totalsMargin, totalsRow);
+    addRow(report, totalsMargin, SummaryRow::totals);
     addRule(report);
     report.returnLine();
-    addRow(report, totalsMargin, percentagesRow);
+    addRow(report, totalsMargin, SummaryRow::percentages);
     addRule(report);
 }
 
 // A card that starts above race 1 is reported without totals, but for one of as many races as the totals' row
 // is numbered.
-bool hasTotals() { return card.raceOffset == 0 || card.raceCount == totalsRow; }
+bool hasTotals() { return card.raceOffset == 0 || card.raceCount == SummaryRow::totals; }
 
 } // namespace
 
@@ -96,7 +97,7 @@ void TodaysResults() {
     const int lastRace = std::min<int>(card.raceCount, screen.summary.rows() - 1);
     for (int race = 1; race <= lastRace; ++race) addRow(report, "", race);
     addRule(report);
-    // Races 21 and 22 lie on the rows of the totals. Such a card too has its totals once behind its last
+    // Races 21 and 22 lie on the rows of the totals. Such a card too has its totals once after its last
     // race.
     if (hasTotals()) addTotals(report);
     writeFile({Folder::working, "Todays Results.txt"}, report.content());

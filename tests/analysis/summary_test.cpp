@@ -533,7 +533,7 @@ TEST_F(SummaryTest, PercentagesAreOfTheRacesOfTheCard) {
         for (int r = 1; r <= 12; ++r)
             race(r, {"1", "2", "3", "4"}, {r <= row.wins ? "1" : "9", "8", "7", "6"});
         SelectionResults();
-        EXPECT_EQ(row.percentage, cell(percentagesRow, 1)) << row.wins << " of " << row.races;
+        EXPECT_EQ(row.percentage, cell(SummaryRow::percentages, 1)) << row.wins << " of " << row.races;
         EXPECT_EQ(std::to_string(row.wins), total(1));
     }
 }
@@ -543,7 +543,8 @@ TEST_F(SummaryTest, ACardOfNoRacesHasTotalsWithoutPercentages) {
     SelectionResults();
     EXPECT_EQ("0", total(1));
     EXPECT_EQ(".00", total(11));
-    for (int column = 0; column <= 4; ++column) EXPECT_EQ("", cell(percentagesRow, column)) << column;
+    for (int column = 0; column <= 4; ++column)
+        EXPECT_EQ("", cell(SummaryRow::percentages, column)) << column;
     EXPECT_TRUE(shown.empty());
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "analysis/summary.h"
+#include "screen/view_columns.h"
 #include "support/card_test.h"
 
 #include <array>
@@ -46,7 +47,7 @@ protected:
     }
 
     static Text cell(int row, int column) { return screen.summary.read(row, column).text; }
-    static Text total(int column) { return cell(totalsRow, column); }
+    static Text total(int column) { return cell(SummaryRow::totals, column); }
 };
 
 } // namespace quillon

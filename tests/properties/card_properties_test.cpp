@@ -1,7 +1,6 @@
 // What holds on every card, tried on thousands of random ones.
 #include "random_night.h"
 
-#include "analysis/summary.h"
 #include "app/start_up.h"
 #include "core/formats.h"
 #include "core/numbers.h"
@@ -11,6 +10,7 @@
 #include "reports/pick_sheet.h"
 #include "reports/selection_sheet.h"
 #include "results/board.h"
+#include "screen/view_columns.h"
 
 #include <gtest/gtest.h>
 
@@ -199,7 +199,7 @@ void expectSumsOfCells() {
     for (const int column : {11, 12, 13, 15, 16, 17, 18, 19, 22, 23, 24, 26, 27, 28}) {
         std::int64_t cents = 0;
         for (int race = 1; race <= 20; ++race) cents += centsIn(screen.summary.read(race, column).text);
-        EXPECT_EQ(cents, centsIn(screen.summary.read(totalsRow, column).text)) << "column " << column;
+        EXPECT_EQ(cents, centsIn(screen.summary.read(SummaryRow::totals, column).text)) << "column " << column;
     }
 }
 
@@ -208,10 +208,10 @@ void expectCountsOfMarks() {
         int wins = 0;
         for (int race = 1; race <= 20; ++race)
             wins += screen.summary.read(race, column).background == recentYellow;
-        EXPECT_EQ(std::to_string(wins), screen.summary.read(totalsRow, column).text) << "column " << column;
+        EXPECT_EQ(std::to_string(wins), screen.summary.read(SummaryRow::totals, column).text) << "column " << column;
         const int hundredths = 100 * wins / card.raceCount;
         const int rounded = hundredths + (2 * (100 * wins % card.raceCount) >= card.raceCount ? 1 : 0);
-        const Text shownShare = screen.summary.read(percentagesRow, column).text;
+        const Text shownShare = screen.summary.read(SummaryRow::percentages, column).text;
         EXPECT_EQ(rounded, static_cast<int>(lenientNumber(shownShare))) << "column " << column;
     }
 }
@@ -229,7 +229,7 @@ TEST_F(CardProperties, TheTotalsOfTheSummaryAreTheSumsOfItsCells) {
         for (int race = 1; race <= 20; ++race) twice |= paysTwice(race);
         if (twice) continue;
         ++checked;
-        paid += centsIn(screen.summary.read(totalsRow, 11).text) > 0;
+        paid += centsIn(screen.summary.read(SummaryRow::totals, 11).text) > 0;
         expectSumsOfCells();
         expectCountsOfMarks();
     }
