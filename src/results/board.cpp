@@ -2,43 +2,41 @@
 
 #include "card/race_card.h"
 #include "core/failure.h"
+#include "reports/bet_mark.h"
 #include "results/heat_slots.h"
 #include "screen/race_views.h"
 #include "screen/screen.h"
 
 #include <algorithm>
-#include <array>
-#include <utility>
+#include <cmath>
 
 namespace quillon {
 namespace {
 
 constexpr int boxCount = 8;
-constexpr int echoedBox = 10;
+constexpr int lastToteBox = 11;
 constexpr int normalisedRaces = 25;
-constexpr std::array normalisedCells{1, 2, 3, 4, 5, 6}; ///< Win, Place and Show payoffs
-constexpr std::array cellsOfTheirBoxes{1, 2, 3, 4, 5, 6, 7, 8, 9, 11};
 
 constexpr int deadHeat = 2; ///< "1st" or "2nd" lines that make one
 constexpr int besideWin = 1;
 constexpr int besidePlace = 2;
 
 /// A dead heat as the board shows it: where box 10 stands, who shared the place with the horse in front of
-/// him (a cell of the outcome), and the payoff that becomes S1's.
+/// him, and the payoff that becomes S1's.
 struct SharedPlace {
     int boxTenColumn;
-    int otherHorse;
-    int payoff;
+    OutcomeCell::Number otherHorse;
+    PayoffCell::Number payoff;
 };
-constexpr SharedPlace sharedWin{besideWin, 6, 1};
-constexpr SharedPlace sharedSecond{besidePlace, 7, 4};
+constexpr SharedPlace sharedWin{besideWin, OutcomeCell::r2, PayoffCell::win};
+constexpr SharedPlace sharedSecond{besidePlace, OutcomeCell::r3, PayoffCell::place2};
 
-/// A payoff that begins with a zero loses it, by way of the Place payoff: any cell so typed ends as the tail
-/// of cell 2, which is right for cell 2 alone.
+/// A Win, Place or Show payoff that begins with a zero loses it, by way of the winner's Place payoff: any
+/// cell so typed ends as the tail of that one, which is right for itself alone.
 void dropLeadingZeros() {
     for (int race = 1; race <= normalisedRaces; ++race) {
-        const Text& placePay = card.payoffRecord[{race, 2}];
-        for (const int cell : normalisedCells) {
+        const Text& placePay = card.payoffRecord[{race, PayoffCell::place1}];
+        for (int cell = PayoffCell::win; cell <= PayoffCell::show3; ++cell) {
             Text& payoff = card.payoffRecord[{race, cell}];
             if (payoff.empty() || payoff.front() != '0') continue;
             payoff = Text{rightOf(placePay, static_cast<int>(payoff.size()) - 1)};
@@ -48,10 +46,10 @@ void dropLeadingZeros() {
 
 void storeBoard(int race) {
     for (int box = 0; box < boxCount; ++box)
-        attempt([&] { card.raceOutcome(race, box + 1) = trimmed(screen.boxes.at(box).text); });
+        attempt([&] { card.raceOutcome(race, cellOfBox(box)) = trimmed(screen.boxes.at(box).text); });
     for (const int cell : cellsOfTheirBoxes)
         attempt([&] { card.payoffRecord(race, cell) = trimmed(screen.tote.at(cell)); });
-    attempt([&] { card.payoffRecord(race, boxTenEchoCell) = trimmed(screen.tote.at(echoedBox)); });
+    attempt([&] { card.payoffRecord(race, PayoffCell::boxTenEcho) = trimmed(screen.tote.at(deadHeatBox)); });
     attempt([&] { card.raceInfo(race).trackCode = screen.header.track.caption; });
 }
 
@@ -60,7 +58,7 @@ void storeBoard(int race) {
 void payOtherHorse(int race, const SharedPlace& place) {
     const double topSelection = lenientNumber(screen.boxes[0].text);
     if (topSelection <= 0 || topSelection != lenientNumber(card.raceOutcome(race, place.otherHorse))) return;
-    card.payoffRecord(race, place.payoff) = card.payoffRecord(race, boxTenCell);
+    card.payoffRecord(race, place.payoff) = card.payoffRecord(race, PayoffCell::deadHeat);
     screen.tote.at(place.payoff) = card.payoffRecord(race, place.payoff);
 }
 
@@ -68,6 +66,13 @@ const SharedPlace* sharedPlace(int race) {
     if (card.placeHeat(race) == deadHeat) return &sharedSecond;
     if (card.winHeat(race) == deadHeat) return &sharedWin;
     return nullptr;
+}
+
+// In tenths, so that 60.0 and 60.2 are 0.2 apart and not a hair more.
+Colour gapColour(double gap) {
+    const double tenths = std::round(gap * 10);
+    if (tenths < 1) return closeMagenta;
+    return tenths <= 2 ? recentYellow : white;
 }
 
 } // namespace
@@ -88,7 +93,7 @@ bool boardHasUnkeptTyping() {
     // A heat shows its ranking where it has no selections of its own.
     const int firstBox = isHeat(race) && !hasSelections(race) ? firstFinishBox : 0;
     for (int box = firstBox; box < boxCount; ++box)
-        if (differs(screen.boxes.at(box).text, card.raceOutcome[{race, box + 1}])) return true;
+        if (differs(screen.boxes.at(box).text, card.raceOutcome[{race, cellOfBox(box)}])) return true;
     return std::any_of(cellsOfTheirBoxes.begin(), cellsOfTheirBoxes.end(), [&](int cell) {
         return differs(screen.tote.at(cell), card.payoffRecord[{race, cell}]);
     });
@@ -124,10 +129,18 @@ void TEXT_56() {
         screen.finishLabels[i] = screen.boxes[i + firstFinishBox].text;
 }
 
+void DeadHeat() {
+    const Step step{"DeadHeat"};
+    for (Box& box : screen.boxes) box.colour = white;
+    const int race = raceOnShow();
+    if (race == 0) return;
+    screen.boxes[0].colour = screen.boxes[1].colour = gapColour(gapAfterS1(race));
+}
+
 void TypeBox(int box, const Text& text) { setBox(box, text); }
 
 void TypeTote(int box, const Text& text) {
-    if (box < 1 || box > toteBoxesOfCells) fail("there is no payoff box " + std::to_string(box));
+    if (box < 1 || box > lastToteBox) fail("there is no payoff box " + std::to_string(box));
     screen.tote.at(box) = text;
 }
 

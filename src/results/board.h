@@ -1,22 +1,31 @@
 // The results board of the race on show: selections, finish and payoffs.
 //
-// Cells 1 to 8 of `card.raceOutcome` are the selection boxes 0 to 3 and the finish boxes 4 to 7; cell 9 is
-// the fifth horse and has no box. Cells 1 to 9 and 11 of `card.payoffRecord` are the "Tote Board" boxes of
-// the same number. Box 10 shows cell 20 (what a dead heat paid the other horse) and is taken back into cell
-// 12; cell 10 is the text of the "Refunds:" box, which only shows it.
+// Boxes 0 to 3 are the selections, 4 to 7 the finish; the fifth horse has no box. The "Tote Board" boxes have
+// the numbers of their payoff cells, but for box 10: it shows what a dead heat paid the other horse, and is
+// taken back into a cell of its own. The "Refunds:" box only shows its cell.
 #pragma once
 
+#include "card/columns.h"
 #include "core/text.h"
+
+#include <array>
 
 namespace quillon {
 
-constexpr int selectionBoxes = 4;    ///< boxes 0 to 3: S1 to S4
-constexpr int firstFinishBox = 4;    ///< boxes 4 to 7: first to fourth
-constexpr int boxTenCell = 20;       ///< the payoff cell that tote box 10 shows
-constexpr int boxTenEchoCell = 12;   ///< the payoff cell that takes what stood in it
-constexpr int refundCell = 10;       ///< the payoff cell of the "Refunds:" box
-constexpr int dailyDoubleCell = 11;  ///< the payoff cell of a daily-double line
-constexpr int toteBoxesOfCells = 11; ///< tote boxes 1 to 11, of which 10 is a special one
+constexpr int selectionBoxes = 4;               ///< boxes 0 to 3: S1 to S4
+constexpr int firstFinishBox = 4;               ///< boxes 4 to 7: first to fourth
+constexpr int deadHeatBox = 10;                 ///< tote box 10
+constexpr int refundCell = PayoffCell::refunds; ///< of the "Refunds:" box
+
+/// The outcome cell of a selection or finish box.
+constexpr int cellOfBox(int box) { return OutcomeCell::s1 + box; }
+
+/// The payoff cells that stand in the tote boxes of their numbers.
+inline constexpr std::array cellsOfTheirBoxes{
+    PayoffCell::win,        PayoffCell::place1,      PayoffCell::show1,  PayoffCell::place2,
+    PayoffCell::show2,      PayoffCell::show3,       PayoffCell::exacta, PayoffCell::trifecta,
+    PayoffCell::superfecta, PayoffCell::dailyDouble,
+};
 
 /// The race whose board is on show: the number that its label begins with ("1A" is race 1); 0 when none is.
 int raceOnShow();
@@ -40,9 +49,6 @@ void TEXT_56();
 
 /// Tints the boxes of S1 and S2 by the gap between their ratings; all other boxes go white.
 void DeadHeat();
-
-/// Takes the highlight off the last entry's row.
-void ClearLastIndex();
 
 /// What the user types, each by the command of its box: selection or finish box 0 to 7, "Tote Board" box 1 to
 /// 11, the "Refunds:" box (which is only shown), and a cell below the head of a race view. A box or cell that

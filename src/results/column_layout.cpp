@@ -1,6 +1,7 @@
 // Results text in columns: "Auto Record Payoffs".
 #include "results/auto_record.h"
 
+#include "card/columns.h"
 #include "card/race_card.h"
 #include "core/failure.h"
 #include "core/files.h"
@@ -19,9 +20,6 @@ constexpr int keywordColumn = 7;
 constexpr int numberWidth = 2; ///< a finisher's program number, at the start of his line
 constexpr int payoffWidth = 6;
 constexpr int lastPayoffWidth = 5;
-constexpr int exactaCell = 7;
-constexpr int trifectaCell = 8;
-constexpr int superfectaCell = 9;
 
 /// The first "Results" line with a track that the track table knows is followed by the day, year first.
 bool columnsAreOfThisCard(TextView content) {
@@ -46,12 +44,12 @@ void takeCommaOut(Text& payoff) {
     if (auto plain = withoutComma(payoff)) payoff = std::move(*plain);
 }
 
-void removeComma(int cell) {
+void removeComma(PayoffCell::Number cell) {
     attempt([&] { takeCommaOut(card.payoffRecord(cursor.race, cell)); });
 }
 
-void storeFinisher(int place, TextView line) {
-    attempt([&] { card.raceOutcome(cursor.race, firstFinishBox + place) = leftOf(line, numberWidth); });
+void storeFinisher(OutcomeCell::Number place, TextView line) {
+    attempt([&] { card.raceOutcome(cursor.race, place) = leftOf(line, numberWidth); });
 }
 
 template <class Value>
@@ -60,33 +58,39 @@ Text payoffForm(const Value& value) {
 }
 
 void readWinner(TextView line) {
-    storeFinisher(1, line);
+    storeFinisher(OutcomeCell::r1, line);
     const TextView text = midOf(line, numberWidth + 1);
     const int win = figurePlace(text);
     if (win == 0) return passOver();
     const TextView rest = trimmed(midOf(text, win + payoffWidth + 1));
-    attempt([&] { card.payoffRecord(cursor.race, 1) = payoffForm(midOf(text, win, payoffWidth)); });
     attempt(
-        [&] { card.payoffRecord(cursor.race, 2) = payoffForm(lenientNumber(leftOf(rest, payoffWidth))); });
-    attempt(
-        [&] { card.payoffRecord(cursor.race, 3) = payoffForm(lenientNumber(rightOf(rest, payoffWidth))); });
+        [&] { card.payoffRecord(cursor.race, PayoffCell::win) = payoffForm(midOf(text, win, payoffWidth)); });
+    attempt([&] {
+        card.payoffRecord(cursor.race, PayoffCell::place1) =
+            payoffForm(lenientNumber(leftOf(rest, payoffWidth)));
+    });
+    attempt([&] {
+        card.payoffRecord(cursor.race, PayoffCell::show1) =
+            payoffForm(lenientNumber(rightOf(rest, payoffWidth)));
+    });
 }
 
 void readSecond(TextView line) {
-    storeFinisher(2, line);
+    storeFinisher(OutcomeCell::r2, line);
     const TextView text = midOf(line, numberWidth + 1);
     const int place = figurePlace(text);
     if (place == 0) return passOver();
     const TextView rest = trimmed(midOf(text, place + payoffWidth + 1));
-    attempt([&] { card.payoffRecord(cursor.race, 4) = midOf(text, place, payoffWidth); });
-    attempt([&] { card.payoffRecord(cursor.race, 5) = rightOf(rest, lastPayoffWidth); });
+    attempt([&] { card.payoffRecord(cursor.race, PayoffCell::place2) = midOf(text, place, payoffWidth); });
+    attempt([&] { card.payoffRecord(cursor.race, PayoffCell::show2) = rightOf(rest, lastPayoffWidth); });
 }
 
 void readThird(TextView line) {
-    storeFinisher(3, line);
-    attempt([&] { card.payoffRecord(cursor.race, 6) = rightOf(trimmed(line), lastPayoffWidth); });
+    storeFinisher(OutcomeCell::r3, line);
+    attempt(
+        [&] { card.payoffRecord(cursor.race, PayoffCell::show3) = rightOf(trimmed(line), lastPayoffWidth); });
     // The exacta stands below these lines, so what loses its comma here is an exacta of the run before.
-    removeComma(exactaCell);
+    removeComma(PayoffCell::exacta);
 }
 
 void readFinishers(LineReader& lines) {
@@ -98,12 +102,12 @@ void readFinishers(LineReader& lines) {
 }
 
 void readExacta(TextView line) {
-    attempt([&] { card.payoffRecord(cursor.race, exactaCell) = exoticPayoff(line); });
+    attempt([&] { card.payoffRecord(cursor.race, PayoffCell::exacta) = exoticPayoff(line); });
 }
 
 void readTrifecta(TextView line) {
-    attempt([&] { card.payoffRecord(cursor.race, trifectaCell) = exoticPayoff(line); });
-    removeComma(trifectaCell);
+    attempt([&] { card.payoffRecord(cursor.race, PayoffCell::trifecta) = exoticPayoff(line); });
+    removeComma(PayoffCell::trifecta);
 }
 
 /// The fourth finisher, who has no line of his own: the last of the superfecta's numbers, in front of "paid".
@@ -117,12 +121,12 @@ void readFourth(TextView line) {
     const int paid = placeOf("p", numbers);
     if (paid == 0) return passOver();
     const TextView last = rightOf(leftOf(numbers, paid - 1), numberWidth);
-    attempt([&] { card.raceOutcome(cursor.race, firstFinishBox + 4) = numberText(lenientNumber(last)); });
+    attempt([&] { card.raceOutcome(cursor.race, OutcomeCell::r4) = numberText(lenientNumber(last)); });
 }
 
 void readSuperfecta(TextView line) {
-    attempt([&] { card.payoffRecord(cursor.race, superfectaCell) = exoticPayoff(line); });
-    removeComma(superfectaCell);
+    attempt([&] { card.payoffRecord(cursor.race, PayoffCell::superfecta) = exoticPayoff(line); });
+    removeComma(PayoffCell::superfecta);
     readFourth(line);
 }
 
@@ -204,7 +208,9 @@ void addRefunds(TextView content) {
     while (const auto line = lines.next()) {
         if (!contains(*line, "REFUNDS:")) continue;
         const double race = lenientNumber(midOf(*line, 11, 2));
-        attempt([&] { card.payoffRecord(toInteger(race), refundCell) += " " + Text{rightOf(*line, 2)}; });
+        attempt([&] {
+            card.payoffRecord(toInteger(race), PayoffCell::refunds) += " " + Text{rightOf(*line, 2)};
+        });
     }
 }
 

@@ -1,13 +1,9 @@
 #include "results/heat_slots.h"
 
+#include "card/columns.h"
 #include "card/race_card.h"
 
 namespace quillon {
-namespace {
-
-constexpr int selections = 4;
-
-} // namespace
 
 bool isHeat(int race) {
     if (race > card.raceCount) return true;
@@ -17,7 +13,7 @@ bool isHeat(int race) {
 }
 
 bool hasSelections(int race) {
-    for (int cell = 1; cell <= selections; ++cell)
+    for (int cell = OutcomeCell::s1; cell <= OutcomeCell::s4; ++cell)
         if (!card.raceOutcome(race, cell).empty()) return true;
     return false;
 }

@@ -7,7 +7,7 @@ namespace quillon {
 /// as a race's when the selection sheet counts the card's races anew.
 bool isHeat(int race);
 
-/// True where one of the race's own selections, cells 1 to 4 of its outcome, has a text.
+/// True where one of the race's own selections has a text.
 bool hasSelections(int race);
 
 } // namespace quillon

@@ -14,15 +14,10 @@
 namespace quillon {
 namespace {
 
-constexpr int boxCount = 8;
-
 /// How far a way of showing a race puts away the race views and the check marks of other races. Previous and
 /// the race list stop two short.
 constexpr int allViews = ratedRaces;
 constexpr int allViewsButTwo = 21;
-
-constexpr std::array payoffBoxes{1, 2, 3, 4, 5, 6, 7, 8, 9, 11};
-constexpr int boxTen = 10;
 
 constexpr int lineButtonRows = 15; ///< rows of past lines that can be taken by their number
 
@@ -126,11 +121,12 @@ void showRaceHeader(int race) {
 void showBoard(int race) {
     if (race < 1 || race >= raceExtent) return;
     attempt(DeadHeat);
-    for (int box = 0; box < boxCount; ++box) screen.boxes.at(box).text = card.raceOutcome[{race, box + 1}];
+    int cell = cellOfBox(0);
+    for (Box& box : screen.boxes) box.text = card.raceOutcome[{race, cell++}];
     if (isHeat(race)) attempt([&] { showHeatSelections(race); });
-    for (const int box : payoffBoxes) screen.tote.at(box) = card.payoffRecord[{race, box}];
-    screen.tote.at(boxTen) = card.payoffRecord[{race, boxTenCell}];
-    screen.refunds = card.payoffRecord[{race, refundCell}];
+    for (const int box : cellsOfTheirBoxes) screen.tote.at(box) = card.payoffRecord[{race, box}];
+    screen.tote[deadHeatBox] = card.payoffRecord[{race, PayoffCell::deadHeat}];
+    screen.refunds = card.payoffRecord[{race, PayoffCell::refunds}];
     screen.tote[0] = "RACE:  " + std::to_string(race);
     // The boxes change one by one, but a dead heat is looked at only when all of them are the new race's.
     TEXT_56();

@@ -57,4 +57,7 @@ LineInUse lineInUse();
 /// Closes the frame of past lines and takes the light off the entry's row.
 void ClosePastPerformances();
 
+/// Takes the light off the row of the entry shown last.
+void ClearLastIndex();
+
 } // namespace quillon

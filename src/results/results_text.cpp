@@ -12,8 +12,7 @@ constexpr int trackKeyWidth = 5;
 constexpr int exoticCut = 10;
 constexpr int behindComma = 6;
 
-/// The card's name in front of its first point: "M1_20260314".
-TextView cardName() { return TextView{card.cardFileName}.substr(0, card.cardFileName.find('.')); }
+TextView cardName() { return cardNameOf(card.cardFileName); }
 
 } // namespace
 

@@ -1,6 +1,7 @@
 // Results text told by words: "TRC Auto Record", and the quiet pass of a recall.
 #include "results/auto_record.h"
 
+#include "card/columns.h"
 #include "card/race_card.h"
 #include "core/failure.h"
 #include "core/files.h"
@@ -30,9 +31,9 @@ struct WordPass {
     ResultsDate date{};
 };
 
-Text& outcome(int cell) { return card.raceOutcome(cursor.race, cell); }
+Text& outcome(OutcomeCell::Number cell) { return card.raceOutcome(cursor.race, cell); }
 
-Text& payoff(int cell) { return card.payoffRecord(cursor.race, cell); }
+Text& payoff(PayoffCell::Number cell) { return card.payoffRecord(cursor.race, cell); }
 
 struct MonthName {
     TextView name;
@@ -78,7 +79,8 @@ constexpr std::array winnerCuts{
 constexpr std::span<const WinnerCut> longLineCuts{winnerCuts};
 constexpr std::span<const WinnerCut> shortLineCuts = longLineCuts.first(3);
 
-void storeWinnersPayoffs(TextView figures, std::span<const WinnerCut> cuts, const std::array<int, 3>& cells) {
+void storeWinnersPayoffs(TextView figures, std::span<const WinnerCut> cuts,
+                         const std::array<PayoffCell::Number, 3>& cells) {
     constexpr int thirdWidth = 6;
     const int point = placeOf(".", figures);
     for (const WinnerCut& cut : cuts) {
@@ -96,9 +98,9 @@ int placedWidth(TextView figures) {
 }
 
 /// The user's pass shows race 1 as it goes, and what it shows has lost a leading zero in the store too.
-void dropZeros(const WordPass& pass, std::initializer_list<int> cells) {
+void dropZeros(const WordPass& pass, std::initializer_list<PayoffCell::Number> cells) {
     if (!pass.withPools || cursor.race != 1) return;
-    for (const int cell : cells)
+    for (const auto cell : cells)
         if (payoff(cell).starts_with('0')) payoff(cell).erase(0, 1);
 }
 
@@ -109,25 +111,27 @@ int counted(Table<Integer, raceExtent>& heats) {
     return count;
 }
 
-void storeFinisher(int place, TextView line) {
-    attempt([&] { outcome(firstFinishBox + place) = midOf(line, 4, 3); });
+void storeFinisher(OutcomeCell::Number place, TextView line) {
+    attempt([&] { outcome(place) = midOf(line, 4, 3); });
 }
 
 void readWinner(const WordPass& pass, TextView line) {
     const int count = counted(card.winHeat);
     if (count == 1) {
-        storeFinisher(1, line);
+        storeFinisher(OutcomeCell::r1, line);
         const TextView figures = behindName(rightOf(line, pass.withPools ? longWinnersEnd : winnersEnd));
-        storeWinnersPayoffs(figures, pass.withPools ? longLineCuts : shortLineCuts, {1, 2, 3});
-        dropZeros(pass, {2, 3});
+        storeWinnersPayoffs(figures, pass.withPools ? longLineCuts : shortLineCuts,
+                            {PayoffCell::win, PayoffCell::place1, PayoffCell::show1});
+        dropZeros(pass, {PayoffCell::place1, PayoffCell::show1});
     } else if (count == 2) { // a dead heat: the other winner takes the place of the second
-        storeFinisher(2, line);
-        storeWinnersPayoffs(behindName(rightOf(line, winnersEnd)), shortLineCuts, {boxTenCell, 4, 5});
-        dropZeros(pass, {5});
+        storeFinisher(OutcomeCell::r2, line);
+        storeWinnersPayoffs(behindName(rightOf(line, winnersEnd)), shortLineCuts,
+                            {PayoffCell::deadHeat, PayoffCell::place2, PayoffCell::show2});
+        dropZeros(pass, {PayoffCell::show2});
     }
 }
 
-void storePlacedPayoffs(TextView line, int placeCell, int showCell) {
+void storePlacedPayoffs(TextView line, PayoffCell::Number placeCell, PayoffCell::Number showCell) {
     const TextView figures = behindSmallLetters(rightOf(line, secondsEnd));
     const int width = placedWidth(figures);
     if (width == 0) return passOver();
@@ -138,26 +142,26 @@ void storePlacedPayoffs(TextView line, int placeCell, int showCell) {
 void readSecond(const WordPass& pass, TextView line) {
     const int count = counted(card.placeHeat);
     if (count == 1) {
-        storeFinisher(2, line);
-        storePlacedPayoffs(line, 4, 5);
-        dropZeros(pass, {5});
+        storeFinisher(OutcomeCell::r2, line);
+        storePlacedPayoffs(line, PayoffCell::place2, PayoffCell::show2);
+        dropZeros(pass, {PayoffCell::show2});
     } else if (count == 2) { // a dead heat: the other second takes the place of the third
-        storeFinisher(3, line);
-        storePlacedPayoffs(line, boxTenCell, 6);
-        dropZeros(pass, {5, 6});
+        storeFinisher(OutcomeCell::r3, line);
+        storePlacedPayoffs(line, PayoffCell::deadHeat, PayoffCell::show3);
+        dropZeros(pass, {PayoffCell::show2, PayoffCell::show3});
     }
 }
 
 void readThird(const WordPass& pass, TextView line) {
-    storeFinisher(3, line);
+    storeFinisher(OutcomeCell::r3, line);
     const TextView figures = behindSmallLetters(rightOf(line, thirdsEnd));
     const int width = placedWidth(figures);
     if (width == 0) return passOver();
-    attempt([&] { payoff(6) = leftOf(figures, width); });
-    dropZeros(pass, {6});
+    attempt([&] { payoff(PayoffCell::show3) = leftOf(figures, width); });
+    dropZeros(pass, {PayoffCell::show3});
 }
 
-void readFourth(const WordPass&, TextView line) { storeFinisher(4, line); }
+void readFourth(const WordPass&, TextView line) { storeFinisher(OutcomeCell::r4, line); }
 
 struct FinishLine {
     TextView start;
@@ -177,20 +181,20 @@ struct ExoticCut {
     int shortest;
     int longest;
     int characters;
-    int cell;
+    PayoffCell::Number cell;
 };
 // clang-format off
 constexpr std::array exoticCuts{
-    ExoticCut{"Exacta",     18, 18,        4, 7},
-    ExoticCut{"Exacta",     19, 19,        5, 7},
-    ExoticCut{"Exacta",     20, 20,        6, 7},
-    ExoticCut{"Exacta",     21, 22,        7, 7},
-    ExoticCut{"Trifecta",    0, 24,        6, 8},
-    ExoticCut{"Trifecta",   25, 25,        7, 8},
-    ExoticCut{"Trifecta",   26, 27,        8, 8},
-    ExoticCut{"Superfecta",  0, 28,        7, 9},
-    ExoticCut{"Superfecta", 29, 29,        8, 9},
-    ExoticCut{"Superfecta", 30, anyLength, 9, 9},
+    ExoticCut{"Exacta",     18, 18,        4, PayoffCell::exacta},
+    ExoticCut{"Exacta",     19, 19,        5, PayoffCell::exacta},
+    ExoticCut{"Exacta",     20, 20,        6, PayoffCell::exacta},
+    ExoticCut{"Exacta",     21, 22,        7, PayoffCell::exacta},
+    ExoticCut{"Trifecta",    0, 24,        6, PayoffCell::trifecta},
+    ExoticCut{"Trifecta",   25, 25,        7, PayoffCell::trifecta},
+    ExoticCut{"Trifecta",   26, 27,        8, PayoffCell::trifecta},
+    ExoticCut{"Superfecta",  0, 28,        7, PayoffCell::superfecta},
+    ExoticCut{"Superfecta", 29, 29,        8, PayoffCell::superfecta},
+    ExoticCut{"Superfecta", 30, anyLength, 9, PayoffCell::superfecta},
 };
 // clang-format on
 
@@ -207,9 +211,9 @@ void readExotic(TextView line) {
     if (contains(line, "Trifecta")) return storeExotic("Trifecta", line);
     if (contains(line, "Superfecta")) return storeExotic("Superfecta", line);
     if (contains(line, "D/D"))
-        attempt([&] { payoff(dailyDoubleCell) = line; });
+        attempt([&] { payoff(PayoffCell::dailyDouble) = line; });
     else if (contains(line, "Refund"))
-        attempt([&] { payoff(refundCell) = line; });
+        attempt([&] { payoff(PayoffCell::refunds) = line; });
 }
 
 Text poolPayoff(TextView text) { return formatted("######.00", "@@@@@@@@@", text); }
