@@ -32,7 +32,7 @@ void showAnalysisView(bool Screen::*view) {
 }
 
 void layOut(Grid& view, int rows, std::span<const ViewColumn> columns) {
-    view.bind(rows, static_cast<int>(columns.size()), nullptr);
+    view.layOut(rows + 1, static_cast<int>(columns.size()));
     const auto heads = view.cellsOf(0);
     for (std::size_t column = 0; column < columns.size(); ++column) heads[column].text = columns[column].head;
 }

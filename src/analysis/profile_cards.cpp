@@ -6,10 +6,6 @@
 namespace quillon {
 namespace {
 
-constexpr std::size_t s1WithAll = firstSuperfecta;     ///< "S1/2-3-4"
-constexpr std::size_t allFour = firstSuperfecta + 1;   ///< "S1-2-3-4"
-constexpr std::size_t s2WithAll = firstSuperfecta + 2; ///< "S2-1/3-4"
-
 void markWins(std::span<Cell> cells, const ArchivedCard& card) {
     for (std::size_t bet = 0; bet < firstSuperfecta; ++bet)
         if (wonItsBets(card, bet)) cells[static_cast<std::size_t>(profileBets[bet].column)].bold = true;
@@ -20,7 +16,8 @@ void markWins(std::span<Cell> cells, const ArchivedCard& card) {
 Text superfectaCell(TextView line, const ArchivedCard& card, std::size_t bet) {
     constexpr double tickets = 4;
     Text sum{cellIn(line, archivePlaces::sums[bet])};
-    const bool won = bet == allFour && card.sums[bet] / tickets >= card.races * raceBet;
+    const bool won = profileBets[bet].column == ProfileColumn::superfectaBox1234 &&
+                     card.sums[bet] / tickets >= card.races * raceBet;
     if (!won) attempt([&] { sum = formatted("######.00", sum); });
     return sum;
 }
@@ -31,15 +28,15 @@ void fillCard(std::span<Cell> cells, TextView line) {
     constexpr int shownRaces = 3;
     const ArchivedCard card = archivedCardOf(line);
     const auto text = [&](int column) -> Text& { return cells[static_cast<std::size_t>(column)].text; };
-    text(profileColumn::card) = cellIn(line, archivePlaces::key);
-    text(profileColumn::races) = cellIn(line, archivePlaces::races);
-    int column = profileColumn::firstWins;
+    text(ProfileColumn::card) = cellIn(line, archivePlaces::key);
+    text(ProfileColumn::races) = cellIn(line, archivePlaces::races);
+    int column = ProfileColumn::s1Wins;
     for (const Places& wins : archivePlaces::wins) text(column++) = cellIn(line, wins);
     for (std::size_t bet = 0; bet < firstSuperfecta; ++bet)
         text(profileBets[bet].column) = formatted("######.00", "@@@@@@@@@", returnOf(card, bet));
-    for (const std::size_t bet : {s1WithAll, allFour, s2WithAll})
+    for (std::size_t bet = firstSuperfecta; bet < profileBets.size(); ++bet)
         text(profileBets[bet].column) = superfectaCell(line, card, bet);
-    text(profileColumn::superfectaRaces) = rightOf(line, shownRaces);
+    text(ProfileColumn::superfectaRaces) = rightOf(line, shownRaces);
 }
 
 void CardRows::add(TextView line) {
@@ -51,7 +48,7 @@ void CardRows::add(TextView line) {
 }
 
 void CardRows::make(int row, std::span<Cell> cells) {
-    const auto card = static_cast<std::size_t>(row - profileRow::firstCard);
+    const auto card = static_cast<std::size_t>(row - ProfileRow::firstCard);
     const std::uint64_t end = card + 1 < starts_.size() ? starts_[card + 1] : end_;
     attempt([&] {
         LineReader lines{copy_.read(starts_[card], static_cast<std::size_t>(end - starts_[card]))};

@@ -4,32 +4,11 @@
 
 #include "analysis/archive_scan.h"
 #include "screen/screen.h"
+#include "screen/view_columns.h"
 
 #include <span>
 
 namespace quillon {
-
-constexpr int profileColumns = 21;
-
-namespace profileRow {
-constexpr int heads = 0;
-constexpr int winAmount = 2;
-constexpr int adjustedWin = 3;
-constexpr int totalBet = 4;
-constexpr int netProfit = 5;
-constexpr int roi = 6;
-constexpr int winningCards = 8;
-constexpr int counts = 9;
-constexpr int percentages = 10;
-constexpr int firstCard = 11;
-} // namespace profileRow
-
-namespace profileColumn {
-constexpr int card = 0; ///< its key; the labels of the rows above the cards
-constexpr int races = 1;
-constexpr int firstWins = 2; ///< of S1, then S2 to S4
-constexpr int superfectaRaces = 20;
-} // namespace profileColumn
 
 /// What is bet on each race of a card, whatever the bet type.
 constexpr double raceBet = 12;
@@ -37,8 +16,7 @@ constexpr double raceBet = 12;
 /// A bet type of the profile. The archive has sums of $2 payoffs; the factor makes one the return of $12
 /// spread evenly over the tickets of the bet.
 struct ProfileBet {
-    int column;
-    TextView head;
+    ProfileColumn::Number column;
     double factor;
 };
 
@@ -46,20 +24,20 @@ struct ProfileBet {
 /// In the order of the archive's sums. The last three are the superfectas, whose cards show the plain $2 sums and
 /// whose bets count only the races that had a superfecta.
 inline constexpr std::array profileBets{
-    ProfileBet{ 6, "Win",      6},
-    ProfileBet{ 7, "Place",    6},
-    ProfileBet{ 8, "Show",     6},
-    ProfileBet{ 9, "E1/2",     6},
-    ProfileBet{10, "E1-2",     3},
-    ProfileBet{11, "E1/2-3",   3},
-    ProfileBet{12, "E1-2-3",   1},
-    ProfileBet{13, "E1-2-3-4", 0.5},
-    ProfileBet{14, "T1/2-3",   3},
-    ProfileBet{15, "T1/2-3-4", 1},
-    ProfileBet{16, "T1-2-3",   1},
-    ProfileBet{17, "S1/2-3-4", 1},
-    ProfileBet{19, "S1-2-3-4", 0.25},
-    ProfileBet{18, "S2-1/3-4", 0.5},
+    ProfileBet{ProfileColumn::win,                6},
+    ProfileBet{ProfileColumn::place,              6},
+    ProfileBet{ProfileColumn::show,               6},
+    ProfileBet{ProfileColumn::exacta1With2,       6},
+    ProfileBet{ProfileColumn::exactaBox12,        3},
+    ProfileBet{ProfileColumn::exacta1With23,      3},
+    ProfileBet{ProfileColumn::exactaBox123,       1},
+    ProfileBet{ProfileColumn::exactaBox1234,      0.5},
+    ProfileBet{ProfileColumn::trifecta1With23,    3},
+    ProfileBet{ProfileColumn::trifecta1With234,   1},
+    ProfileBet{ProfileColumn::trifectaBox123,     1},
+    ProfileBet{ProfileColumn::superfecta1With234, 1},
+    ProfileBet{ProfileColumn::superfectaBox1234,  0.25},
+    ProfileBet{ProfileColumn::superfecta2With134, 0.5},
 };
 // clang-format on
 

@@ -9,11 +9,6 @@
 namespace quillon {
 namespace {
 
-constexpr int lastColumn = 19;
-constexpr int firstBetColumn = 6;
-constexpr int firstShiftedRow = 3;
-constexpr int lastShiftedRow = 7;
-
 // clang-format off
 constexpr const char* heading =
     "               Races    S1    S2    S3    S4       Win     Place      Show      E1/2      E1-2    E1/2-3"
@@ -26,26 +21,26 @@ constexpr const char* betField       = "@@@@@@@@@@";
 // clang-format on
 
 void addRow(ReportWriter& report, int row) {
-    const bool shifted = row >= firstShiftedRow && row <= lastShiftedRow;
-    report.part(labelField, screen.profile.text(row, 0));
+    const bool shifted = row >= ProfileRow::adjustedWin && row < ProfileRow::winningCards;
+    report.part(labelField, screen.profile.text(row, ProfileColumn::card));
     if (shifted)
         report.part(shift);
     else
-        report.part(countField, screen.profile.text(row, profileColumn::races));
-    for (int column = profileColumn::firstWins; column < firstBetColumn; ++column)
+        report.part(countField, screen.profile.text(row, ProfileColumn::races));
+    for (int column = ProfileColumn::s1Wins; column <= ProfileColumn::s4Wins; ++column)
         report.part(countField, screen.profile.text(row, column));
-    for (int column = firstBetColumn; column <= lastColumn; ++column)
+    for (int column = ProfileColumn::win; column <= ProfileColumn::superfectaBox1234; ++column)
         report.part(betField, screen.profile.text(row, column));
     report.returnLine();
 }
 
 Text rowText(int row) {
     ReportWriter report;
-    if (row == profileRow::percentages) {
+    if (row == ProfileRow::percentages) {
         report.line("");
         report.part(winPercentages);
     }
-    if (row == profileRow::firstCard) report.line("");
+    if (row == ProfileRow::firstCard) report.line("");
     addRow(report, row);
     return report.content();
 }

@@ -5,6 +5,7 @@
 #include "core/failure.h"
 #include "core/formats.h"
 #include "screen/screen.h"
+#include "screen/view_columns.h"
 
 #include <algorithm>
 #include <array>
@@ -38,10 +39,6 @@ constexpr std::array<TextView, 18> oddsRows{
     "5/1", "6/1", "7/1", "8/1", "9/1", "10/1", allOdds,
 };
 
-constexpr std::array<TextView, 8> heads{
-    "Track/Date", "Race", "Margin", "Odds $", "Odds", "Bet", "PayOff", "Win",
-};
-
 // Where the view and the filter read a record. Both read a place beside the record's own here and there: of race
 // 12 they see the 2, of a margin of 10.3 the 0.3.
 namespace starPlaces {
@@ -57,8 +54,6 @@ constexpr Places shownPayoff{60,  5};
 constexpr Places payoff     {60,  6};
 } // namespace starPlaces
 // clang-format on
-
-FilePlace starsPlace() { return {Folder::working, "Stars5.ini"}; }
 
 constexpr std::uint64_t noLabel = std::numeric_limits<std::uint64_t>::max();
 constexpr char noWin = '\0';
@@ -83,23 +78,20 @@ Text lineAt(PiecesAhead& file, std::uint64_t start) {
 }
 
 void fillRow(std::span<Cell> cells, const StarRow& row, PiecesAhead& file) {
-    if (row.label != noLabel) cells[0].text = cellIn(lineAt(file, row.label), starPlaces::cardLabel);
+    const auto text = [&](StarColumn::Number column) -> Text& { return cells[column].text; };
+    if (row.label != noLabel) text(StarColumn::card) = cellIn(lineAt(file, row.label), starPlaces::cardLabel);
     const Text record = lineAt(file, row.record);
     const auto at = [&](Places places) { return cellIn(record, places); };
-    cells[1].text = formatted("##", at(starPlaces::race));
-    attempt([&] { cells[2].text = formatted("###.#", at(starPlaces::margin)); });
-    cells[3].text = at(starPlaces::decimalOdds);
-    cells[4].text = trimmed(at(starPlaces::shownOdds));
-    cells[5].text = trimmed(at(starPlaces::bet));
-    cells[6].text = Text{at(starPlaces::shownPayoff)} + "0"; // the last digit is behind the places read
-    if (row.win != noWin) cells[7].text = row.win;
+    text(StarColumn::race) = formatted("##", at(starPlaces::race));
+    attempt([&] { text(StarColumn::margin) = formatted("###.#", at(starPlaces::margin)); });
+    text(StarColumn::decimalOdds) = at(starPlaces::decimalOdds);
+    text(StarColumn::odds) = trimmed(at(starPlaces::shownOdds));
+    text(StarColumn::bet) = trimmed(at(starPlaces::bet));
+    text(StarColumn::payoff) = Text{at(starPlaces::shownPayoff)} + "0"; // the last digit is not read
+    if (row.win != noWin) text(StarColumn::win) = row.win;
 }
 
-void clearTable() {
-    screen.stars.layOut(1, static_cast<int>(heads.size()));
-    for (std::size_t column = 0; column < heads.size(); ++column)
-        screen.stars(0, static_cast<int>(column)).text = heads[column];
-}
+void clearTable() { layOut(screen.stars, 0, starColumns()); }
 
 void showTable(const std::shared_ptr<StarTable>& table) {
     clearTable();
@@ -136,26 +128,14 @@ double marginOf(TextView record) {
     return lenientNumber(cellIn(record, starPlaces::margin));
 }
 
-bool passes(TextView record) {
-    const double margin = marginOf(record);
-    const Integer least = screen.marginChoice;
-    if (least != allMargins && !(margin >= least && margin < least + 1)) return false;
-    return screen.oddsChoice == allOdds || screen.oddsChoice == trimmed(cellIn(record, starPlaces::odds));
-}
-
-struct StarSums {
-    int races = 0;
-    int wins = 0;
-    double returned = 0;
-};
-
 /// The walk of Profile5 over the lines.
 struct StarFilter {
     StarTable& table;
+    StarChoice choice{};
     StarSums sums{};
     Text cardLabel{}; ///< waits for a race of the card that passes
     std::uint64_t cardStart = noLabel;
-    Text labelAbove{heads[0]}; ///< what the row above shows
+    Text labelAbove{starColumns()[StarColumn::card].head}; ///< what the row above shows
     char win = noWin;
 
     void take(TextView line, std::uint64_t start);
@@ -169,7 +149,7 @@ void StarFilter::take(TextView line, std::uint64_t start) {
         return;
     }
     takeWin(win, line);
-    if (!passes(line)) return;
+    if (!passes(line, choice)) return;
     addRow(start);
     ++sums.races;
     const double payoff = lenientNumber(cellIn(line, starPlaces::payoff));
@@ -209,21 +189,6 @@ Text averagePayoff(const StarSums& sums) {
     return Text{leftOf(numberText(quotient(sums.returned, sums.wins)), shownCharacters)};
 }
 
-/// Where there is nothing to divide by, a field keeps its text.
-void fillFields(const StarSums& sums) {
-    auto& field = screen.starsFields;
-    const double bets = sums.races * raceBet;
-    const double net = lenientNumber(formatted("######.00", sums.returned - bets)); // as it is shown
-    field[1] = numberText(sums.races);
-    field[2] = numberText(sums.wins);
-    if (sums.races > 0) attempt([&] { field[3] = formatted("###.0", "@@@@@%", winPercentage(sums)); });
-    attempt([&] { field[4] = dollars(bets); });
-    attempt([&] { field[5] = dollars(sums.returned); });
-    attempt([&] { field[6] = dollars(net); });
-    if (sums.races > 0) attempt([&] { field[7] = formatted("###.0", "@@@@@%", returnOnBets(net, bets)); });
-    if (sums.wins > 0) attempt([&] { field[8] = formatted("###.00", "$@@@@@", averagePayoff(sums)); });
-}
-
 // --- The lists --------------------------------------------------------------------------------------------
 
 constexpr TextView marginCaption = "Margin";
@@ -257,6 +222,26 @@ bool take(ChoiceList& list, TextView row, TextView caption) {
 }
 
 } // namespace
+
+bool passes(TextView record, const StarChoice& choice) {
+    const double margin = marginOf(record);
+    const Integer least = choice.margin;
+    if (least != allMargins && !(margin >= least && margin < least + 1)) return false;
+    return choice.odds == allOdds || choice.odds == trimmed(cellIn(record, starPlaces::odds));
+}
+
+StarFigures starFigures(const StarSums& sums) {
+    const double bets = sums.races * raceBet;
+    const double net = lenientNumber(formatted("######.00", sums.returned - bets)); // as it is shown
+    StarFigures shown{std::nullopt, numberText(sums.races), numberText(sums.wins)};
+    if (sums.races > 0) attempt([&] { shown[3] = formatted("###.0", "@@@@@%", winPercentage(sums)); });
+    attempt([&] { shown[4] = dollars(bets); });
+    attempt([&] { shown[5] = dollars(sums.returned); });
+    attempt([&] { shown[6] = dollars(net); });
+    if (sums.races > 0) attempt([&] { shown[7] = formatted("###.0", "@@@@@%", returnOnBets(net, bets)); });
+    if (sums.wins > 0) attempt([&] { shown[8] = formatted("###.00", "$@@@@@", averagePayoff(sums)); });
+    return shown;
+}
 
 void Star() {
     const Step step{"Star"};
@@ -297,10 +282,12 @@ void Profile5() {
     const Step step{"Profile5"};
     clearTable();
     const auto table = std::make_shared<StarTable>();
-    StarFilter filter{*table};
+    StarFilter filter{*table, {screen.marginChoice, screen.oddsChoice}};
     if (!eachLine([&](TextView line, std::uint64_t start) { filter.take(line, start); })) return;
     showTable(table);
-    fillFields(filter.sums);
+    const StarFigures figures = starFigures(filter.sums);
+    for (std::size_t field = 0; field < figures.size(); ++field)
+        if (figures[field]) screen.starsFields[field] = *figures[field];
 }
 
 } // namespace quillon

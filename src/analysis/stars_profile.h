@@ -3,11 +3,35 @@
 // one.
 #pragma once
 
+#include "core/numbers.h"
 #include "core/text.h"
+
+#include <array>
+#include <optional>
 
 namespace quillon {
 
 inline constexpr TextView starsCaption = "Stars Profile";
+
+/// Which races are asked for: the whole points from which S1 stood out, 50 for any, and his morning line.
+struct StarChoice {
+    Integer margin = 0;
+    TextView odds{};
+};
+
+/// Whether a record of Stars5.ini is of such a race.
+bool passes(TextView record, const StarChoice& choice);
+
+/// What the races that pass add up to.
+struct StarSums {
+    int races = 0;
+    int wins = 0;
+    double returned = 0;
+};
+
+/// The texts of fields 1 to 8. Where there is nothing to divide by, a field has none and keeps its own.
+using StarFigures = std::array<std::optional<Text>, 9>;
+StarFigures starFigures(const StarSums& sums);
 
 /// Opens the window, its first list, and all recorded lines in `screen.stars`. Stops at a failure, and when
 /// the user cancels.

@@ -7,6 +7,7 @@
 #include "core/formats.h"
 #include "reports/report_writer.h"
 #include "screen/screen.h"
+#include "screen/view_columns.h"
 #include "tables/track_table.h"
 
 #include <algorithm>
@@ -22,10 +23,6 @@ constexpr std::size_t mostTracks = 100;
 constexpr std::array<TextView, 6> sizes{"1/2", "5/8", "3/4", "7/8", "1.M", "1.Q"};
 constexpr TextView olderMile = "1";
 constexpr TextView olderMileAndAQuarter = "1 1"; // "1 1/4" in the three places of a size
-
-constexpr int viewColumns = 10;
-constexpr int firstTrackColumn = 0;
-constexpr int firstSizeColumn = 6;
 
 // The last two places of the archive's fields are all that is read.
 constexpr Places racesPlaces{16, 2};
@@ -46,6 +43,7 @@ struct Profile {
     std::vector<TrackSums> tracks{};
     std::map<Text, std::vector<std::size_t>, std::less<>> byCode{}; ///< a track may be listed more than once
     std::array<Sums, sizes.size()> bySize{};
+    Text lineSize{}; ///< of the line that was rated last
 };
 
 // A sum beyond 16 bits stays as it was.
@@ -64,14 +62,14 @@ void addTo(Sums& sums, double races, double wins) {
 
 /// Whether a size's row counts a track. The mile counts every track while the line that was rated last was
 /// run on a mile of the older form.
-bool counts(TextView size, TextView courseSize) {
+bool counts(TextView size, TextView courseSize, TextView lineSize) {
     if (size == courseSize) return true;
-    if (size == "1.M") return cursor.lineSize == olderMile;
+    if (size == "1.M") return lineSize == olderMile;
     return size == "1.Q" && courseSize == olderMileAndAQuarter;
 }
 
 Profile emptyProfile() {
-    Profile profile;
+    Profile profile{.lineSize = cursor.lineSize};
     for (const TrackRecord& track : trackTable().rows) {
         if (profile.tracks.size() == mostTracks) break;
         profile.byCode[track.trackKey].push_back(profile.tracks.size());
@@ -89,7 +87,7 @@ void addCard(Profile& profile, TextView line) {
         TrackSums& track = profile.tracks[index];
         addTo(track.sums, races, wins);
         for (std::size_t size = 0; size < sizes.size(); ++size)
-            if (counts(sizes[size], track.size)) addTo(profile.bySize[size], races, wins);
+            if (counts(sizes[size], track.size, profile.lineSize)) addTo(profile.bySize[size], races, wins);
     }
 }
 
@@ -103,8 +101,7 @@ void addCards(Profile& profile, bool& cancelled) {
     }
 }
 
-void fillCells(int row, int firstColumn, const std::array<Text, 4>& texts) {
-    int column = firstColumn;
+void fillCells(int row, int column, const std::array<Text, 4>& texts) {
     for (const Text& text : texts) screen.tracks(row, column++).text = text;
 }
 
@@ -112,7 +109,7 @@ void fillTracks(const Profile& profile) {
     int row = 0;
     for (const auto& [code, size, sums] : profile.tracks)
         if (sums.races > 0)
-            fillCells(++row, firstTrackColumn,
+            fillCells(++row, TrackColumn::track,
                       {code, numberText(sums.races), numberText(sums.wins),
                        formatted("##.0%", quotient(sums.wins, sums.races))});
 }
@@ -127,16 +124,10 @@ std::array<Text, 4> sizeCells(TextView size, const Sums& sums) {
 void fillSizes(const Profile& profile, ReportWriter& report) {
     for (std::size_t size = 0; size < sizes.size(); ++size) {
         const auto cells = sizeCells(sizes[size], profile.bySize[size]);
-        fillCells(static_cast<int>(size) + 1, firstSizeColumn, cells);
+        fillCells(static_cast<int>(size) + 1, TrackColumn::size, cells);
         report.line("  {}  @@@@@  @@@@@    {}", cells[0], cells[1], cells[2], cells[3]);
     }
     report.line("END");
-}
-
-void layOutView(std::size_t tracks) {
-    screen.tracks.layOut(static_cast<int>(std::max(tracks, sizes.size())) + 1, viewColumns);
-    fillCells(0, firstTrackColumn, {"TRACK", "RACES", "WINS", "PCT"});
-    fillCells(0, firstSizeColumn, {"SIZE", "RACES", "WINS", "PCT"});
 }
 
 } // namespace
@@ -148,7 +139,7 @@ void Track_Profile() {
     bool cancelled = false;
     attempt([&] { addCards(profile, cancelled); });
     if (cancelled) return screen.tracks.clearAll();
-    layOutView(profile.tracks.size());
+    layOut(screen.tracks, static_cast<int>(std::max(profile.tracks.size(), sizes.size())), trackColumns());
     fillTracks(profile);
     ReportWriter report;
     fillSizes(profile, report);

@@ -46,6 +46,34 @@ protected:
     static std::vector<Text> fields() { return {screen.starsFields.begin() + 1, screen.starsFields.end()}; }
 };
 
+// --- What is asked for, and what it adds up to
+
+TEST(StarFiguresTest, FlatBetsAreSetAgainstTheirReturns) {
+    const StarFigures shown = starFigures({.races = 25, .wins = 1, .returned = 36});
+    EXPECT_EQ("25", shown[1]);
+    EXPECT_EQ("1", shown[2]);
+    EXPECT_EQ("  8.0%", shown[3]);     // 4 per cent, doubled
+    EXPECT_EQ("$   300.00", shown[4]); // 25 x 12
+    EXPECT_EQ("$    36.00", shown[5]);
+    EXPECT_EQ("$  -264.00", shown[6]);
+    EXPECT_EQ("-88.0%", shown[7]); // -264 of 300
+    EXPECT_EQ("$36.00", shown[8]);
+}
+
+TEST(StarFiguresTest, NothingIsDividedByNothing) {
+    const StarFigures shown = starFigures({});
+    EXPECT_EQ("0", shown[1]);
+    for (const std::size_t divided : {3, 7, 8}) EXPECT_FALSE(shown[divided]) << divided;
+}
+
+TEST(StarFiguresTest, ARecordPassesByItsWholePointsAndItsOdds) {
+    const Text record = lineOf(StarRace{.margin = "2.9", .odds = " 5/2"});
+    EXPECT_TRUE(passes(record, {2, "5/2"}));
+    EXPECT_FALSE(passes(record, {3, "5/2"}));
+    EXPECT_FALSE(passes(record, {2, "7/2"}));
+    EXPECT_TRUE(passes(record, {50, "ALL Odds"}));
+}
+
 // --- The window
 // -----------------------------------------------------------------------------------------------
 
