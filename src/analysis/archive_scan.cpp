@@ -41,10 +41,10 @@ public:
 
     template <Places places>
     double figure() {
-        const char* const behind = line_.data() + places.first + places.width - 1;
-        if constexpr (places.width < sumWidth) return count<places.width>(behind);
-        if constexpr (places.width > sumWidth) strange_ |= Eight{behind[-places.width] != blank};
-        return sum(behind);
+        const char* const end = line_.data() + places.first + places.width - 1;
+        if constexpr (places.width < sumWidth) return count<places.width>(end);
+        if constexpr (places.width > sumWidth) strange_ |= Eight{end[-places.width] != blank};
+        return sum(end);
     }
     double lastTwo() { return count<2>(line_.data() + line_.size()); }
 
@@ -54,25 +54,25 @@ private:
     using Eight = std::uint64_t; // characters, the first in the lowest byte
     static constexpr Eight inEach = 0x0101010101010101;
     static constexpr int sumWidth = 9;
-    static constexpr int wholeWidth = 6; // of a sum, in front of its point
+    static constexpr int wholeWidth = 6; // of a sum, before its point
 
-    static Eight eightBefore(const char* behind) {
+    static Eight eightBefore(const char* end) {
         Eight eight = 0;
-        std::memcpy(&eight, behind - sizeof eight, sizeof eight);
+        std::memcpy(&eight, end - sizeof eight, sizeof eight);
         return eight;
     }
 
     static constexpr Eight first(int characters) { return (Eight{1} << characters * 8) - 1; }
 
     template <int width>
-    double count(const char* behind) {
+    double count(const char* end) {
         constexpr Eight others = first(sizeof(Eight) - width);
-        return number((eightBefore(behind) & ~others) | (inEach * blank & others));
+        return number((eightBefore(end) & ~others) | (inEach * blank & others));
     }
 
-    double sum(const char* behind) {
-        const Eight withPoint = eightBefore(behind - 1);
-        const Eight eight = (withPoint & first(wholeWidth)) | (eightBefore(behind) & ~first(wholeWidth));
+    double sum(const char* end) {
+        const Eight withPoint = eightBefore(end - 1);
+        const Eight eight = (withPoint & first(wholeWidth)) | (eightBefore(end) & ~first(wholeWidth));
         strange_ |= (withPoint >> wholeWidth * 8 & 0xFF) ^ '.';
         strange_ |= ~eight & Eight{0x1010} << wholeWidth * 8; // digits have this bit, blanks have not
         return number(eight) / 100.0;
@@ -83,7 +83,7 @@ private:
         const Eight blanks = (~eight >> 4 & inEach) * 0xFF; // all bits of a character that must be a blank
         strange_ |= (digits | (digits + inEach * 0x76)) & inEach * 0x80; // beyond 9
         strange_ |= digits & blanks;
-        strange_ |= blanks & (blanks + 1); // a blank behind a digit
+        strange_ |= blanks & (blanks + 1); // a blank after a digit
         const Eight pairs = digits * ((10U << 8) + 1) >> 8 & 0x00FF00FF00FF00FF;
         const Eight fours = pairs * ((100U << 16) + 1) >> 16 & 0x0000FFFF0000FFFF;
         return static_cast<std::int32_t>(fours * ((Eight{10000} << 32) + 1) >> 32);
@@ -186,8 +186,8 @@ TextView PiecesAhead::read(std::uint64_t start, std::size_t count) {
         block_ = file.read(start, std::max(ahead, count));
         blockStart_ = start;
     }
-    const auto behind = static_cast<std::size_t>(start - blockStart_);
-    return TextView{block_}.substr(behind, count);
+    const auto offset = static_cast<std::size_t>(start - blockStart_);
+    return TextView{block_}.substr(offset, count);
 }
 
 bool LongWork::goesOn(std::uint64_t part) {

@@ -94,7 +94,7 @@ private:
 };
 
 /// Pieces of a file by their places, for views whose rows are mostly looked at one after another: a good
-/// piece behind what is asked for is read as well.
+/// piece after what is asked for is read as well.
 class PiecesAhead {
 public:
     explicit PiecesAhead(FilePlace place) : place_(std::move(place)) {}

@@ -41,7 +41,7 @@ inline constexpr std::array profileBets{
 };
 // clang-format on
 
-inline constexpr std::size_t firstSuperfecta = 11; ///< of the bets in front all races count
+inline constexpr std::size_t firstSuperfecta = 11; ///< of the bets before these all races count
 static_assert(profileBets.size() == archivePlaces::sums.size());
 
 /// What a card returned on a bet type, and whether that is more than was bet; not asked of superfectas.

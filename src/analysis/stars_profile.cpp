@@ -61,7 +61,7 @@ constexpr char noWin = '\0';
 /// A row of the view by what it is made of.
 struct StarRow {
     std::uint64_t record = 0;      ///< where its line begins in the file
-    std::uint64_t label = noLabel; ///< and the line that it shows in front
+    std::uint64_t label = noLabel; ///< and the line that it shows before it
     char win = noWin;
 };
 
@@ -123,7 +123,7 @@ bool eachLine(Visit visit) {
 }
 
 double marginOf(TextView record) {
-    constexpr double level = 0.01; // the text 9.9 was once the residue of a level pair
+    constexpr double level = 0.01; // as good as level: a margin of 9.9
     if (cellIn(record, starPlaces::marginMark) == "9.9") return level;
     return lenientNumber(cellIn(record, starPlaces::margin));
 }

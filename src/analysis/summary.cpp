@@ -57,7 +57,7 @@ void openView() {
     showAnalysisView(&Screen::summaryVisible);
 }
 
-// Track and date by place: the date is what stands in front of the last four characters, so that a ".pmd2"
+// Track and date by place: the date is what stands before the last four characters, so that a ".pmd2"
 // name shows it one place off.
 void showCaption() {
     constexpr int extensionLength = 4;

@@ -38,8 +38,7 @@ double oddsOf(TextView morningLine) {
     return quotient(lenientNumber(dividend), lenientNumber(rightOf(morningLine, 1)));
 }
 
-// A margin of 9.9 and the residue of a level pair once looked alike ("9.9E-02"), so both are as good as
-// level.
+// A margin whose text begins with 9.9 is as good as level.
 Text marginOf(int race) {
     const Text text = numberText(gapAfterS1(race));
     return text.starts_with("9.9") ? "0.01" : Text{leftOf(text, 4)};

@@ -21,8 +21,8 @@ constexpr int deadHeat = 2; ///< "1st" or "2nd" lines that make one
 constexpr int besideWin = 1;
 constexpr int besidePlace = 2;
 
-/// A dead heat as the board shows it: where box 10 stands, who shared the place with the horse in front of
-/// him, and the payoff that becomes S1's.
+/// A dead heat as the board shows it: where box 10 stands, who shared the place with the horse
+/// ahead of him, and the payoff that becomes S1's.
 struct SharedPlace {
     int boxTenColumn;
     OutcomeCell::Number otherHorse;

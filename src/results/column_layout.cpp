@@ -110,7 +110,7 @@ void readTrifecta(TextView line) {
     removeComma(PayoffCell::trifecta);
 }
 
-/// The fourth finisher, who has no line of his own: the last of the superfecta's numbers, in front of "paid".
+/// The fourth finisher, who has no line of his own: the last of the superfecta's numbers, before "paid".
 /// Two characters are taken, of which the second is a blank before "paid", so 10 and above end as their last
 /// figure.
 void readFourth(TextView line) {
@@ -135,7 +135,7 @@ void readDouble(TextView line, int poolColumn) {
     constexpr int doubleLegs = 2;
     const TextView cut = rightOf(line, cutWidth);
     attempt(
-        [&] { card.pickPayoff(cursor.race, doubleLegs) = behindDollar(cut, placeOf("$", cut), cutWidth); });
+        [&] { card.pickPayoff(cursor.race, doubleLegs) = afterDollar(cut, placeOf("$", cut), cutWidth); });
     card.poolText = poolFrom(line, poolColumn);
     card.poolLegs = doubleLegs;
     Pick3();
@@ -165,7 +165,7 @@ void readPick(TextView line) {
     // so that a longer pick that ends in the same race keeps the text as cut.
     attempt([&] {
         card.pickPayoff(cursor.race, card.poolLegs) =
-            behindDollar(cut, placeOf("$", card.pickPayoff(cursor.race, 3)), cutWidth);
+            afterDollar(cut, placeOf("$", card.pickPayoff(cursor.race, 3)), cutWidth);
     });
     card.poolText = poolFrom(line, poolColumn);
     Pick3();

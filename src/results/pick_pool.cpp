@@ -8,7 +8,7 @@
 namespace quillon {
 namespace {
 
-/// How far in front of its last leg a wager begins. A pick ten isn't taken back: its legs are filed from the
+/// How far before its last leg a wager begins. A pick ten isn't taken back: its legs are filed from the
 /// race of its line on.
 struct FirstLeg {
     int legs;
@@ -29,7 +29,7 @@ constexpr bool startsNumber(char c) { return c >= '1' && c <= '9'; }
 constexpr bool endsNumber(char c) { return c == ',' || c == '/'; }
 
 /// The number at the start of the text: one character, or two where the second is no separator. A blank
-/// behind a number of one figure stays with it.
+/// after a number of one figure stays with it.
 TextView numberAt(TextView text) { return text.substr(0, text.size() > 1 && !endsNumber(text[1]) ? 2 : 1); }
 
 } // namespace

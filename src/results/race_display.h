@@ -19,7 +19,7 @@ void showRaceHeader(int race);
 /// ranking.
 void showBoard(int race);
 
-/// The number that a heading ends with, blanks behind it aside; 0 without one.
+/// The number that a heading ends with, blanks after it aside; 0 without one.
 double numberAtEnd(TextView text);
 
 /// Race `race` whole: label, heading, race view, buttons and board; the past lines of an entry close. Nothing
@@ -29,7 +29,7 @@ void showRace(int race);
 /// Race button n shows race n, at most race 20.
 void RaceButton(int n);
 
-/// The arrows store the board, then show the race behind or in front of the one on show. At the last race
+/// The arrows store the board, then show the race after or before the one on show. At the last race
 /// Next stores nothing.
 void Next();
 void Previous();

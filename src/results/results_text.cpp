@@ -10,7 +10,7 @@ namespace {
 
 constexpr int trackKeyWidth = 5;
 constexpr int exoticCut = 10;
-constexpr int behindComma = 6;
+constexpr int afterComma = 6;
 
 TextView cardName() { return cardNameOf(card.cardFileName); }
 
@@ -28,7 +28,7 @@ Text resultsTrackKey() {
     if (track.empty() || !settings) return {};
     LineReader rows{*settings};
     while (const auto row = rows.next()) {
-        if (row->empty()) break; // nothing behind an empty row is read
+        if (row->empty()) break; // nothing after an empty row is read
         if (trimmed(row->substr(0, track.size())) == track) return Text{trimmed(leftOf(*row, trackKeyWidth))};
     }
     return {};
@@ -48,7 +48,7 @@ bool isOfThisCard(TextView trackKey, const ResultsDate& date) {
 std::optional<Text> withoutComma(TextView payoff) {
     const int comma = placeOf(",", payoff);
     if (comma == 0) return std::nullopt;
-    return Text{leftOf(payoff, comma - 1)} + Text{midOf(payoff, comma + 1, behindComma)};
+    return Text{leftOf(payoff, comma - 1)} + Text{midOf(payoff, comma + 1, afterComma)};
 }
 
 TextView exoticPayoff(TextView line) {
@@ -57,7 +57,7 @@ TextView exoticPayoff(TextView line) {
     return midOf(end, dollar + 1, exoticCut - dollar);
 }
 
-TextView behindDollar(TextView text, int dollarPlace, int count) {
+TextView afterDollar(TextView text, int dollarPlace, int count) {
     if (dollarPlace == 0) return text;
     return trimmedRight(midOf(text, dollarPlace + 1, count));
 }
@@ -71,14 +71,14 @@ TextView poolFrom(TextView line, int place) {
 
 int figurePlace(TextView text) { return static_cast<int>(text.find_first_of("123456789") + 1); }
 
-TextView behindName(TextView text) {
-    // All that counts as part of a name ("e ", "N ", " Z", "A ") lies at or behind a blank and a letter, and
-    // so does every figure; a blank before a blank, a figure or a point lies in front of it.
+TextView afterName(TextView text) {
+    // All that counts as part of a name ("e ", "N ", " Z", "A ") lies at or after a blank and a letter, and
+    // so does every figure; a blank before a blank, a figure or a point lies before it.
     while (text.substr(0, 2) >= " A") text.remove_prefix(1);
     return text;
 }
 
-TextView behindSmallLetters(TextView text) {
+TextView afterSmallLetters(TextView text) {
     while (text.substr(0, 1) >= "a") text.remove_prefix(1);
     return text;
 }

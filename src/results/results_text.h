@@ -30,16 +30,16 @@ struct ResultsDate {
 /// False when track and day of the text aren't the card's, and tells the user. A text without a day passes.
 bool isOfThisCard(TextView trackKey, const ResultsDate& date);
 
-/// A payoff without its first comma: what stands in front of it and the six characters behind it. Nothing for
+/// A payoff without its first comma: what stands before it and the six characters after it. Nothing for
 /// a payoff without a comma.
 std::optional<Text> withoutComma(TextView payoff);
 
-/// The payoff of an exotic wager at the end of a line: of its last ten characters those behind the first "$".
+/// The payoff of an exotic wager at the end of a line: of its last ten characters those after the first "$".
 TextView exoticPayoff(TextView line);
 
-/// `count` characters behind the "$" at `dollarPlace`, without blanks at their end; the text as it stands
+/// `count` characters after the "$" at `dollarPlace`, without blanks at their end; the text as it stands
 /// where there is no "$" (place 0).
-TextView behindDollar(TextView text, int dollarPlace, int count);
+TextView afterDollar(TextView text, int dollarPlace, int count);
 
 /// A multi-race wager's pool: from `place` to the first "(" or, without one, to the first "paid"; empty where
 /// the line has neither.
@@ -49,10 +49,10 @@ TextView poolFrom(TextView line, int place);
 int figurePlace(TextView text);
 
 /// A finisher's line from the first payoff on: characters are dropped from the front until a blank stands
-/// there with no letter behind it. A figure of three digits that stands first is dropped with the name.
-TextView behindName(TextView text);
+/// there with no letter after it. A figure of three digits that stands first is dropped with the name.
+TextView afterName(TextView text);
 
 /// The same for the lines of the second and third: small letters alone are dropped.
-TextView behindSmallLetters(TextView text);
+TextView afterSmallLetters(TextView text);
 
 } // namespace quillon

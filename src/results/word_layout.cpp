@@ -48,7 +48,7 @@ constexpr std::array monthNames{
 };
 // clang-format on
 
-/// The first line with a month's name, a horse's too, is the date: the day stands in front of the first
+/// The first line with a month's name, a horse's too, is the date: the day stands before the first
 /// comma, the year at the end.
 void readDate(ResultsDate& date, TextView line) {
     for (const MonthName& month : monthNames) {
@@ -119,20 +119,20 @@ void readWinner(const WordPass& pass, TextView line) {
     const int count = counted(card.winHeat);
     if (count == 1) {
         storeFinisher(OutcomeCell::r1, line);
-        const TextView figures = behindName(rightOf(line, pass.withPools ? longWinnersEnd : winnersEnd));
+        const TextView figures = afterName(rightOf(line, pass.withPools ? longWinnersEnd : winnersEnd));
         storeWinnersPayoffs(figures, pass.withPools ? longLineCuts : shortLineCuts,
                             {PayoffCell::win, PayoffCell::place1, PayoffCell::show1});
         dropZeros(pass, {PayoffCell::place1, PayoffCell::show1});
     } else if (count == 2) { // a dead heat: the other winner takes the place of the second
         storeFinisher(OutcomeCell::r2, line);
-        storeWinnersPayoffs(behindName(rightOf(line, winnersEnd)), shortLineCuts,
+        storeWinnersPayoffs(afterName(rightOf(line, winnersEnd)), shortLineCuts,
                             {PayoffCell::deadHeat, PayoffCell::place2, PayoffCell::show2});
         dropZeros(pass, {PayoffCell::show2});
     }
 }
 
 void storePlacedPayoffs(TextView line, PayoffCell::Number placeCell, PayoffCell::Number showCell) {
-    const TextView figures = behindSmallLetters(rightOf(line, secondsEnd));
+    const TextView figures = afterSmallLetters(rightOf(line, secondsEnd));
     const int width = placedWidth(figures);
     if (width == 0) return passOver();
     attempt([&] { payoff(placeCell) = leftOf(figures, width); });
@@ -154,7 +154,7 @@ void readSecond(const WordPass& pass, TextView line) {
 
 void readThird(const WordPass& pass, TextView line) {
     storeFinisher(OutcomeCell::r3, line);
-    const TextView figures = behindSmallLetters(rightOf(line, thirdsEnd));
+    const TextView figures = afterSmallLetters(rightOf(line, thirdsEnd));
     const int width = placedWidth(figures);
     if (width == 0) return passOver();
     attempt([&] { payoff(PayoffCell::show3) = leftOf(figures, width); });
@@ -225,8 +225,8 @@ void readDouble(TextView line) {
     attempt([&] { card.pickPayoff(cursor.race, 2) = poolPayoff(midOf(line, 17)); });
 }
 
-/// "Pick 4    3/1,2/5/7 4 of 4 1,204.60": the count behind the word, the pool up to the correct picks in
-/// front of "of", the payoff behind the picks that were to be made. Without "of" there is no pool, and the
+/// "Pick 4    3/1,2/5/7 4 of 4 1,204.60": the count after the word, the pool up to the correct picks in
+/// before "of", the payoff after the picks that were to be made. Without "of" there is no pool, and the
 /// race cursor stays at the first leg.
 void readPick(TextView line) {
     const auto length = static_cast<int>(line.size());

@@ -114,10 +114,10 @@ TEST(ResultsFigures, AnExoticsPayoffIsWhatStandsBehindTheDollarInTheLastTenChara
 }
 
 TEST(ResultsFigures, BehindADollarBlanksAtTheEndGo) {
-    EXPECT_EQ("38.20", behindDollar("id $38.20 ", 4, 10));
-    EXPECT_EQ("38", behindDollar("id $38.20 ", 4, 2));
-    EXPECT_EQ("id 38.20  ", behindDollar("id 38.20  ", 0, 10)); // as it stands
-    EXPECT_EQ("", behindDollar("id", 30, 10));
+    EXPECT_EQ("38.20", afterDollar("id $38.20 ", 4, 10));
+    EXPECT_EQ("38", afterDollar("id $38.20 ", 4, 2));
+    EXPECT_EQ("id 38.20  ", afterDollar("id 38.20  ", 0, 10)); // as it stands
+    EXPECT_EQ("", afterDollar("id", 30, 10));
 }
 
 TEST(ResultsFigures, APoolEndsAtTheFirstBracketOrElseAtPaid) {
@@ -153,7 +153,7 @@ TEST(ResultsFigures, AWinnersNameIsDroppedUpToABlankWithoutALetterBehindIt) {
         TextRow{"a control character is in front of a blank", "\t4", "\t4"},
         TextRow{"empty", "", ""},
     };
-    for (const TextRow& row : rows) EXPECT_EQ(row.cut, behindName(row.text)) << row.what;
+    for (const TextRow& row : rows) EXPECT_EQ(row.cut, afterName(row.text)) << row.what;
 }
 
 TEST(ResultsFigures, OfTheSecondsAndThirdsNamesSmallLettersAloneAreDropped) {
@@ -165,7 +165,7 @@ TEST(ResultsFigures, OfTheSecondsAndThirdsNamesSmallLettersAloneAreDropped) {
         TextRow{"bytes above the letters", "\xE9 4", " 4"},
         TextRow{"nothing but a name", "ellie", ""},
     };
-    for (const TextRow& row : rows) EXPECT_EQ(row.cut, behindSmallLetters(row.text)) << row.what;
+    for (const TextRow& row : rows) EXPECT_EQ(row.cut, afterSmallLetters(row.text)) << row.what;
 }
 
 // ---- pools
