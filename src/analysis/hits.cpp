@@ -81,11 +81,9 @@ bool sameNumber(const RaceResults& race, Outcome::Number finisher, Outcome::Numb
 }
 
 bool isAmong(const RaceResults& race, TextView finisher, TextView selections) {
-    const auto number = [&](char selection) {
-        return race.outcome[static_cast<std::size_t>(Outcome::s1 + (selection - '1'))];
-    };
-    return std::any_of(selections.begin(), selections.end(),
-                       [&](char selection) { return number(selection) == finisher; });
+    return std::any_of(selections.begin(), selections.end(), [&](char selection) {
+        return race.outcome.at(Outcome::s1 + (selection - '1')) == finisher;
+    });
 }
 
 bool wins(const RaceResults& race, const Ticket& ticket) {
