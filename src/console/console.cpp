@@ -4,7 +4,7 @@
 #include "console/show.h"
 #include "console/words.h"
 #include "core/failure.h"
-#include "screen/ports.h"
+#include "screen/told_ports.h"
 
 #include <algorithm>
 #include <utility>
@@ -25,11 +25,6 @@ int numbersIn(Takes takes) {
 
 bool takesText(Takes takes) {
     return takes == Takes::text || takes == Takes::numberAndText || takes == Takes::cell;
-}
-
-// "kind: " or, where the system gives the box a title, "kind [title]: ".
-Text headed(const char* kind, const Text& title) {
-    return title.empty() ? Text{kind} + ": " : Text{kind} + " [" + title + "]: ";
 }
 
 } // namespace
@@ -56,30 +51,7 @@ Console::Console(std::ostream& out, std::span<const Command> commands)
 Console::~Console() { ports = {}; }
 
 void Console::takePorts() {
-    const auto print = [this](const Text& line) { transcript_.line(line); };
-    ports = {};
-    ports.message = [=](const Text& text, const Text& title) { print(headed("message", title) + text); };
-    ports.question = [=, this](const Text& text, const Text& title) {
-        const bool yes = nextAnswer() == "Yes";
-        print(headed("question", title) + text + (yes ? " -> Yes" : " -> No"));
-        return yes;
-    };
-    ports.input = [=, this](const Text& text, const Text& title) {
-        auto answer = nextAnswer();
-        print(headed("input", title) + text + " -> " + answer.value_or("(cancel)"));
-        return answer;
-    };
-    ports.beep = [=] { print("beep"); };
-    ports.view = [=](const FilePlace& file) { print("view: " + shownPath(file)); };
-    ports.browse = [=](const Text& address) { print("browse: " + address); };
-    ports.run = [=](const Text& program) { print("run: " + program); };
-    ports.hide = [=](const FilePlace& file) { print("hide: " + shownPath(file)); };
-    ports.error = [=](const Text& text) { print("error: " + text); };
-    ports.printLine = [=](const Text& line, PrintStyle style) {
-        print((style == PrintStyle::emphasised ? "print emphasised: " : "print: ") + line);
-    };
-    ports.printPage = [=] { print("print new page"); };
-    ports.printEnd = [=] { print("print end"); };
+    ports = toldPorts([this](const Text& line) { transcript_.line(line); }, [this] { return nextAnswer(); });
     ports.end = [this] { showEnd(); };
 }
 

@@ -1,6 +1,7 @@
 #include "support/card_test.h"
 
 #include "day/snapshot.h"
+#include "screen/told_ports.h"
 
 #include <algorithm>
 #include <array>
@@ -51,10 +52,6 @@ void clearAway(const fs::path& folder) {
 
 #endif
 
-std::string titled(const std::string& kind, const Text& title) {
-    return title.empty() ? kind + ": " : kind + " [" + title + "]: ";
-}
-
 } // namespace
 
 void writeLineCell(int lineNumber, int column, TextView cell) {
@@ -70,37 +67,13 @@ CardTest::CardTest() : folder_(freshFolder()), before_(fs::current_path()) {
     resetAll();
     journal.clear();
 
-    const auto record = [this](std::string text) { shown.push_back(std::move(text)); };
     const auto nextAnswer = [this]() -> std::optional<Text> {
         if (answers.empty()) return std::nullopt;
         Text answer = answers.front();
         answers.pop_front();
         return answer;
     };
-    ports = {};
-    ports.message = [=](const Text& text, const Text& title) { record(titled("message", title) + text); };
-    ports.question = [=](const Text& text, const Text& title) {
-        const bool yes = nextAnswer() == "Yes";
-        record(titled("question", title) + text + (yes ? " -> Yes" : " -> No"));
-        return yes;
-    };
-    ports.input = [=](const Text& text, const Text& title) {
-        const auto answer = nextAnswer();
-        record(titled("input", title) + text + " -> " + answer.value_or("(cancel)"));
-        return answer;
-    };
-    ports.beep = [=] { record("beep"); };
-    ports.view = [=](const FilePlace& file) { record("view: " + shownPath(file)); };
-    ports.browse = [=](const Text& address) { record("browse: " + address); };
-    ports.run = [=](const Text& program) { record("run: " + program); };
-    ports.hide = [=](const FilePlace& file) { record("hide: " + shownPath(file)); };
-    ports.error = [=](const Text& text) { record("error: " + text); };
-    ports.printLine = [=](const Text& line, PrintStyle style) {
-        record((style == PrintStyle::emphasised ? "print emphasised: " : "print: ") + line);
-    };
-    ports.printPage = [=] { record("print new page"); };
-    ports.printEnd = [=] { record("print end"); };
-    ports.end = [=] { record("end"); };
+    ports = toldPorts([this](const Text& line) { shown.push_back(line); }, nextAnswer);
 }
 
 CardTest::~CardTest() {
