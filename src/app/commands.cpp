@@ -11,7 +11,6 @@
 #include "app/frame.h"
 #include "app/help.h"
 #include "app/links.h"
-#include "app/settings_editors.h"
 #include "card/race_card.h"
 #include "core/failure.h"
 #include "day/card_load.h"

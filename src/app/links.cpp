@@ -7,15 +7,6 @@
 namespace quillon {
 namespace {
 
-// clang-format off
-constexpr const char* trottingPage  = "https://racing.ustrotting.com/";
-constexpr const char* videoPage     = "https://www.rtn.tv/";
-constexpr const char* weatherPage   = "https://www.weather.gov/";
-constexpr const char* resultsPage   = "https://www.trackmaster.com/tracks-breed-state-results.jsp"
-                                      "?breed=h&sortby=tracks.trackname";
-constexpr const char* revisionsPage = "https://www.tarnbeck.example/Revisions.html";
-// clang-format on
-
 Text lastLineOf(TextView content) {
     LineReader lines{content};
     TextView last;
@@ -32,14 +23,12 @@ void Reset() {
     ports.browse(address);
 }
 
-void USTA() { ports.browse(trottingPage); }
-
-void RTN() { ports.browse(videoPage); }
-
-void Weather() { ports.browse(weatherPage); }
-
-void TRC() { ports.browse(resultsPage); }
-
-void QLR() { ports.browse(revisionsPage); }
+// clang-format off
+void USTA()    { ports.browse("https://racing.ustrotting.com/"); }
+void RTN()     { ports.browse("https://www.rtn.tv/"); }
+void Weather() { ports.browse("https://www.weather.gov/"); }
+void TRC()     { ports.browse("https://www.trackmaster.com/tracks-breed-state-results.jsp?breed=h&sortby=tracks.trackname"); }
+void QLR()     { ports.browse("https://www.tarnbeck.example/Revisions.html"); }
+// clang-format on
 
 } // namespace quillon

@@ -5,6 +5,13 @@
 #include "screen/ports.h"
 
 namespace quillon {
+namespace {
+
+void showCardFile(Folder folder, TextView ending) { showInViewer(cardFile(folder, ending)); }
+
+void showWorkingFile(const char* name) { showInViewer({Folder::working, name}); }
+
+} // namespace
 
 void showInViewer(const FilePlace& file) {
     Text batch = "NOTEPAD " + shownPath(file);
@@ -13,39 +20,19 @@ void showInViewer(const FilePlace& file) {
     ports.view(file);
 }
 
-void ViewSummary() {
-    const Step step{"ViewSummary"};
-    showInViewer(cardFile(Folder::selections, "pms"));
-}
+// clang-format off
+void ViewSummary()          { showCardFile(Folder::selections,  "pms"); }
+void Pick3Selections()      { showCardFile(Folder::selections2, "pmr2"); }
+void ViewCondensedProgram() { showCardFile(Folder::programs,    "ppp"); }
+void DriverList()           { showCardFile(Folder::drivers,     "pmd2"); }
+void NotePad()              { showCardFile(Folder::results,     "pmr"); }
 
-void Pick3Selections() {
-    const Step step{"Pick3Selections"};
-    showInViewer(cardFile(Folder::selections2, "pmr2"));
-}
+void PrintSummary()         { showWorkingFile("Todays Results.txt"); }
+void TestResults()          { showWorkingFile("TEST.txt"); }
 
-void ViewCondensedProgram() {
-    const Step step{"ViewCondensedProgram"};
-    showInViewer(cardFile(Folder::programs, "ppp"));
-}
-
-void DriverList() {
-    const Step step{"DriverList"};
-    showInViewer(cardFile(Folder::drivers, "pmd2"));
-}
-
-void NotePad() {
-    const Step step{"NotePad"};
-    showInViewer(cardFile(Folder::results, "pmr"));
-}
-
-void PrintSummary() {
-    const Step step{"PrintSummary"};
-    showInViewer({Folder::working, "Todays Results.txt"});
-}
-
-void TestResults() {
-    const Step step{"TestResults"};
-    showInViewer({Folder::working, "TEST.txt"});
-}
+void ArchivesEditor()       { showWorkingFile("HRA.ini"); }
+void TrackEditor()          { showWorkingFile("TrackEditor.ini"); }
+void EXE()                  { showWorkingFile("Webpage.ini"); }
+// clang-format on
 
 } // namespace quillon

@@ -1,4 +1,4 @@
-// Every text of the system is read in the user's text viewer.
+// Every text of the system is read, and its settings are edited, in the user's text viewer.
 #pragma once
 
 #include "core/files.h"
@@ -19,5 +19,11 @@ void NotePad();              ///< results text, for the user to paste into
 // Texts of the working folder.
 void PrintSummary(); ///< what the selections earned today
 void TestResults();  ///< diagnostic log of the ratings
+
+// The plain files of the settings and the archive, for the user to edit. Nothing checks what is written
+// there.
+void ArchivesEditor(); ///< "HRA.ini", a line for each recorded card
+void TrackEditor();    ///< "TrackEditor.ini", a line for each track
+void EXE();            ///< "Webpage.ini", whose last line is the data vendor's download page
 
 } // namespace quillon

@@ -1,6 +1,5 @@
 #include "reports/viewers.h"
 
-#include "app/settings_editors.h"
 #include "core/failure.h"
 #include "sheet_test.h"
 
