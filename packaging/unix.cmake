@@ -23,6 +23,18 @@ if(TARGET quillon)
   install(FILES icons/quillon.svg DESTINATION ${icons}/scalable/apps)
 endif()
 
+# The version is CMake's; the files that tell the releases to packagers and shops begin with it.
+function(check_newest_release file pattern)
+  file(STRINGS ${file} releases REGEX "${pattern}")
+  list(GET releases 0 newest)
+  string(REPLACE "." "\\." version ${PROJECT_VERSION})
+  if(NOT newest MATCHES "[^0-9.]${version}[^0-9.]")
+    message(FATAL_ERROR "${file} does not begin with release ${PROJECT_VERSION}: ${newest}")
+  endif()
+endfunction()
+check_newest_release(debian/changelog "^quillon \\(")
+check_newest_release(example.tarnbeck.quillon.metainfo.xml "<release version=")
+
 install(FILES debian/copyright DESTINATION ${doc_folder})
 install_compressed(${CMAKE_CURRENT_SOURCE_DIR}/debian/changelog ${doc_folder} changelog.Debian.gz)
 
