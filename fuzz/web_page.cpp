@@ -16,8 +16,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
         fuzz::ensure(!address.empty() && trimmed(address) == address, "an address without blanks round it");
         fuzz::ensure(!contains(address, "\n"), "an address of one line");
     };
-    runCommand(*findCommand("Reset"), {});
-    runCommand(*findCommand("EXE"), {});
+    runCommand(command(CommandId::Reset), {});
+    runCommand(command(CommandId::EXE), {});
     ports.browse = [](const Text&) {};
     fuzz::ensure(pages <= 1, "one page at most");
     return 0;

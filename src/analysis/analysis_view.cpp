@@ -9,16 +9,16 @@ namespace {
 
 // What an analysis view may have hidden.
 constexpr std::array mainScreenItems{
-    MenuItem::NewRC,
-    MenuItem::RecallRaceCard,
-    MenuItem::ViewCondensedProgram,
-    MenuItem::ViewSummary,
-    MenuItem::PrintCondensedProgram,
-    MenuItem::CloseRC,
-    MenuItem::SelectionResults,
-    MenuItem::AutoRecord,
-    MenuItem::EBET,
-    MenuItem::Reset,
+    CommandId::NewRC,
+    CommandId::RecallRaceCard,
+    CommandId::ViewCondensedProgram,
+    CommandId::ViewSummary,
+    CommandId::PrintCondensedProgram,
+    CommandId::CloseRC,
+    CommandId::SelectionResults,
+    CommandId::AutoRecord,
+    CommandId::EBET,
+    CommandId::Reset,
 };
 
 } // namespace
@@ -28,7 +28,7 @@ void showAnalysisView(bool Screen::*view) {
                                       &Screen::tracksVisible, &Screen::picksVisible, &Screen::starsVisible})
         screen.*other = other == view;
     screen.racePanelsVisible = false;
-    screen.item(MenuItem::MainScreen).visible = true;
+    screen.item(CommandId::MainScreen).visible = true;
 }
 
 void layOut(Grid& view, int rows, std::span<const ViewColumn> columns) {
@@ -50,8 +50,8 @@ void MainScreen() {
     screen.caption = windowCaption;
     screen.width = 16250;
     screen.height = 11200;
-    for (const MenuItem item : mainScreenItems) screen.item(item).visible = true;
-    for (const MenuItem item : {MenuItem::PrintSummary, MenuItem::Print2, MenuItem::MainScreen})
+    for (const CommandId item : mainScreenItems) screen.item(item).visible = true;
+    for (const CommandId item : {CommandId::PrintSummary, CommandId::Print2, CommandId::MainScreen})
         screen.item(item).visible = false;
 }
 

@@ -196,7 +196,7 @@ void Profile2() {
     if (!scanArchive(TrackFilter{upperCase(filter)}, totals, *cards)) return clearProfile();
     fillProfile(totals, cards);
     showAnalysisView(&Screen::profileVisible);
-    screen.item(MenuItem::Print2).visible = true;
+    screen.item(CommandId::Print2).visible = true;
 }
 
 } // namespace quillon

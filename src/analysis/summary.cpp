@@ -51,9 +51,9 @@ constexpr std::array shownNumbers{
 
 // Another card is chosen from the main screen, not over its summary.
 void openView() {
-    screen.item(MenuItem::NewRC).enabled = false;
-    screen.item(MenuItem::RecallRaceCard).enabled = false;
-    screen.item(MenuItem::PrintSummary).visible = true;
+    screen.item(CommandId::NewRC).enabled = false;
+    screen.item(CommandId::RecallRaceCard).enabled = false;
+    screen.item(CommandId::PrintSummary).visible = true;
     showAnalysisView(&Screen::summaryVisible);
 }
 

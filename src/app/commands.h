@@ -1,12 +1,11 @@
-// The command table: a row for each thing a user can do. The window builds its menus and buttons from it, the
-// console its commands.
+// The command table: a row for each thing a user can do, with all that the front ends say and ask of it. The
+// console takes its commands from it, the window its menus, buttons, keys and tips.
 #pragma once
 
 #include "core/text.h"
-#include "screen/screen.h"
+#include "screen/command_id.h"
 
 #include <array>
-#include <optional>
 #include <span>
 
 namespace quillon {
@@ -25,23 +24,68 @@ struct Arguments {
     Text text{};
 };
 
-enum class Menu { none, file, navigation, tools, editor, analysis, profiles, help };
-
-struct Command {
-    const char* name;
-    const char* caption; ///< of the menu item or button; "" for boxes and lists
-    Menu menu;
-    Takes takes;
-    const char* argumentNames; ///< as a usage line shows them: "n TEXT"
-    void (*run)(const Arguments& arguments);
-    std::optional<MenuItem> item;                  ///< its state in the menus, for commands that have one
-    bool (*available)(const Arguments&) = nullptr; ///< beyond the menu's state; nullptr is always
+/// What becomes of the open card when the command is run.
+enum class Effect {
+    /// Nothing: the user looks at it, or it gives way as a whole (loads, recalls, closes), or what is there
+    /// is
+    /// saved and recorded.
+    keepsCard,
+    /// The store, a view or box of a race, or a file of the card may differ afterwards: a step that can be
+    /// taken back.
+    changesCard,
+    /// The same, and the board is shown anew without being stored: what was typed and not stored is gone.
+    dropsTyping,
 };
 
+/// The menu that a command stands in.
+enum class Menu {
+    none,
+    walk, ///< the head of the navigation menu: commands with a button of their own, here for the keyboard
+    file,
+    navigation,
+    tools,
+    editor,
+    analysis,
+    profiles,
+    help,
+};
+
+/// How a command is reached and called in the window: its menu item, its button, or its list.
+struct CommandItem {
+    Menu menu = Menu::none;
+    char letter = '\0';       ///< of the caption, underlined in the menu
+    const char* keys = "";    ///< "Ctrl+S"; several are separated by "; "
+    const char* caption = ""; ///< of the menu item, the button or the list; "" for boxes and cells
+    const char* hint = ""; ///< what it does; %1 is the race or horse of a button that stands in a row of many
+    bool hasMark = false;  ///< switches something on and off, which a mark tells
+};
+
+struct Command {
+    CommandId id{};
+    const char* name = "";
+    void (*run)(const Arguments& arguments) = nullptr;
+    Effect effect = Effect::keepsCard;
+    CommandItem item{};
+    Takes takes = Takes::nothing;
+    const char* argumentNames = "";                ///< as a usage line shows them: "n TEXT"
+    bool (*available)(const Arguments&) = nullptr; ///< beyond the state of its menu item; nullptr is always
+};
+
+/// All rows, in the order of their ids.
 std::span<const Command> commandTable();
 
+/// The row of an id.
+const Command& command(CommandId id);
+
 /// The row of this name (case counts), or nullptr.
-const Command* findCommand(TextView name);
+const Command* findCommand(TextView name, std::span<const Command> commands = commandTable());
+
+/// Whether it is an item of a menu, whose state is the screen's.
+bool isMenuItem(const Command& command);
+
+/// Whether running it may be a change of the card, and whether it may lose what was typed on the board.
+bool mayChangeCard(const Command& command);
+bool mayDropTyping(const Command& command);
 
 /// Whether the user can press it now: its menu item is shown and enabled, its button or list is there.
 bool isAvailable(const Command& command, const Arguments& arguments);

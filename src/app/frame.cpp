@@ -15,8 +15,9 @@ constexpr std::array sourceFiles{"DAMHR.DBF",  "RUNLINHR.DBF", "HORSEHR.DBF", "R
                                  "SIREHR.DBF", "TRAINRHR.DBF", "PTTRHR.DBF",  "DRIVERHR.DBF"};
 
 constexpr std::array newCardItems{
-    MenuItem::SelectionResults,      MenuItem::Entries, MenuItem::ViewSummary, MenuItem::ViewCondensedProgram,
-    MenuItem::PrintCondensedProgram,
+    CommandId::SelectionResults,      CommandId::Entries,
+    CommandId::ViewSummary,           CommandId::ViewCondensedProgram,
+    CommandId::PrintCondensedProgram,
 };
 
 void HideSourceFile(const char* name) {
@@ -34,7 +35,7 @@ void NewRC() {
     screen.start.enabled = true;
     screen.header.track.visible = true;
     screen.header.date.visible = true;
-    for (const MenuItem item : newCardItems) screen.item(item).enabled = true;
+    for (const CommandId item : newCardItems) screen.item(item).enabled = true;
     ports.run("FileManager.exe");
     ports.end();
 }

@@ -35,9 +35,9 @@ Text crossoverText() {
 // that is not written yet.
 void setMenu() {
     screen.menu.fill({});
-    for (const MenuItem hidden : {MenuItem::MainScreen, MenuItem::PrintSummary, MenuItem::Print2})
+    for (const CommandId hidden : {CommandId::MainScreen, CommandId::PrintSummary, CommandId::Print2})
         screen.item(hidden).visible = false;
-    screen.item(MenuItem::ViewSummary).enabled = false;
+    screen.item(CommandId::ViewSummary).enabled = false;
 }
 
 void setButtons() {

@@ -6,7 +6,6 @@
 #include "core/failure.h"
 #include "screen/told_ports.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace quillon {
@@ -102,9 +101,8 @@ void Console::takeCancel(std::optional<TextView> rest) {
 }
 
 void Console::takeCommand(TextView name, std::optional<TextView> rest) {
-    const auto command = std::find_if(commands_.begin(), commands_.end(),
-                                      [&](const Command& row) { return row.name == name; });
-    if (command == commands_.end()) return transcript_.line("unknown: " + Text{name});
+    const Command* command = findCommand(name, commands_);
+    if (command == nullptr) return transcript_.line("unknown: " + Text{name});
 
     const auto arguments = argumentsFor(command->takes, rest);
     const Text names = command->argumentNames;

@@ -7,7 +7,6 @@
 
 #include <array>
 #include <optional>
-#include <utility>
 
 namespace quillon {
 namespace {
@@ -162,10 +161,9 @@ void showButtons(Transcript& transcript) {
 }
 
 void showMenu(std::span<const Command> commands, Transcript& transcript) {
-    std::array<bool, static_cast<std::size_t>(MenuItem::count)> printed{};
     for (const Command& command : commands) {
-        if (!command.item || std::exchange(printed[static_cast<std::size_t>(*command.item)], true)) continue;
-        const MenuState& state = screen.item(*command.item);
+        if (!isMenuItem(command)) continue;
+        const MenuState& state = screen.item(command.id);
         const char* const shown = !state.visible ? "hidden" : state.enabled ? "enabled" : "disabled";
         transcript.line(Text{command.name} + "\t" + shown + (state.checked ? "\tchecked" : ""));
     }

@@ -76,8 +76,8 @@ void markAsLoaded() {
     screen.start.enabled = false;
     screen.offer(StartOffer::selectRace);
     screen.mode = CardMode::loaded;
-    screen.item(MenuItem::NewRC).enabled = false;
-    screen.item(MenuItem::RecallRaceCard).enabled = false;
+    screen.item(CommandId::NewRC).enabled = false;
+    screen.item(CommandId::RecallRaceCard).enabled = false;
 }
 
 void showSelectionsOfRaceOne() {

@@ -261,9 +261,10 @@ void RecallRaceCard() {
     card.recallMode = "R";
     screen.fileList = {.lines = filesIn(Folder::raceCards, ".pmd"), .visible = true};
     for (std::size_t at = 1; at < screen.entryButtons.size(); ++at) screen.entryButtons[at].enabled = true;
-    for (const MenuItem item : {MenuItem::NewRC, MenuItem::RecallRaceCard}) screen.item(item).enabled = false;
-    for (const MenuItem item : {MenuItem::SelectionResults, MenuItem::Entries, MenuItem::ViewSummary,
-                                MenuItem::ViewCondensedProgram, MenuItem::PrintCondensedProgram})
+    for (const CommandId item : {CommandId::NewRC, CommandId::RecallRaceCard})
+        screen.item(item).enabled = false;
+    for (const CommandId item : {CommandId::SelectionResults, CommandId::Entries, CommandId::ViewSummary,
+                                 CommandId::ViewCondensedProgram, CommandId::PrintCondensedProgram})
         screen.item(item).enabled = true;
     screen.raceChecks[1].visible = true;
     screen.raceChecks[1].caption = "1";
@@ -275,7 +276,7 @@ void ChooseFile(const Text& fileName) {
     card.recallMode =
         "R"; // also where a move of the races or a results pass has ended it since the list came up
     screen.fileList.visible = false;
-    screen.item(MenuItem::ViewSummary).enabled = true;
+    screen.item(CommandId::ViewSummary).enabled = true;
     screen.start.enabled = true;
     screen.record.enabled = false; // until the card's own summary
     card.raceCount = 0;

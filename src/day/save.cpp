@@ -124,8 +124,8 @@ void CloseRC() {
     else if (!card.cardFileName.empty())
         Save_It();
 
-    screen.item(MenuItem::NewRC).enabled = true;
-    screen.item(MenuItem::RecallRaceCard).enabled = true;
+    screen.item(CommandId::NewRC).enabled = true;
+    screen.item(CommandId::RecallRaceCard).enabled = true;
     screen.clearCardViews();
     for (int race = 1; race <= ratedRaces; ++race)
         screen.dataView[static_cast<std::size_t>(race)](0, DataColumn::entry)

@@ -2,6 +2,7 @@
 
 #include "analysis/profile_cards.h"
 #include "analysis/summary.h"
+#include "desktop/command_texts.h"
 #include "desktop/shown_text.h"
 
 #include <QVBoxLayout>
@@ -14,24 +15,23 @@ namespace {
 
 /// A button below the tables and the page it belongs to; nullptr is all of them.
 struct PageButton {
-    const char* command;
+    CommandId command;
     bool Screen::*page;
-    const char* tip;
 };
 
 // clang-format off
 constexpr std::array pageButtons{
-    PageButton{"Record",       &Screen::summaryVisible, "Add this card to the archive, once"},
-    PageButton{"PrintSummary", &Screen::summaryVisible, "Read the day's results in the text viewer, to print them"},
-    PageButton{"ALL",          &Screen::profileVisible, "All recorded cards"},
-    PageButton{"Select",       &Screen::profileVisible, "The cards of a track"},
-    PageButton{"HALF",         &Screen::profileVisible, "The cards of half-mile tracks"},
-    PageButton{"FIVE",         &Screen::profileVisible, "The cards of five-eighths-mile tracks"},
-    PageButton{"Seven",        &Screen::profileVisible, "The cards of seven-eighths-mile tracks"},
-    PageButton{"MILE",         &Screen::profileVisible, "The cards of one-mile tracks"},
-    PageButton{"QUARTER",      &Screen::profileVisible, "The cards of tracks of a mile and a quarter"},
-    PageButton{"Print2",       &Screen::profileVisible, "Read the profile in the text viewer, to print it"},
-    PageButton{"MainScreen",   nullptr,                 "Back to the races (Ctrl+M)"},
+    PageButton{CommandId::Record,       &Screen::summaryVisible},
+    PageButton{CommandId::PrintSummary, &Screen::summaryVisible},
+    PageButton{CommandId::ALL,          &Screen::profileVisible},
+    PageButton{CommandId::Select,       &Screen::profileVisible},
+    PageButton{CommandId::HALF,         &Screen::profileVisible},
+    PageButton{CommandId::FIVE,         &Screen::profileVisible},
+    PageButton{CommandId::Seven,        &Screen::profileVisible},
+    PageButton{CommandId::MILE,         &Screen::profileVisible},
+    PageButton{CommandId::QUARTER,      &Screen::profileVisible},
+    PageButton{CommandId::Print2,       &Screen::profileVisible},
+    PageButton{CommandId::MainScreen,   nullptr},
 };
 
 // Widths in twips. A column grows with what its first rows hold; the totals stand there, and no card below them
@@ -78,11 +78,6 @@ std::vector<int> pickWidths() {
     return widths;
 }
 
-QString captionOf(const char* command) { return shown(findCommand(command)->caption).simplified(); }
-
-// An "&" of a caption would underline the letter behind it.
-QString onButton(QString caption) { return caption.replace("&", "&&"); }
-
 } // namespace
 
 AnalysisPanel::AnalysisPanel(CommandRunner& runner, Appearance& appearance, QWidget* parent)
@@ -128,7 +123,7 @@ void AnalysisPanel::buildSummary() {
     table->setEmptyRowsHidden(); // those of a full card between the last race and the totals
     table->setFirstColumnFrozen();
     stack_->addWidget(table);
-    pages_.push_back({&Screen::summaryVisible, captionOf("SelectionResults"), table, table});
+    pages_.push_back({&Screen::summaryVisible, captionOf(CommandId::SelectionResults), table, table});
 }
 
 void AnalysisPanel::buildProfile() {
@@ -158,7 +153,7 @@ void AnalysisPanel::buildTracks() {
     auto* tracks = add("TracksTable", tr("Wins by track"), 0, lastTrackColumn);
     add("SizesTable", tr("Wins by track size"), firstSizeColumn, lastSizeColumn);
     stack_->addWidget(page);
-    pages_.push_back({&Screen::tracksVisible, captionOf("Track_Profile"), page, tracks});
+    pages_.push_back({&Screen::tracksVisible, captionOf(CommandId::Track_Profile), page, tracks});
 }
 
 void AnalysisPanel::buildPicks() {
@@ -167,19 +162,18 @@ void AnalysisPanel::buildPicks() {
     table->cells().setRightAligned(0, pickColumns - 1);
     table->setEmptyRowsHidden();
     stack_->addWidget(table);
-    pages_.push_back({&Screen::picksVisible, captionOf("Pick3Results"), table, table});
+    pages_.push_back({&Screen::picksVisible, captionOf(CommandId::Pick3Results), table, table});
 }
 
 void AnalysisPanel::buildButtons(QHBoxLayout& row) {
     for (const PageButton& button : pageButtons) {
         if (!button.page) row.addStretch(1); // the way back stands apart
-        const QString caption = captionOf(button.command);
-        auto* made = new QPushButton{onButton(caption), this};
-        made->setObjectName(QString{"Analysis"} + button.command);
-        made->setProperty("command", button.command);
-        made->setAccessibleName(caption);
-        made->setToolTip(tr(button.tip));
-        connect(made, &QPushButton::clicked, this, [this, name = button.command] { runner_.run(name); });
+        auto* made = new QPushButton{buttonCaption(button.command), this};
+        made->setObjectName("Analysis" + nameOf(button.command));
+        setCommand(*made, button.command);
+        made->setAccessibleName(captionOf(button.command));
+        made->setToolTip(tipOf(button.command));
+        connect(made, &QPushButton::clicked, this, [this, id = button.command] { runner_.run(id); });
         row.addWidget(made);
         buttons_.push_back(made);
     }

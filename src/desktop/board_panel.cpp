@@ -1,5 +1,6 @@
 #include "desktop/board_panel.h"
 
+#include "desktop/command_texts.h"
 #include "desktop/shown_text.h"
 #include "results/board.h"
 
@@ -7,7 +8,6 @@
 #include <QHBoxLayout>
 #include <QPalette>
 
-#include <algorithm>
 #include <utility>
 
 namespace quillon {
@@ -71,9 +71,6 @@ constexpr std::array boxTenColumn{0, toteColumn + 2, toteColumn + 3};
 constexpr std::array boxTenName{"Dead heat payoff", "Win payoff of the second winner",
                                 "Place payoff of the other second"};
 
-// Commands that show a race anew and take nothing of the board into the store.
-constexpr std::array droppingCommands{"RaceButton", "RaceList", "AutoRecord", "EBET"};
-
 QFrame* rule(QWidget* parent) {
     auto* line = new QFrame{parent};
     line->setFrameShape(QFrame::VLine);
@@ -132,11 +129,11 @@ QLabel* BoardPanel::addLabel(const QString& text, int row, int column) {
     return label;
 }
 
-QLineEdit* BoardPanel::addEntry(const QString& objectName, const QString& name, const char* command,
+QLineEdit* BoardPanel::addEntry(const QString& objectName, const QString& name, CommandId id,
                                 std::function<void(const Text&)> send) {
     auto* edit = new QLineEdit{this};
     edit->setObjectName(objectName);
-    edit->setProperty("command", command);
+    setCommand(*edit, id);
     edit->setAccessibleName(name);
     edit->setToolTip(name);
     edit->setMaxLength(longestText);
@@ -150,9 +147,9 @@ void BoardPanel::buildRunners() {
     for (std::size_t i = 0; i < runnerBoxes.size(); ++i) {
         const RunnerBox& place = runnerBoxes[i];
         const auto number = static_cast<int>(i);
-        boxes_[i] =
-            addEntry(QString{"Box%1"}.arg(number), tr(place.name), "Box", [this, number](const Text& text) {
-                runner_.run("Box", Arguments{.numbers = {number, 0, 0}, .text = text});
+        boxes_[i] = addEntry(
+            QString{"Box%1"}.arg(number), tr(place.name), CommandId::Box, [this, number](const Text& text) {
+                runner_.run(CommandId::Box, Arguments{.numbers = {number, 0, 0}, .text = text});
             });
         boxes_[i]->setAlignment(Qt::AlignCenter);
         QLabel* caption = addLabel(tr(place.caption), place.row - 1, runnerColumn + place.column);
@@ -167,8 +164,8 @@ void BoardPanel::buildTote() {
     heading_->setObjectName("ToteHeading");
     const auto addPayoff = [this](int box, const char* name) {
         QLineEdit* edit =
-            addEntry(QString{"Tote%1"}.arg(box), tr(name), "Tote", [this, box](const Text& text) {
-                runner_.run("Tote", Arguments{.numbers = {box, 0, 0}, .text = text});
+            addEntry(QString{"Tote%1"}.arg(box), tr(name), CommandId::Tote, [this, box](const Text& text) {
+                runner_.run(CommandId::Tote, Arguments{.numbers = {box, 0, 0}, .text = text});
             });
         edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         return tote_.at(static_cast<std::size_t>(box)) = edit;
@@ -202,10 +199,9 @@ void BoardPanel::buildTote() {
 }
 
 void BoardPanel::buildWideBoxes() {
-    refunds_ = addEntry("Refunds", tr("Refunds"), "Refunds",
-                        [this](const Text& text) { runner_.run("Refunds", textArgument(text)); });
-    refunds_->setToolTip(
-        tr("Program numbers scratched. A scratch adds them; what is typed here is not kept."));
+    refunds_ = addEntry("Refunds", captionOf(CommandId::Refunds), CommandId::Refunds,
+                        [this](const Text& text) { runner_.run(CommandId::Refunds, textArgument(text)); });
+    refunds_->setToolTip(tipOf(CommandId::Refunds));
     struct WideBox {
         const char* caption;
         QLineEdit* edit;
@@ -263,10 +259,8 @@ void BoardPanel::handIn() {
     if (!texts.empty()) refresh();
 }
 
-void BoardPanel::takeUp(const QString& command) {
-    const bool mayDrop =
-        std::find(droppingCommands.begin(), droppingCommands.end(), command) != droppingCommands.end();
-    if (mayDrop && unkept_ > 0 && !boardHasUnkeptTyping()) emit typingDropped(unkept_);
+void BoardPanel::takeUp(CommandId id) {
+    if (mayDropTyping(command(id)) && unkept_ > 0 && !boardHasUnkeptTyping()) emit typingDropped(unkept_);
 }
 
 void BoardPanel::placeBoxTen() {

@@ -3,6 +3,7 @@
 
 #include "desktop/appearance.h"
 #include "desktop/command_runner.h"
+#include "screen/screen.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -41,11 +42,11 @@ private:
     void buildWideBoxes();
     void buildTabOrder();
     QLabel* addLabel(const QString& text, int row, int column);
-    QLineEdit* addEntry(const QString& objectName, const QString& name, const char* command,
+    QLineEdit* addEntry(const QString& objectName, const QString& name, CommandId id,
                         std::function<void(const Text&)> send);
     void lay();
     void handIn();
-    void takeUp(const QString& command);
+    void takeUp(CommandId id);
     void placeBoxTen();
     void tint();
 

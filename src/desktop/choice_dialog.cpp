@@ -1,5 +1,6 @@
 #include "desktop/choice_dialog.h"
 
+#include "desktop/command_texts.h"
 #include "desktop/shown_text.h"
 #include "results/board.h"
 #include "screen/race_views.h"
@@ -136,18 +137,17 @@ void ChoiceDialog::buildFrame() {
 void ChoiceDialog::buildPages() {
     constexpr std::size_t lists = 3;
     pages_.reserve(lists); // they are pointed at
-    Page& cards = addPage(&Screen::fileList, "ChooseFile", tr("Recall Race Card"),
+    Page& cards = addPage(&Screen::fileList, CommandId::ChooseFile,
                           tr("There is no saved card in the folder \"Race Cards\" yet."));
     cards.view->setHeaderHidden(false);
     cards.view->setSortingEnabled(true);
     cards.view->sortByColumn(date, Qt::DescendingOrder); // the latest card is the likeliest
     cards.view->header()->setStretchLastSection(true);
-    addPage(&Screen::trackList, "SelectTrack", tr("Select Track"), tr("There is no track yet."));
-    addPage(&Screen::driverList, "DriverChoice", tr("Change Driver"), tr("There is no driver yet."));
+    addPage(&Screen::trackList, CommandId::SelectTrack, tr("There is no track yet."));
+    addPage(&Screen::driverList, CommandId::DriverChoice, tr("There is no driver yet."));
 }
 
-ChoiceDialog::Page& ChoiceDialog::addPage(ChoiceList Screen::*list, const char* command, const QString& title,
-                                          const QString& empty) {
+ChoiceDialog::Page& ChoiceDialog::addPage(ChoiceList Screen::*list, CommandId command, const QString& empty) {
     auto* lines = new ChoiceModel{theScreen.*list, list == &Screen::fileList, this};
     auto* found = new QSortFilterProxyModel{this};
     found->setSourceModel(lines);
@@ -156,9 +156,9 @@ ChoiceDialog::Page& ChoiceDialog::addPage(ChoiceList Screen::*list, const char* 
     found->setFilterCaseSensitivity(Qt::CaseInsensitive);
     found->setFilterKeyColumn(-1);
     auto* view = new QTreeView{stack_};
-    view->setObjectName(command);
-    view->setProperty("command", command);
-    view->setAccessibleName(title);
+    view->setObjectName(nameOf(command));
+    setCommand(*view, command);
+    view->setAccessibleName(captionOf(command));
     view->setModel(found);
     view->setUniformRowHeights(true); // ten thousand rows are laid out at once
     view->setRootIsDecorated(false);
@@ -166,7 +166,7 @@ ChoiceDialog::Page& ChoiceDialog::addPage(ChoiceList Screen::*list, const char* 
     view->setAllColumnsShowFocus(true);
     view->installEventFilter(this);
     stack_->addWidget(view);
-    pages_.push_back({list, command, title, empty, lines, found, view});
+    pages_.push_back({list, command, empty, lines, found, view});
     Page& page = pages_.back();
     connect(view, &QTreeView::doubleClicked, this,
             [this, &page](const QModelIndex& index) { pick(page, index); });
@@ -241,7 +241,7 @@ void ChoiceDialog::refresh() {
 void ChoiceDialog::openPage(Page& page) {
     page.waits = false;
     current_ = &page;
-    setWindowTitle(page.title);
+    setWindowTitle(captionOf(page.command));
     stack_->setCurrentWidget(page.view);
     filter_->clear();
     find({});
@@ -257,8 +257,8 @@ void ChoiceDialog::showState() {
         std::find_if(pages_.begin(), pages_.end(), [](const Page& page) { return page.waits; });
     waiting_->setVisible(waits != pages_.end());
     if (waits != pages_.end()) {
-        waiting_->setText(waits->title + "...");
-        waiting_->setAccessibleName(waits->title);
+        waiting_->setText(buttonCaption(waits->command) + "...");
+        waiting_->setAccessibleName(captionOf(waits->command));
         waiting_->setToolTip(tr("The list is still open: pick a line of it"));
         waiting_->setShortcut(QKeySequence::Open); // the menu's item has none of its own meanwhile
     }

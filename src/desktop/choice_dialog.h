@@ -3,6 +3,7 @@
 
 #include "desktop/appearance.h"
 #include "desktop/command_runner.h"
+#include "screen/screen.h"
 
 #include <QAbstractTableModel>
 #include <QDialog>
@@ -70,9 +71,8 @@ protected:
 private:
     struct Page {
         ChoiceList Screen::*list;
-        const char* command;
-        QString title;
-        QString empty; ///< shown in place of a list without lines
+        CommandId command; ///< that a pick sends
+        QString empty;     ///< shown in place of a list without lines
         ChoiceModel* lines;
         QSortFilterProxyModel* found;
         QTreeView* view;
@@ -80,7 +80,7 @@ private:
         bool waits = false; ///< put aside without a pick
     };
 
-    Page& addPage(ChoiceList Screen::*list, const char* command, const QString& title, const QString& empty);
+    Page& addPage(ChoiceList Screen::*list, CommandId command, const QString& empty);
     void buildPages();
     void buildFrame();
     void buildWaitingButton();

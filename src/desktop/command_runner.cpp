@@ -2,26 +2,22 @@
 
 #include "core/failure.h"
 
-#include <QtGlobal>
-
 namespace quillon {
 
-bool CommandRunner::canRun(const char* name, const Arguments& arguments) {
-    const Command* command = findCommand(name);
-    Q_ASSERT(command);
+bool CommandRunner::canRun(CommandId id, const Arguments& arguments) {
     bool available = false;
-    attempt([&] { available = isAvailable(*command, arguments); });
+    attempt([&] { available = isAvailable(command(id), arguments); });
     return available;
 }
 
-bool CommandRunner::run(const char* name, const Arguments& arguments) {
+bool CommandRunner::run(CommandId id, const Arguments& arguments) {
     if (running_) return false;
     emit aboutToRun();
-    if (!canRun(name, arguments)) return false;
+    if (!canRun(id, arguments)) return false;
     running_ = true;
-    runCommand(*findCommand(name), arguments);
+    runCommand(command(id), arguments);
     running_ = false;
-    emit ran(name);
+    emit ran(id);
     return true;
 }
 

@@ -7,7 +7,7 @@
 
 namespace quillon {
 
-/// Runs commands of the table by name, one at a time. A command that is not available, or that comes while
+/// Runs commands of the table, one at a time. A command that is not available, or that comes while
 /// another one waits for an answer of the user, is not run.
 class CommandRunner : public QObject {
     Q_OBJECT
@@ -15,17 +15,17 @@ class CommandRunner : public QObject {
 public:
     using QObject::QObject;
 
-    /// True when the command was run. The name must be one of the table's.
-    bool run(const char* name, const Arguments& arguments = {});
+    /// True when the command was run.
+    bool run(CommandId id, const Arguments& arguments = {});
 
     bool isRunning() const { return running_; }
 
     /// Whether the user can press it now.
-    static bool canRun(const char* name, const Arguments& arguments = {});
+    static bool canRun(CommandId id, const Arguments& arguments = {});
 
 signals:
-    void aboutToRun();                ///< boxes that are still being typed in hand in their text first
-    void ran(const QString& command); ///< the screen may have changed: draw it again
+    void aboutToRun();      ///< boxes that are still being typed in hand in their text first
+    void ran(CommandId id); ///< the screen may have changed: draw it again
 
 private:
     bool running_ = false;

@@ -3,6 +3,7 @@
 #include "card/race_card.h"
 #include "core/failure.h"
 #include "core/files.h"
+#include "desktop/command_texts.h"
 #include "desktop/shown_text.h"
 #include "desktop/working_folder.h"
 
@@ -105,14 +106,14 @@ void EmptyPanel::buildButtons() {
         made->setAccessibleName(QString{text}.remove('&'));
         return made;
     };
-    start_ = button("EmptyStart", {}, tr("Load and rate the card of the vendor's tables (F5)"));
-    start_->setProperty("command", "Start");
+    start_ = button("EmptyStart", {}, tipOf(CommandId::Start));
+    setCommand(*start_, CommandId::Start);
     open_ = button("OpenFolder", tr("&Open the Folder"), tr("Show the folder in the file manager"));
-    recall_ = button("EmptyRecall", tr("&Recall a Saved Card"), tr("Open a card that was saved before"));
-    recall_->setProperty("command", "RecallRaceCard");
-    connect(start_, &QPushButton::clicked, this, [this] { runner_.run("Start"); });
+    recall_ = button("EmptyRecall", tr("&Recall a Saved Card"), tipOf(CommandId::RecallRaceCard));
+    setCommand(*recall_, CommandId::RecallRaceCard);
+    connect(start_, &QPushButton::clicked, this, [this] { runner_.run(CommandId::Start); });
     connect(open_, &QPushButton::clicked, this, &EmptyPanel::openFolder);
-    connect(recall_, &QPushButton::clicked, this, [this] { runner_.run("RecallRaceCard"); });
+    connect(recall_, &QPushButton::clicked, this, [this] { runner_.run(CommandId::RecallRaceCard); });
     setTabOrder(start_, open_);
     setTabOrder(open_, recall_);
 }
@@ -137,8 +138,8 @@ void EmptyPanel::refresh() {
     lookForTables();
     start_->setText(shown(theScreen.start.caption));
     start_->setAccessibleName(start_->text());
-    start_->setEnabled(CommandRunner::canRun("Start"));
-    recall_->setEnabled(CommandRunner::canRun("RecallRaceCard"));
+    start_->setEnabled(CommandRunner::canRun(CommandId::Start));
+    recall_->setEnabled(CommandRunner::canRun(CommandId::RecallRaceCard));
 }
 
 void EmptyPanel::lookForTables() {
@@ -165,8 +166,8 @@ void EmptyPanel::openFolder() {
     notice_->setText(tr("The folder could not be opened from here. Its path stands above."));
 }
 
-void EmptyPanel::takeUp(const QString& command) {
-    if (command != "Start" || cardIsOpen()) return;
+void EmptyPanel::takeUp(CommandId id) {
+    if (id != CommandId::Start || cardIsOpen()) return;
     lookForTables();
     const QString why = there_[raceTable] ? tr("Start found no race: %1 holds none, or is no table.")
                                           : tr("Start found no race: %1 is not in the folder.");

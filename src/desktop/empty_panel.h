@@ -34,7 +34,7 @@ private:
     void lay();
     void lookForTables();
     void openFolder();
-    void takeUp(const QString& command);
+    void takeUp(CommandId id);
 
     CommandRunner& runner_;
     Appearance& appearance_;

@@ -242,9 +242,9 @@ void MainWindow::refresh() {
 }
 
 // A save that went well says nothing of its own.
-void MainWindow::tellSaved(const QString& command) {
+void MainWindow::tellSaved(CommandId id) {
     constexpr int aGlance = 8000; // milliseconds
-    if (command != "Save" || !cardIsOpen() || ports_->errorShown()) return;
+    if (id != CommandId::Save || !cardIsOpen() || ports_->errorShown()) return;
     statusBar()->showMessage(tr("The card is saved as %1").arg(shown(card.cardFileName)), aGlance);
 }
 
@@ -253,7 +253,7 @@ void MainWindow::takeUpEnd() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!ports_->ended()) runner_.run("CloseWindow");
+    if (!ports_->ended()) runner_.run(CommandId::CloseWindow);
     if (!ports_->ended()) return event->ignore();
     keepLook();
     event->accept();

@@ -56,7 +56,7 @@ private:
     void restoreLook();
     void keepLook() const;
     void takeUpEnd();
-    void tellSaved(const QString& command);
+    void tellSaved(CommandId id);
     void leaveOverviewWithTheRace();
     QWidget* pageWanted() const;
 

@@ -1,5 +1,4 @@
-// The menus, made from the command table: captions and places are the table's, their states the screen's.
-// Here stand the keys and the hints.
+// The menus, made from the command table: what stands in an item is the table's, its state the screen's.
 #pragma once
 
 #include "desktop/command_runner.h"
@@ -10,8 +9,6 @@
 #include <QObject>
 
 #include <map>
-#include <string_view>
-#include <vector>
 
 namespace quillon {
 
@@ -25,18 +22,17 @@ public:
     void refresh();
 
     /// The item of a command; every command with a menu has one.
-    QAction* action(std::string_view command) const;
+    QAction* action(CommandId id) const;
 
     QMenu* menu(Menu menu) const; ///< none for `Menu::none`
 
 private:
-    void addCommands();
-    void addWalk();
-    QAction* addCommand(QMenu& menu, const Command& command);
+    void addCommands(Menu menu);
+    void addCommand(QMenu& menu, const Command& command);
 
     CommandRunner& runner_;
     std::map<Menu, QMenu*> menus_;
-    std::map<std::string_view, QAction*> actions_;
+    std::map<CommandId, QAction*> actions_;
 };
 
 } // namespace quillon

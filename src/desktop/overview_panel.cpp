@@ -1,6 +1,7 @@
 #include "desktop/overview_panel.h"
 
 #include "card/race_card.h"
+#include "desktop/command_texts.h"
 #include "desktop/shown_text.h"
 #include "reports/card_overview.h"
 #include "results/board.h"
@@ -63,7 +64,7 @@ OverviewPanel::OverviewPanel(CommandRunner& runner, Appearance& appearance, QWid
     column->addWidget(table_);
 
     table_->setObjectName("OverviewTable");
-    table_->setProperty("command", "RaceButton");
+    setCommand(*table_, CommandId::RaceButton);
     table_->setFonts(9, 10, false);
     table_->setRowHeight(rowTwips);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -109,7 +110,7 @@ void OverviewPanel::open(const QModelIndex& index) {
             table_);
         return;
     }
-    if (runner_.run("RaceButton", numberArgument(race))) emit raceOpened();
+    if (runner_.run(CommandId::RaceButton, numberArgument(race))) emit raceOpened();
 }
 
 void OverviewPanel::goToRaceOnShow() {

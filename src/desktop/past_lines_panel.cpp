@@ -3,6 +3,7 @@
 #include "card/columns.h"
 #include "card/race_card.h"
 #include "desktop/cell_table_view.h"
+#include "desktop/command_texts.h"
 #include "desktop/row_buttons.h"
 #include "desktop/shown_text.h"
 #include "results/board.h"
@@ -139,14 +140,15 @@ QWidget* EntryLinesFrame::buildHead() {
     shades_ = new ShadeLegend{head};
     edit_ = new QPushButton{tr("Race E&ditor"), head};
     edit_->setObjectName("Command7");
-    edit_->setProperty("command", "Command7");
-    edit_->setToolTip(tr("Take a line by its number"));
-    connect(edit_, &QPushButton::clicked, this, [this] { runner_.run("Command7"); });
+    setCommand(*edit_, CommandId::Command7);
+    edit_->setToolTip(tipOf(CommandId::Command7));
+    connect(edit_, &QPushButton::clicked, this, [this] { runner_.run(CommandId::Command7); });
     close_ = new QPushButton{tr("&Close"), head};
     close_->setObjectName("LineButton0");
-    close_->setProperty("command", "Command3");
+    setCommand(*close_, CommandId::Command3);
     close_->setToolTip(tr("Close the past lines of this entry (Esc)"));
-    connect(close_, &QPushButton::clicked, this, [this] { runner_.run("Command3", numberArgument(0)); });
+    connect(close_, &QPushButton::clicked, this,
+            [this] { runner_.run(CommandId::Command3, numberArgument(0)); });
     auto* row = new QHBoxLayout{head};
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(10);
@@ -177,9 +179,9 @@ void EntryLinesFrame::buildLineButtons() {
     for (int row = 1; row <= lineButtons; ++row) {
         QPushButton* button = buttons_->add(column, row);
         button->setObjectName(QString{"LineButton%1"}.arg(row));
-        button->setProperty("command", "Command3");
+        setCommand(*button, CommandId::Command3);
         connect(button, &QPushButton::clicked, this,
-                [this, row] { runner_.run("Command3", numberArgument(row)); });
+                [this, row] { runner_.run(CommandId::Command3, numberArgument(row)); });
         lines_.push_back(button);
     }
 }
@@ -207,7 +209,7 @@ void EntryLinesFrame::refreshButton(int row, const LineInUse& used) {
     const auto [mark, meaning] = markOf(row, used);
     button.setEnabled(!number.isEmpty());
     button.setText(mark.isEmpty() ? number : mark + ' ' + number);
-    button.setToolTip(meaning.isEmpty() ? tr("Take line %1").arg(number)
+    button.setToolTip(meaning.isEmpty() ? tipOf(CommandId::Command3, number)
                                         : tr("Line %1: %2").arg(number, meaning));
     button.setAccessibleName(meaning.isEmpty() ? tr("Take line %1").arg(number)
                                                : tr("Take line %1, %2").arg(number, meaning));

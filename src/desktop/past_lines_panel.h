@@ -4,6 +4,7 @@
 #include "desktop/appearance.h"
 #include "desktop/command_runner.h"
 #include "results/race_display.h"
+#include "screen/screen.h"
 
 #include <QFrame>
 #include <QLabel>

@@ -1,5 +1,6 @@
 #include "desktop/race_bar.h"
 
+#include "desktop/command_texts.h"
 #include "desktop/shown_text.h"
 
 #include <QEvent>
@@ -28,27 +29,25 @@ RaceBar::RaceBar(CommandRunner& runner, Appearance& appearance, QWidget* parent)
 
     start_ = new QPushButton{this};
     start_->setObjectName("Start");
-    start_->setProperty("command", "Start");
-    start_->setToolTip(tr("Load and rate the card of the vendor's tables (F5)"));
-    connect(start_, &QPushButton::clicked, this, [this] { runner_.run("Start"); });
+    setCommand(*start_, CommandId::Start);
+    start_->setToolTip(tipOf(CommandId::Start));
+    connect(start_, &QPushButton::clicked, this, [this] { runner_.run(CommandId::Start); });
     row->addWidget(start_);
 
-    const auto arrow = [&](Qt::ArrowType type, const char* command, const QString& name, const QString& tip) {
+    const auto arrow = [&](Qt::ArrowType type, CommandId id, const QString& name) {
         auto* button = new QToolButton{this};
         button->setArrowType(type);
-        button->setObjectName(command);
-        button->setProperty("command", command);
+        button->setObjectName(nameOf(id));
+        setCommand(*button, id);
         button->setAccessibleName(name);
-        button->setToolTip(tip);
+        button->setToolTip(tipOf(id));
         button->setFocusPolicy(Qt::StrongFocus);
-        connect(button, &QToolButton::clicked, this, [this, command] { runner_.run(command); });
+        connect(button, &QToolButton::clicked, this, [this, id] { runner_.run(id); });
         row->addWidget(button);
         return button;
     };
-    previous_ = arrow(Qt::LeftArrow, "Previous", tr("Previous race"),
-                      tr("Store the board and go to the race before (Alt+Left)"));
-    next_ = arrow(Qt::RightArrow, "Next", tr("Next race"),
-                  tr("Store the board and go to the next race (Alt+Right)"));
+    previous_ = arrow(Qt::LeftArrow, CommandId::Previous, tr("Previous race"));
+    next_ = arrow(Qt::RightArrow, CommandId::Next, tr("Next race"));
 
     for (QWidget* button :
          {static_cast<QWidget*>(start_), static_cast<QWidget*>(previous_), static_cast<QWidget*>(next_)})
@@ -63,11 +62,10 @@ void RaceBar::buildRaces() {
     for (int n = 1; n < static_cast<int>(theScreen.raceButtons.size()); ++n) {
         auto* button = new QPushButton{strip_};
         button->setObjectName(QString{"RaceButton%1"}.arg(n));
-        button->setProperty("command", "RaceButton");
-        button->setToolTip(
-            tr("Show race %1. The arrows keep what was typed on the board; this button does not.").arg(n));
+        setCommand(*button, CommandId::RaceButton);
+        button->setToolTip(tipOf(CommandId::RaceButton, QString::number(n)));
         connect(button, &QPushButton::clicked, this,
-                [this, n] { runner_.run("RaceButton", numberArgument(n)); });
+                [this, n] { runner_.run(CommandId::RaceButton, numberArgument(n)); });
         races_.push_back(button);
     }
     strip_->installEventFilter(this);

@@ -1,5 +1,6 @@
 #include "desktop/race_list_panel.h"
 
+#include "desktop/command_texts.h"
 #include "desktop/shown_text.h"
 
 #include <QVBoxLayout>
@@ -24,10 +25,9 @@ RaceListPanel::RaceListPanel(CommandRunner& runner, Appearance& appearance, QWid
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(list_);
     list_->setObjectName("RaceList");
-    list_->setProperty("command", "RaceList");
-    list_->setAccessibleName(tr("Races of the card"));
-    list_->setToolTip(tr(
-        "A double click, or Enter, shows a race. What was typed on the board is kept by the arrows alone."));
+    setCommand(*list_, CommandId::RaceList);
+    list_->setAccessibleName(captionOf(CommandId::RaceList));
+    list_->setToolTip(tipOf(CommandId::RaceList));
     list_->setUniformItemSizes(true);
     connect(list_, &QListWidget::itemActivated, this,
             [this](const QListWidgetItem* item) { open(list_->row(item)); });
@@ -72,7 +72,7 @@ void RaceListPanel::check() {
 void RaceListPanel::open(int row) {
     if (row < 0 || static_cast<std::size_t>(row) >= lines_.size()) return;
     const Text line = lines_[static_cast<std::size_t>(row)];
-    if (runner_.run("RaceList", textArgument(line))) emit raceOpened();
+    if (runner_.run(CommandId::RaceList, textArgument(line))) emit raceOpened();
 }
 
 } // namespace quillon

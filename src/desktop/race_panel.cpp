@@ -3,6 +3,7 @@
 #include "card/columns.h"
 #include "card/race_card.h"
 #include "desktop/cell_table_view.h"
+#include "desktop/command_texts.h"
 #include "desktop/row_buttons.h"
 #include "desktop/shown_text.h"
 #include "results/board.h"
@@ -76,7 +77,7 @@ RacePanel::RacePanel(CommandRunner& runner, Appearance& appearance, QWidget* par
 void RacePanel::buildTable() {
     table_ = new CellTableView{appearance_, tr("Entries of the race"), this};
     table_->setObjectName("RaceView");
-    table_->setProperty("command", "Cell,DriverColumn");
+    table_->setProperty("command", nameOf(CommandId::Cell) + "," + nameOf(CommandId::DriverColumn));
     table_->setStatusTip(tr("A double click or F2 edits a cell. A click on a driver lists the drivers. "
                             "Enter on a name shows the past lines."));
     table_->setFonts(headPoints, bodyPoints, true);
@@ -95,18 +96,17 @@ void RacePanel::buildTable() {
     });
 }
 
-QPushButton* RacePanel::rowButton(int column, int row, const char* command) {
+QPushButton* RacePanel::rowButton(int column, int row, CommandId id) {
     QPushButton* button = buttons_->add(column, row);
-    button->setProperty("command", command);
-    connect(button, &QPushButton::clicked, this,
-            [this, command, row] { runner_.run(command, numberArgument(row)); });
+    setCommand(*button, id);
+    connect(button, &QPushButton::clicked, this, [this, id, row] { runner_.run(id, numberArgument(row)); });
     return button;
 }
 
 void RacePanel::buildEntryButtons() {
     const int column = buttons_->addColumn(entryButtonTwips);
     for (int row = 1; row <= ratedEntries; ++row) {
-        entries_.push_back(rowButton(column, row, "EntryButton"));
+        entries_.push_back(rowButton(column, row, CommandId::EntryButton));
         entries_.back()->setObjectName(QString{"EntryButton%1"}.arg(row));
     }
 }
@@ -114,7 +114,7 @@ void RacePanel::buildEntryButtons() {
 void RacePanel::buildScratchButtons() {
     const int column = buttons_->addColumn(scratchButtonTwips);
     for (int row = 0; row <= ratedEntries; ++row) {
-        scratches_.push_back(rowButton(column, row, "Command4"));
+        scratches_.push_back(rowButton(column, row, CommandId::Command4));
         scratches_.back()->setObjectName(QString{"ScratchButton%1"}.arg(row));
     }
 }
@@ -122,9 +122,9 @@ void RacePanel::buildScratchButtons() {
 void RacePanel::buildHeatButtons() {
     heatColumn_ = buttons_->addColumn(heatButtonTwips);
     for (int row = 1; row <= ratedEntries; ++row) {
-        heats_.push_back(rowButton(heatColumn_, row, "HeatChoice"));
+        heats_.push_back(rowButton(heatColumn_, row, CommandId::HeatChoice));
         heats_.back()->setObjectName(QString{"HeatButton%1"}.arg(row));
-        heats_.back()->setText(tr("Heat"));
+        heats_.back()->setText(captionOf(CommandId::HeatChoice));
     }
 }
 
@@ -153,7 +153,7 @@ void RacePanel::refreshButtons() {
     scratches_.front()->setText(shown(switching));
     scratches_.front()->setAccessibleName(tr("Switch the column to %1").arg(shown(switching)));
     scratches_.front()->setToolTip(tr("Switch all buttons of this column to \"%1\"").arg(shown(switching)));
-    scratches_.front()->setEnabled(runner_.canRun("Command4", numberArgument(0)));
+    scratches_.front()->setEnabled(runner_.canRun(CommandId::Command4, numberArgument(0)));
 
     bool anyHeat = false;
     for (int row = 1; row <= ratedEntries; ++row) {
@@ -164,25 +164,25 @@ void RacePanel::refreshButtons() {
         QPushButton& lines = *entries_[at - 1];
         const QString number = shown(trimmed(buttonOf(theScreen.entryButtons, row).caption));
         lines.setText(number);
-        lines.setEnabled(!number.isEmpty() && runner_.canRun("EntryButton", entry));
+        lines.setEnabled(!number.isEmpty() && runner_.canRun(CommandId::EntryButton, entry));
         lines.setStyleSheet(theScreen.currentEntry == row ? currentStyle : "");
         lines.setAccessibleName(tr("Past lines of number %1, %2").arg(number, horse));
-        lines.setToolTip(number.isEmpty() ? QString{} : tr("Show the past lines of %1").arg(horse));
+        lines.setToolTip(number.isEmpty() ? QString{} : tipOf(CommandId::EntryButton, horse));
 
         QPushButton& scratch = *scratches_[at];
         const Text& caption = buttonOf(theScreen.scratchButtons, row).caption;
         const bool removes = caption == "X";
         scratch.setText(shown(caption));
-        scratch.setEnabled(runner_.canRun("Command4", entry));
+        scratch.setEnabled(runner_.canRun(CommandId::Command4, entry));
         scratch.setAccessibleName((removes ? tr("Remove %1") : tr("Scratch %1")).arg(horse));
         scratch.setToolTip(removes ? tr("Take %1 out, without a refund").arg(horse)
-                                   : tr("Scratch %1 and record the refund").arg(horse));
+                                   : tipOf(CommandId::Command4, horse));
 
         QPushButton& heat = *heats_[at - 1];
         anyHeat = anyHeat || buttonOf(theScreen.heatButtons, row).visible;
-        heat.setEnabled(!horse.isEmpty() && runner_.canRun("HeatChoice", entry));
+        heat.setEnabled(!horse.isEmpty() && runner_.canRun(CommandId::HeatChoice, entry));
         heat.setAccessibleName(tr("Heat result of %1").arg(horse));
-        heat.setToolTip(tr("Enter the finish of %1 in a heat").arg(horse));
+        heat.setToolTip(tipOf(CommandId::HeatChoice, horse));
     }
     buttons_->setColumnVisible(heatColumn_, anyHeat);
     buttons_->align();
@@ -209,11 +209,11 @@ bool RacePanel::mayEdit(int row, int column) const {
 
 void RacePanel::edit(int row, int column, const Text& text) {
     const QScopedValueRollback handingIn{handingIn_, true};
-    runner_.run("Cell", {.numbers = {race_, row, column}, .text = text});
+    runner_.run(CommandId::Cell, {.numbers = {race_, row, column}, .text = text});
 }
 
 void RacePanel::askForDriver(int row) {
-    if (!horseIn(race_, row).isEmpty()) runner_.run("DriverColumn", numberArgument(row));
+    if (!horseIn(race_, row).isEmpty()) runner_.run(CommandId::DriverColumn, numberArgument(row));
 }
 
 bool RacePanel::enterOn(int row, int column, int key) {
@@ -224,7 +224,7 @@ bool RacePanel::enterOn(int row, int column, int key) {
     }
     if (column != RaceColumn::horseName || !enters) return false;
     if (entries_[static_cast<std::size_t>(row - 1)]->isEnabled())
-        runner_.run("EntryButton", numberArgument(row));
+        runner_.run(CommandId::EntryButton, numberArgument(row));
     return true;
 }
 

@@ -32,7 +32,7 @@ private:
     void buildEntryButtons();
     void buildScratchButtons();
     void buildHeatButtons();
-    QPushButton* rowButton(int column, int row, const char* command);
+    QPushButton* rowButton(int column, int row, CommandId id);
 
     void refreshTable();
     void refreshButtons();

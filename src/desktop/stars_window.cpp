@@ -1,6 +1,7 @@
 #include "desktop/stars_window.h"
 
 #include "analysis/stars_profile.h"
+#include "desktop/command_texts.h"
 #include "desktop/shown_text.h"
 
 #include <QCloseEvent>
@@ -22,16 +23,14 @@ constexpr int fieldWidth = 1500;
 /// A list of the window, in the order in which they are gone through.
 struct StarList {
     ChoiceList Screen::*list;
-    const char* command;
-    const char* name;
-    const char* tip;
+    CommandId command;
 };
 
 // clang-format off
 constexpr std::array starLists{
-    StarList{&Screen::marginList,  "MarginChoice",  "Margin",   "By how much the first selection stood out"},
-    StarList{&Screen::oddsList,    "OddsChoice",    "Odds",     "Morning line of the first selection"},
-    StarList{&Screen::maxOddsList, "MaxOddsChoice", "Max Odds", "The last pick: it fills the table and the fields"},
+    StarList{&Screen::marginList,  CommandId::MarginChoice},
+    StarList{&Screen::oddsList,    CommandId::OddsChoice},
+    StarList{&Screen::maxOddsList, CommandId::MaxOddsChoice},
 };
 
 constexpr std::array fieldNames{
@@ -97,14 +96,14 @@ void StarsWindow::buildLists(QHBoxLayout& row) {
         const StarList& list = starLists.at(at);
         auto* stack = new QVBoxLayout;
         auto* button = new QPushButton{this};
-        button->setObjectName(QString{list.command} + "Button");
-        button->setToolTip(tr(list.tip));
+        button->setObjectName(nameOf(list.command) + "Button");
+        button->setToolTip(tipOf(list.command));
         connect(button, &QPushButton::clicked, this, [this, at] { openList(at); });
         auto* lines = new PickList{this};
-        lines->setObjectName(list.command);
-        lines->setProperty("command", list.command);
-        lines->setAccessibleName(tr(list.name));
-        lines->setToolTip(tr(list.tip));
+        lines->setObjectName(nameOf(list.command));
+        setCommand(*lines, list.command);
+        lines->setAccessibleName(captionOf(list.command));
+        lines->setToolTip(tipOf(list.command));
         QSizePolicy place = lines->sizePolicy();
         place.setRetainSizeWhenHidden(true); // a list that closes moves nothing
         lines->setSizePolicy(place);
@@ -146,10 +145,10 @@ void StarsWindow::buildFields(QHBoxLayout& row) {
     row.addStretch(1);
     startOver_ = new QPushButton{tr("Start &Over"), this};
     startOver_->setObjectName("StarsStartOver");
-    startOver_->setProperty("command", "Star");
+    setCommand(*startOver_, CommandId::Star);
     startOver_->setToolTip(tr("All recorded races again, and the lists from the first one"));
     connect(startOver_, &QPushButton::clicked, this, [this] {
-        runner_.run("Star");
+        runner_.run(CommandId::Star);
         columns_.front().list->setFocus();
     });
     row.addWidget(startOver_, 0, Qt::AlignBottom);
@@ -205,7 +204,7 @@ bool StarsWindow::canOpen(std::size_t at) const {
 void StarsWindow::openList(std::size_t at) {
     if (!(theScreen.*starLists.at(at).list).visible) {
         if (at == 0)
-            runner_.run("Star");
+            runner_.run(CommandId::Star);
         else if (const Text choice = (theScreen.*starLists.at(at - 1).list).caption; canOpen(at))
             runner_.run(starLists.at(at - 1).command, textArgument(choice));
     }
@@ -218,7 +217,7 @@ void StarsWindow::refreshLists() {
         Column& column = columns_.at(at);
         const QString caption = shown(list.caption);
         column.button->setText(caption);
-        column.button->setAccessibleName(tr("%1: %2").arg(tr(starLists.at(at).name), caption));
+        column.button->setAccessibleName(tr("%1: %2").arg(captionOf(starLists.at(at).command), caption));
         column.button->setEnabled(canOpen(at));
         column.list->showLines(list);
         column.list->setVisible(list.visible);
@@ -239,7 +238,7 @@ void StarsWindow::refresh() {
     refreshLists();
     for (std::size_t at = 0; at < fields; ++at)
         fields_.at(at)->setText(shown(theScreen.starsFields.at(at + 1)));
-    startOver_->setEnabled(CommandRunner::canRun("Star"));
+    startOver_->setEnabled(CommandRunner::canRun(CommandId::Star));
     if (isVisible()) return;
     show();
     raise();
@@ -248,7 +247,7 @@ void StarsWindow::refresh() {
 
 void StarsWindow::closeEvent(QCloseEvent* event) {
     // While a command waits for an answer there is no way back yet.
-    if (theScreen.starsVisible && !runner_.run("MainScreen")) return event->ignore();
+    if (theScreen.starsVisible && !runner_.run(CommandId::MainScreen)) return event->ignore();
     event->accept();
 }
 

@@ -5,6 +5,7 @@
 #include "desktop/appearance.h"
 #include "desktop/cell_table_view.h"
 #include "desktop/command_runner.h"
+#include "screen/screen.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -22,7 +22,7 @@ Text logIndex(Integer index) { return formatted("####", "@@@@", static_cast<doub
 
 } // namespace
 
-bool diagnosticLogIsOn() { return screen.item(MenuItem::Diagnostic).checked; }
+bool diagnosticLogIsOn() { return screen.item(CommandId::Diagnostic).checked; }
 
 void beginLogLine() {
     load.log += crCrLf;
@@ -43,7 +43,7 @@ void appendDiagnosticLog() { appendToFile(logFile(), std::exchange(load.log, {})
 
 void Diagnostic() {
     const Step step{"Diagnostic"};
-    MenuState& item = screen.item(MenuItem::Diagnostic);
+    MenuState& item = screen.item(CommandId::Diagnostic);
     const bool switchedOn = !item.checked;
     if (switchedOn) writeFile(logFile(), Text{logHeading}.append(crLf));
     item.checked = switchedOn;

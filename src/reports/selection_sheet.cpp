@@ -149,7 +149,7 @@ void SelectionSheet() {
     sheet.line(scratchNote);
     attempt([&] { writeFile({Folder::working, "Stars.txt"}, stars.content()); });
     attempt([&] { writeFile(cardFile(Folder::selections, "pms"), sheet.content()); });
-    screen.item(MenuItem::ViewSummary).enabled = true;
+    screen.item(CommandId::ViewSummary).enabled = true;
     attempt(KeyHorses);
 }
 

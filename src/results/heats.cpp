@@ -109,7 +109,7 @@ Text postText(int race, int entry) {
 } // namespace
 
 void HeatWinner() {
-    MenuState& item = screen.item(MenuItem::HeatWinner);
+    MenuState& item = screen.item(CommandId::HeatWinner);
     item.checked = !item.checked;
     for (int row = 1; row <= ratedEntries; ++row) {
         Button& choice = screen.heatButtons.at(row);

@@ -22,7 +22,7 @@ constexpr int allViewsButTwo = 21;
 constexpr int lineButtonRows = 15; ///< rows of past lines that can be taken by their number
 
 void leaveLastRace() {
-    screen.item(MenuItem::HeatWinner).checked = false;
+    screen.item(CommandId::HeatWinner).checked = false;
     for (std::size_t row = 1; row < screen.heatButtons.size(); ++row) screen.heatButtons[row].visible = false;
     ClosePastPerformances();
 }

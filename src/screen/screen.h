@@ -5,6 +5,7 @@
 #include "core/numbers.h"
 #include "core/table.h"
 #include "core/text.h"
+#include "screen/command_id.h"
 
 #include <array>
 #include <cstdint>
@@ -137,55 +138,6 @@ struct MenuState {
     bool checked = false;
 };
 
-/// The items of the menus whose state the logic changes, by the names of their commands. A command without a
-/// row here is always there.
-enum class MenuItem {
-    NewRC,
-    RecallRaceCard,
-    Save,
-    CloseRC,
-    Exit_QL,
-    MainScreen,
-    HeatWinner,
-    ViewHeat,
-    AutoRecord,
-    EBET,
-    Entries,
-    ViewSummary,
-    Pick3Selections,
-    ViewCondensedProgram,
-    PrintCondensedProgram,
-    DriverList,
-    NotePad,
-    PrintSummary,
-    Print2,
-    TestResults,
-    ArchivesEditor,
-    TrackEditor,
-    EXE,
-    SelectionResults,
-    ALL,
-    HALF,
-    FIVE,
-    Seven,
-    MILE,
-    QUARTER,
-    Select,
-    Star,
-    Track_Profile,
-    Pick3Results,
-    Diagnostic,
-    About,
-    Version,
-    Reset,
-    USTA,
-    RTN,
-    Weather,
-    TRC,
-    QLR,
-    count ///< how many there are
-};
-
 constexpr int dataViews =
     29; ///< 1 to 23 races, 24 the running-line table, 25 an entry's past lines, the rest spare
 constexpr int raceViews = 24;
@@ -265,7 +217,7 @@ struct Screen {
     /// or one of the values above.
     Table<Integer, raceViews, raceViewRows> lineTaken{};
 
-    std::array<MenuState, static_cast<std::size_t>(MenuItem::count)> menu{};
+    std::array<MenuState, commandCount> menu{}; ///< by command; one without a menu item is always there
 
     ChoiceList fileList{};
     ChoiceList trackList{};
@@ -294,8 +246,8 @@ struct Screen {
     Button record{};                   ///< the summary's Record button
     bool racePanelsVisible = true;     ///< the race panels, or the analysis view in their place
 
-    MenuState& item(MenuItem item) { return menu[static_cast<std::size_t>(item)]; }
-    const MenuState& item(MenuItem item) const { return menu[static_cast<std::size_t>(item)]; }
+    MenuState& item(CommandId id) { return menu[static_cast<std::size_t>(id)]; }
+    const MenuState& item(CommandId id) const { return menu[static_cast<std::size_t>(id)]; }
 
     /// What the Start button stands for from now on, and its caption.
     void offer(StartOffer startOffer);

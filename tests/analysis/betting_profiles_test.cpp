@@ -47,14 +47,14 @@ TEST_F(BettingProfilesTest, HeadsAndLabelsStand) {
 
 TEST_F(BettingProfilesTest, TheViewTakesThePlaceOfTheRacePanels) {
     screen.summaryVisible = true;
-    screen.item(MenuItem::MainScreen).visible = screen.item(MenuItem::Print2).visible = false;
+    screen.item(CommandId::MainScreen).visible = screen.item(CommandId::Print2).visible = false;
     archive({{}});
     ALL();
     EXPECT_TRUE(screen.profileVisible);
     EXPECT_FALSE(screen.summaryVisible);
     EXPECT_FALSE(screen.racePanelsVisible);
-    EXPECT_TRUE(screen.item(MenuItem::MainScreen).visible);
-    EXPECT_TRUE(screen.item(MenuItem::Print2).visible);
+    EXPECT_TRUE(screen.item(CommandId::MainScreen).visible);
+    EXPECT_TRUE(screen.item(CommandId::Print2).visible);
 }
 
 struct BetRow {

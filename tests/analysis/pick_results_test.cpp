@@ -50,7 +50,7 @@ TEST_F(PickResultsTest, HeadsAndTheFirstColumnAreBold) {
     for (int row = 0; row < 26; ++row) EXPECT_TRUE(screen.picks.read(row, 0).bold);
     EXPECT_TRUE(screen.picksVisible);
     EXPECT_FALSE(screen.racePanelsVisible);
-    EXPECT_TRUE(screen.item(MenuItem::MainScreen).visible);
+    EXPECT_TRUE(screen.item(CommandId::MainScreen).visible);
 }
 
 TEST_F(PickResultsTest, RacesAreNumberedUpToTheCount) {

@@ -91,7 +91,7 @@ TEST_F(StarsProfileTest, OpeningShowsEveryLineOfTheFile) {
     EXPECT_EQ((std::vector<Text>{"YR_20260315", "", "", "", "", "", "0", "0"}), row(4));
     EXPECT_EQ(5, screen.stars.rows());
     EXPECT_TRUE(screen.starsVisible);
-    EXPECT_TRUE(screen.item(MenuItem::MainScreen).visible);
+    EXPECT_TRUE(screen.item(CommandId::MainScreen).visible);
     EXPECT_EQ("Stars Profile", starsCaption);
 }
 

@@ -162,16 +162,16 @@ TEST_F(SummaryTest, ACardWithoutResultsLeavesTheJournalEmpty) {
 // ---- Opening
 
 TEST_F(SummaryTest, TakesThePlaceOfTheRacePanels) {
-    screen.item(MenuItem::MainScreen).visible = screen.item(MenuItem::PrintSummary).visible = false;
+    screen.item(CommandId::MainScreen).visible = screen.item(CommandId::PrintSummary).visible = false;
     screen.profileVisible = true;
     SelectionResults();
     EXPECT_TRUE(screen.summaryVisible);
     EXPECT_FALSE(screen.profileVisible);
     EXPECT_FALSE(screen.racePanelsVisible);
-    EXPECT_TRUE(screen.item(MenuItem::MainScreen).visible);
-    EXPECT_TRUE(screen.item(MenuItem::PrintSummary).visible);
-    EXPECT_FALSE(screen.item(MenuItem::NewRC).enabled);
-    EXPECT_FALSE(screen.item(MenuItem::RecallRaceCard).enabled);
+    EXPECT_TRUE(screen.item(CommandId::MainScreen).visible);
+    EXPECT_TRUE(screen.item(CommandId::PrintSummary).visible);
+    EXPECT_FALSE(screen.item(CommandId::NewRC).enabled);
+    EXPECT_FALSE(screen.item(CommandId::RecallRaceCard).enabled);
 }
 
 TEST_F(SummaryTest, CaptionTellsTrackAndDateByPlace) {

@@ -61,7 +61,7 @@ TEST_F(TracksProfileTest, TracksAndSizesHaveTheirWinsOfS1) {
               contentOf("Wins by Track.txt"));
     EXPECT_TRUE(screen.tracksVisible);
     EXPECT_FALSE(screen.racePanelsVisible);
-    EXPECT_TRUE(screen.item(MenuItem::MainScreen).visible);
+    EXPECT_TRUE(screen.item(CommandId::MainScreen).visible);
 }
 
 TEST_F(TracksProfileTest, EverySizeHasItsRow) {

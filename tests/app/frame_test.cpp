@@ -56,16 +56,16 @@ TEST_F(FrameTest, TheMainScreenTakesTheAnalysisViewsAway) {
     screen.summaryVisible = true;
     screen.racePanelsVisible = false;
     screen.caption = "Mea 03-14-2026";
-    screen.item(MenuItem::MainScreen).visible = true;
-    screen.item(MenuItem::PrintSummary).visible = true;
-    screen.item(MenuItem::NewRC).visible = false;
+    screen.item(CommandId::MainScreen).visible = true;
+    screen.item(CommandId::PrintSummary).visible = true;
+    screen.item(CommandId::NewRC).visible = false;
     MainScreen();
     EXPECT_FALSE(screen.summaryVisible);
     EXPECT_TRUE(screen.racePanelsVisible);
     EXPECT_EQ("Quillon Professional Version", screen.caption);
-    EXPECT_FALSE(screen.item(MenuItem::MainScreen).visible);
-    EXPECT_FALSE(screen.item(MenuItem::PrintSummary).visible);
-    EXPECT_TRUE(screen.item(MenuItem::NewRC).visible);
+    EXPECT_FALSE(screen.item(CommandId::MainScreen).visible);
+    EXPECT_FALSE(screen.item(CommandId::PrintSummary).visible);
+    EXPECT_TRUE(screen.item(CommandId::NewRC).visible);
 }
 
 } // namespace quillon

@@ -10,9 +10,9 @@ TEST_F(StartUpTest, TheStartButtonWaitsAndMainScreenIsHidden) {
     StartUp();
     EXPECT_EQ("Start", screen.start.caption);
     EXPECT_TRUE(screen.start.enabled);
-    EXPECT_FALSE(screen.item(MenuItem::MainScreen).visible);
-    EXPECT_TRUE(screen.item(MenuItem::NewRC).enabled);
-    EXPECT_TRUE(screen.item(MenuItem::RecallRaceCard).enabled);
+    EXPECT_FALSE(screen.item(CommandId::MainScreen).visible);
+    EXPECT_TRUE(screen.item(CommandId::NewRC).enabled);
+    EXPECT_TRUE(screen.item(CommandId::RecallRaceCard).enabled);
     for (const Button& button : screen.raceButtons) EXPECT_FALSE(button.visible);
     EXPECT_TRUE(screen.raceButtons[1].current);
     EXPECT_EQ("1", screen.header.race);

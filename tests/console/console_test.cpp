@@ -30,56 +30,40 @@ bool asksBeyondATable(const Arguments&) { fail("no such button"); }
 // A system of our own with a command for each thing that can happen.
 // clang-format off
 constexpr std::array testCommands{
-    Command{"Quiet", "", Menu::none, Takes::nothing, "", [](const Arguments&) {}, {}},
-    Command{"Message", "", Menu::none, Takes::nothing, "",
-            [](const Arguments&) { ports.message("No races", ""); }, {}},
-    Command{"Titled", "", Menu::none, Takes::nothing, "",
-            [](const Arguments&) { ports.message("Saved", "Quillon"); }, {}},
-    Command{"Lines", "", Menu::none, Takes::nothing, "",
-            [](const Arguments&) { ports.message("one\r\ntwo\nthree", "a\nb"); }, {}},
-    Command{"Ask", "", Menu::none, Takes::nothing, "",
-            [](const Arguments&) { tell(ports.question("Exit?", "") ? "yes" : "no"); }, {}},
-    Command{"AskTitled", "", Menu::none, Takes::nothing, "",
-            [](const Arguments&) { ports.question("Exit?", "Quillon"); }, {}},
-    Command{"Input", "", Menu::none, Takes::nothing, "",
-            [](const Arguments&) { tell("got " + ports.input("Amount:", "").value_or("nothing")); }, {}},
-    Command{"InputTitled", "", Menu::none, Takes::nothing, "",
-            [](const Arguments&) { ports.input("Amount:", "TRC"); }, {}},
-    Command{"Beep", "", Menu::none, Takes::nothing, "", [](const Arguments&) { ports.beep(); }, {}},
-    Command{"View", "", Menu::none, Takes::nothing, "",
-            [](const Arguments&) {
+    Command{.name = "Quiet", .run = [](const Arguments&) {}},
+    Command{.name = "Message", .run = [](const Arguments&) { ports.message("No races", ""); }},
+    Command{.name = "Titled", .run = [](const Arguments&) { ports.message("Saved", "Quillon"); }},
+    Command{.name = "Lines", .run = [](const Arguments&) { ports.message("one\r\ntwo\nthree", "a\nb"); }},
+    Command{.name = "Ask", .run = [](const Arguments&) { tell(ports.question("Exit?", "") ? "yes" : "no"); }},
+    Command{.name = "AskTitled", .run = [](const Arguments&) { ports.question("Exit?", "Quillon"); }},
+    Command{.name = "Input", .run = [](const Arguments&) { tell("got " + ports.input("Amount:", "").value_or("nothing")); }},
+    Command{.name = "InputTitled", .run = [](const Arguments&) { ports.input("Amount:", "TRC"); }},
+    Command{.name = "Beep", .run = [](const Arguments&) { ports.beep(); }},
+    Command{.name = "View", .run = [](const Arguments&) {
                 ports.view({Folder::selections, "M1_20260314.pms"});
                 ports.view({Folder::working, "Stars.txt"});
-            }, {}},
-    Command{"Browse", "", Menu::none, Takes::nothing, "",
-            [](const Arguments&) { ports.browse("http://www.example.com/a?b=1"); }, {}},
-    Command{"Run", "", Menu::none, Takes::nothing, "",
-            [](const Arguments&) { ports.run("FileManager.exe"); }, {}},
-    Command{"Hide", "", Menu::none, Takes::nothing, "",
-            [](const Arguments&) { ports.hide({Folder::sourceTables, "RACESHR.DBF"}); }, {}},
-    Command{"Print", "", Menu::none, Takes::nothing, "",
-            [](const Arguments&) {
+            }},
+    Command{.name = "Browse", .run = [](const Arguments&) { ports.browse("http://www.example.com/a?b=1"); }},
+    Command{.name = "Run", .run = [](const Arguments&) { ports.run("FileManager.exe"); }},
+    Command{.name = "Hide", .run = [](const Arguments&) { ports.hide({Folder::sourceTables, "RACESHR.DBF"}); }},
+    Command{.name = "Print", .run = [](const Arguments&) {
                 ports.printLine("RACE 1", PrintStyle::emphasised);
                 ports.printLine("  2  Plain Biscuit", PrintStyle::plain);
                 ports.printLine("", PrintStyle::plain);
                 ports.printPage();
                 ports.printEnd();
-            }, {}},
-    Command{"Error", "", Menu::none, Takes::nothing, "",
-            [](const Arguments&) { ports.error("Path not found"); }, {}},
-    Command{"End", "", Menu::none, Takes::nothing, "",
-            [](const Arguments&) { ports.end(); tell("on the way out"); ports.end(); }, {}},
-    Command{"Work", "", Menu::none, Takes::nothing, "",
-            [](const Arguments&) { tell(ports.progress(0.5) ? "goes on" : "stops"); }, {}},
-    Command{"Fail", "", Menu::none, Takes::nothing, "",
-            [](const Arguments&) { tell("before"); fail("it broke"); }, {}},
-    Command{"Row", "", Menu::none, Takes::number, "row", take, {}},
-    Command{"Line", "", Menu::none, Takes::text, "TEXT", take, {}},
-    Command{"Place", "", Menu::none, Takes::numberAndText, "n TEXT", take, {}},
-    Command{"Square", "", Menu::none, Takes::cell, "race row column TEXT", take, {}},
-    Command{"Third", "", Menu::none, Takes::number, "n", take, {}, isThird},
-    Command{"Broken", "", Menu::none, Takes::nothing, "", take, {}, asksBeyondATable},
-    Command{"Item", "", Menu::file, Takes::nothing, "", take, MenuItem::Save},
+            }},
+    Command{.name = "Error", .run = [](const Arguments&) { ports.error("Path not found"); }},
+    Command{.name = "End", .run = [](const Arguments&) { ports.end(); tell("on the way out"); ports.end(); }},
+    Command{.name = "Work", .run = [](const Arguments&) { tell(ports.progress(0.5) ? "goes on" : "stops"); }},
+    Command{.name = "Fail", .run = [](const Arguments&) { tell("before"); fail("it broke"); }},
+    Command{.name = "Row", .run = take, .takes = Takes::number, .argumentNames = "row"},
+    Command{.name = "Line", .run = take, .takes = Takes::text, .argumentNames = "TEXT"},
+    Command{.name = "Place", .run = take, .takes = Takes::numberAndText, .argumentNames = "n TEXT"},
+    Command{.name = "Square", .run = take, .takes = Takes::cell, .argumentNames = "race row column TEXT"},
+    Command{.name = "Third", .run = take, .takes = Takes::number, .argumentNames = "n", .available = isThird},
+    Command{.name = "Broken", .run = take, .available = asksBeyondATable},
+    Command{.id = CommandId::Save, .name = "Item", .run = take, .item = {Menu::file}},
 };
 // clang-format on
 
@@ -198,9 +182,9 @@ TEST_F(ConsoleTest, CommandsGetTheirArguments) {
 }
 
 TEST_F(ConsoleTest, ADisabledOrHiddenItemIsNotRun) {
-    screen.item(MenuItem::Save).enabled = false;
+    screen.item(CommandId::Save).enabled = false;
     EXPECT_EQ("> Item\nunavailable: Item\n", run("Item\n"));
-    screen.item(MenuItem::Save) = {.enabled = true, .visible = false};
+    screen.item(CommandId::Save) = {.enabled = true, .visible = false};
     EXPECT_EQ("> Item\nunavailable: Item\n", run("Item\n"));
     EXPECT_TRUE(given.empty());
 }

@@ -17,12 +17,12 @@ void doNothing(const Arguments&) {}
 
 // clang-format off
 constexpr std::array menuCommands{
-    Command{"Save", "", Menu::file, Takes::nothing, "", doNothing, MenuItem::Save},
-    Command{"RaceButton", "", Menu::none, Takes::number, "n", doNothing, {}},
-    Command{"HeatWinner", "", Menu::file, Takes::nothing, "", doNothing, MenuItem::HeatWinner},
-    Command{"HeatChoice", "", Menu::none, Takes::number, "i", doNothing, MenuItem::HeatWinner},
-    Command{"NewRC", "", Menu::file, Takes::nothing, "", doNothing, MenuItem::NewRC},
-    Command{"MainScreen", "", Menu::file, Takes::nothing, "", doNothing, MenuItem::MainScreen},
+    Command{CommandId::Save,       "Save",       doNothing, Effect::keepsCard, {Menu::file}},
+    Command{CommandId::RaceButton, "RaceButton", doNothing, Effect::keepsCard, {}, Takes::number, "n"},
+    Command{CommandId::HeatWinner, "HeatWinner", doNothing, Effect::keepsCard, {Menu::tools}},
+    Command{CommandId::Next,       "Next",       doNothing, Effect::keepsCard, {Menu::walk}},
+    Command{CommandId::NewRC,      "NewRC",      doNothing, Effect::keepsCard, {Menu::file}},
+    Command{CommandId::MainScreen, "MainScreen", doNothing, Effect::keepsCard, {Menu::navigation}},
 };
 // clang-format on
 
@@ -251,13 +251,13 @@ TEST_F(ShowTest, TheStartButtonAlone) {
 }
 
 TEST_F(ShowTest, TheMenuIsALineAnItem) {
-    screen.item(MenuItem::Save).enabled = false;
-    screen.item(MenuItem::HeatWinner).checked = true;
-    screen.item(MenuItem::MainScreen) = {.enabled = true, .visible = false};
+    screen.item(CommandId::Save).enabled = false;
+    screen.item(CommandId::HeatWinner).checked = true;
+    screen.item(CommandId::MainScreen) = {.enabled = true, .visible = false};
     EXPECT_EQ("Save\tdisabled\nHeatWinner\tenabled\tchecked\nNewRC\tenabled\nMainScreen\thidden\n",
               shownPart("menu"));
-    screen.item(MenuItem::MainScreen).enabled = false;
-    screen.item(MenuItem::Save).checked = true;
+    screen.item(CommandId::MainScreen).enabled = false;
+    screen.item(CommandId::Save).checked = true;
     EXPECT_EQ("Save\tdisabled\tchecked\nHeatWinner\tenabled\tchecked\nNewRC\tenabled\nMainScreen\thidden\n",
               shownPart("menu"));
 }

@@ -124,8 +124,8 @@ TEST_F(CardLoadTest, AfterTheLoadANewCardNeedsANewProcess) {
     Start();
     EXPECT_EQ("Select Race", screen.start.caption);
     EXPECT_FALSE(screen.start.enabled);
-    EXPECT_FALSE(screen.item(MenuItem::NewRC).enabled);
-    EXPECT_FALSE(screen.item(MenuItem::RecallRaceCard).enabled);
+    EXPECT_FALSE(screen.item(CommandId::NewRC).enabled);
+    EXPECT_FALSE(screen.item(CommandId::RecallRaceCard).enabled);
     for (std::size_t key = 1; key <= 12; ++key) EXPECT_TRUE(screen.entryButtons[key].enabled) << key;
 }
 

@@ -184,8 +184,8 @@ TEST_F(CloseLoadTest, StartGivesWayToTheRaces) {
     CloseLoad();
     EXPECT_EQ("Select Race", screen.start.caption);
     EXPECT_FALSE(screen.start.enabled);
-    EXPECT_FALSE(screen.item(MenuItem::NewRC).enabled);
-    EXPECT_FALSE(screen.item(MenuItem::RecallRaceCard).enabled);
+    EXPECT_FALSE(screen.item(CommandId::NewRC).enabled);
+    EXPECT_FALSE(screen.item(CommandId::RecallRaceCard).enabled);
 }
 
 TEST_F(CloseLoadTest, TheDateOfTheCardComesFromItsFileName) {
@@ -198,7 +198,7 @@ TEST_F(CloseLoadTest, TheThreeReportsOfANewCardAreWritten) {
     EXPECT_TRUE(exists("A Quillon PRO/Programs/M1_20260314.ppp"));
     EXPECT_TRUE(exists("A Quillon PRO/Selections/M1_20260314.pms"));
     EXPECT_TRUE(exists("A Quillon PRO/Selections2/M1_20260314.pmr2"));
-    EXPECT_TRUE(screen.item(MenuItem::ViewSummary).enabled);
+    EXPECT_TRUE(screen.item(CommandId::ViewSummary).enabled);
 }
 
 } // namespace

@@ -72,8 +72,8 @@ TEST_F(RecallTest, ShowsTheSavedCardsAndTurnsRecallModeOn) {
     EXPECT_EQ("R", card.recallMode);
     EXPECT_TRUE(screen.fileList.visible);
     EXPECT_EQ((std::vector<Text>{"M1_20260314.pmd", "lex_20260401.PMD"}), screen.fileList.lines);
-    EXPECT_FALSE(screen.item(MenuItem::NewRC).enabled);
-    EXPECT_FALSE(screen.item(MenuItem::RecallRaceCard).enabled);
+    EXPECT_FALSE(screen.item(CommandId::NewRC).enabled);
+    EXPECT_FALSE(screen.item(CommandId::RecallRaceCard).enabled);
     for (int button = 1; button <= 12; ++button)
         EXPECT_TRUE(screen.entryButtons.at(static_cast<std::size_t>(button)).enabled);
     EXPECT_TRUE(screen.raceChecks[1].visible);
@@ -81,11 +81,11 @@ TEST_F(RecallTest, ShowsTheSavedCardsAndTurnsRecallModeOn) {
 }
 
 TEST_F(RecallTest, MakesTheCommandsOfAnOpenCardAvailable) {
-    constexpr MenuItem items[] = {MenuItem::SelectionResults, MenuItem::Entries, MenuItem::ViewSummary,
-                                  MenuItem::ViewCondensedProgram, MenuItem::PrintCondensedProgram};
-    for (const MenuItem item : items) screen.item(item).enabled = false;
+    constexpr CommandId items[] = {CommandId::SelectionResults, CommandId::Entries, CommandId::ViewSummary,
+                                   CommandId::ViewCondensedProgram, CommandId::PrintCondensedProgram};
+    for (const CommandId item : items) screen.item(item).enabled = false;
     RecallRaceCard();
-    for (const MenuItem item : items) EXPECT_TRUE(screen.item(item).enabled) << static_cast<int>(item);
+    for (const CommandId item : items) EXPECT_TRUE(screen.item(item).enabled) << static_cast<int>(item);
 }
 
 TEST_F(RecallTest, WithoutAFolderOfCardsTheListIsEmpty) {
@@ -97,12 +97,12 @@ TEST_F(RecallTest, WithoutAFolderOfCardsTheListIsEmpty) {
 TEST_F(RecallTest, AChoiceHidesTheListAndTurnsTheStartButton) {
     saveAndStartAnew();
     screen.start.enabled = false;
-    screen.item(MenuItem::ViewSummary).enabled = false;
+    screen.item(CommandId::ViewSummary).enabled = false;
     recall();
     EXPECT_FALSE(screen.fileList.visible);
     EXPECT_EQ("View Races", screen.start.caption);
     EXPECT_TRUE(screen.start.enabled);
-    EXPECT_TRUE(screen.item(MenuItem::ViewSummary).enabled);
+    EXPECT_TRUE(screen.item(CommandId::ViewSummary).enabled);
     EXPECT_EQ("M1_20260314.pmd", card.cardFileName);
 }
 

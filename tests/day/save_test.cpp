@@ -323,8 +323,8 @@ protected:
                          .gait = "P",
                          .distance = "1",
                          .trackInfo = "One mile"};
-        screen.item(MenuItem::NewRC).enabled = false;
-        screen.item(MenuItem::RecallRaceCard).enabled = false;
+        screen.item(CommandId::NewRC).enabled = false;
+        screen.item(CommandId::RecallRaceCard).enabled = false;
         for (Grid& view : screen.dataView) fill(view);
         for (Grid& view : screen.raceView) fill(view);
         screen.summary = Grid{23, 30};
@@ -348,8 +348,8 @@ TEST_F(CloseTest, SavesAndClearsViewsHeadingAndBoard) {
     CloseRC();
     EXPECT_TRUE(exists(cardPath));
     EXPECT_TRUE(exists(archivePath));
-    EXPECT_TRUE(screen.item(MenuItem::NewRC).enabled);
-    EXPECT_TRUE(screen.item(MenuItem::RecallRaceCard).enabled);
+    EXPECT_TRUE(screen.item(CommandId::NewRC).enabled);
+    EXPECT_TRUE(screen.item(CommandId::RecallRaceCard).enabled);
     for (const Grid& view : screen.dataView) EXPECT_EQ("", view.text(1, 1));
     for (const Grid& view : screen.raceView) EXPECT_EQ("", view.text(1, 1));
     EXPECT_EQ("", screen.summary.text(1, 1));
@@ -407,7 +407,7 @@ TEST_F(CloseTest, WithoutACardItClearsAndWritesNothing) {
     EXPECT_FALSE(exists("A Quillon PRO"));
     EXPECT_EQ("", screen.raceView[1].text(1, 1));
     EXPECT_EQ("", screen.boxes[0].text);
-    EXPECT_TRUE(screen.item(MenuItem::RecallRaceCard).enabled);
+    EXPECT_TRUE(screen.item(CommandId::RecallRaceCard).enabled);
 }
 
 TEST_F(CloseTest, ACardIsSavedWhateverItsNameBeginsWith) {
@@ -424,7 +424,7 @@ TEST_F(CloseTest, ACardThatCanNotBeSavedStaysOpen) {
     EXPECT_EQ("M1_20260314.pmd", card.cardFileName);
     EXPECT_EQ("cell", screen.raceView[1].text(1, 1));
     EXPECT_EQ("4", screen.boxes[0].text);
-    EXPECT_FALSE(screen.item(MenuItem::NewRC).enabled);
+    EXPECT_FALSE(screen.item(CommandId::NewRC).enabled);
 }
 
 } // namespace

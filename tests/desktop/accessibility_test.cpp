@@ -44,7 +44,7 @@ TEST_F(AccessibilityTest, EveryControlOfTheEmptyWindowHasAName) { expectNames(*w
 
 TEST_F(AccessibilityTest, EveryControlOfARaceHasAName) {
     startInWindow();
-    window->runner().run("EntryButton", numberArgument(1));
+    window->runner().run(CommandId::EntryButton, numberArgument(1));
     choose("HeatWinner");
     expectNames(*window);
 }
@@ -64,7 +64,7 @@ TEST_F(AccessibilityTest, EveryControlOfTheOtherPagesHasAName) {
 
 TEST_F(AccessibilityTest, TabReachesEveryControlOfARace) {
     startInWindow();
-    window->runner().run("EntryButton", numberArgument(1));
+    window->runner().run(CommandId::EntryButton, numberArgument(1));
     const auto controls = controlsOf(*window);
     std::set<const QWidget*> reached;
     controls.front()->setFocus();

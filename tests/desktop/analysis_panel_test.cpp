@@ -67,8 +67,8 @@ protected:
         startSampleCard();
         for (int place = 1; place <= 4; ++place) card.raceOutcome(1, place + 4) = card.raceOutcome(1, place);
         card.payoffRecord(1, 1) = "  12.40";
-        runner.run("RaceButton", numberArgument(1));
-        runner.run("SelectionResults");
+        runner.run(CommandId::RaceButton, numberArgument(1));
+        runner.run(CommandId::SelectionResults);
     }
 };
 
@@ -149,7 +149,7 @@ protected:
         put("TrackEditor.ini", row + "YR" + row.substr(2, 34) + "1/2" + row.substr(39));
         // $12 a race on ten races are 120.00: 30.00 times 6 is more, 10.00 times 6 is not.
         put("HRA.ini", archiveLine("   M1_20260314", "30.00") + archiveLine("   YR_20260315", "10.00"));
-        runner.run("ALL");
+        runner.run(CommandId::ALL);
     }
 };
 
@@ -172,7 +172,7 @@ TEST_F(ProfilePageTest, WinningCardsAreBoldAndNumbersStandAtTheRight) {
 TEST_F(ProfilePageTest, TheFiltersAreButtons) {
     for (const char* command : {"ALL", "Select", "HALF", "FIVE", "Seven", "MILE", "QUARTER"}) {
         EXPECT_TRUE(button(command).isVisible());
-        EXPECT_EQ(QString{findCommand(command)->caption}, button(command).text());
+        EXPECT_EQ(QString{findCommand(command)->item.caption}, button(command).text());
     }
     click(button("HALF"));
     EXPECT_EQ("1 Race Cards", at(table("ProfileTable"), 8, 0));
@@ -211,7 +211,7 @@ TEST_F(ProfilePageTest, ManyCardsOpenAndScrollAtOnce) {
     Text archive;
     for (int n = 0; n < cards; ++n) archive += archiveLine("   M1_20260314", "30.00");
     put("HRA.ini", archive);
-    runner.run("ALL");
+    runner.run(CommandId::ALL);
     QElapsedTimer clock;
     clock.start();
     panel.refresh();
@@ -226,7 +226,7 @@ TEST_F(ProfilePageTest, ManyCardsOpenAndScrollAtOnce) {
 // --- Tracks and picks --------------------------------------------------------------------------------------
 
 TEST_F(ProfilePageTest, TracksAndSizesStandSideBySideAndSort) {
-    runner.run("Track_Profile");
+    runner.run(CommandId::Track_Profile);
     CellTableView& tracks = table("TracksTable");
     const CellTableView& sizes = table("SizesTable");
     EXPECT_TRUE(tracks.isVisible());
@@ -249,7 +249,7 @@ TEST_F(ProfilePageTest, TracksAndSizesStandSideBySideAndSort) {
 }
 
 TEST_F(AnalysisPanelTest, TablesWithoutAnyRowKeepTheirHeads) {
-    runner.run("Track_Profile"); // no archive
+    runner.run(CommandId::Track_Profile); // no archive
     const CellTableView& tracks = table("TracksTable");
     EXPECT_EQ(0, tracks.model()->rowCount());
     EXPECT_FALSE(tracks.isColumnHidden(0));
@@ -260,7 +260,7 @@ TEST_F(AnalysisPanelTest, PicksShowTheirCellsWithBoldFirstColumnAndTheHitYellow)
     card.raceCount = 2;
     card.keyPicks(1, 1) = "  4";
     card.pickLegs(1, 1) = "4";
-    runner.run("Pick3Results");
+    runner.run(CommandId::Pick3Results);
     const CellTableView& view = table("PicksTable");
     EXPECT_TRUE(view.isVisible());
     EXPECT_EQ("Pick 3-4-5-6 Results", heading());

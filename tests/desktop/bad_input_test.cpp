@@ -371,7 +371,7 @@ TEST_F(ModalTest, AMegabyteInAnInputBoxIsCut) {
         }};
         click(child<QAbstractButton>(*window, "EntryButton2"));
         click(child<QAbstractButton>(*window, "Command7"));
-        window->runner().run("HeatWinner");
+        window->runner().run(CommandId::HeatWinner);
         click(child<QAbstractButton>(*window, "HeatButton2"));
     }
     QApplication::clipboard()->clear();
@@ -404,7 +404,7 @@ TEST_F(BadInputTest, AWorkingFolderThatIsGone) {
     for (const Command& command : commandTable()) {
         const bool ends =
             command.name == std::string_view{"Exit_QL"} || command.name == std::string_view{"NewRC"};
-        if (command.menu == Menu::none || ends) continue;
+        if (!isMenuItem(command) || ends) continue;
         choose(command.name);
         for (const std::string& difference : differencesFromScreen(*window))
             ADD_FAILURE() << command.name << ": " << difference;

@@ -47,7 +47,7 @@ struct BoardPanelTest : WindowTest {
 TEST_F(BoardPanelTest, ARaceShowsItsSelectionsAndItsHeading) {
     ASSERT_FALSE(screen.boxes[0].text.empty());
     expectTheScreensTexts();
-    runner.run("Next");
+    runner.run(CommandId::Next);
     EXPECT_EQ("RACE:  2", child<QLabel>(panel, "ToteHeading").text());
     expectTheScreensTexts();
 }
@@ -91,12 +91,12 @@ TEST_F(BoardPanelTest, WhatStillIsTypedIsHandedInBeforeAnArrow) {
     tote(1).setFocus();
     QTest::keyClicks(&tote(1), "4.40");
     EXPECT_EQ("", screen.tote[1]); // not handed in yet
-    runner.run("Next");
+    runner.run(CommandId::Next);
     EXPECT_EQ("7", card.raceOutcome(1, 5));
     EXPECT_EQ("4.40", card.payoffRecord(1, 1));
     EXPECT_EQ("", box(4).text()); // race 2 now
     EXPECT_EQ("", tote(1).text());
-    runner.run("Previous");
+    runner.run(CommandId::Previous);
     EXPECT_EQ("7", box(4).text());
     EXPECT_EQ("4.40", tote(1).text());
 }
@@ -141,7 +141,7 @@ TEST_F(BoardPanelTest, BoxTenStandsInTheColumnOfItsHorseInADeadHeatAlone) {
     type(tote(10), "5.20");
     EXPECT_EQ("5.20", screen.tote[10]);
 
-    runner.run("Next");
+    runner.run(CommandId::Next);
     EXPECT_TRUE(tote(10).isHidden());
 }
 
@@ -176,34 +176,34 @@ TEST_F(BoardPanelTest, IsNoHigherThanItsPlace) { EXPECT_LE(panel.minimumSizeHint
 TEST_F(BoardPanelTest, ARaceButtonTellsThatItDropsWhatWasTyped) {
     QSignalSpy dropped{&panel, &BoardPanel::typingDropped};
     QTest::keyClicks(&box(4), "7");
-    runner.run("RaceButton", numberArgument(3));
+    runner.run(CommandId::RaceButton, numberArgument(3));
     ASSERT_EQ(1, dropped.count());
     EXPECT_EQ(1, dropped.at(0).at(0).toInt());
     EXPECT_EQ("", card.raceOutcome(1, 5));
 
     type(tote(1), "4.40"); // race 3; the same race again drops it too
-    runner.run("RaceButton", numberArgument(3));
+    runner.run(CommandId::RaceButton, numberArgument(3));
     ASSERT_EQ(2, dropped.count());
     EXPECT_EQ(3, dropped.at(1).at(0).toInt());
 
     type(tote(1), "4.40");
-    runner.run("RaceList", textArgument("RACE 2"));
+    runner.run(CommandId::RaceList, textArgument("RACE 2"));
     EXPECT_EQ(3, dropped.count());
 }
 
 TEST_F(BoardPanelTest, NothingIsToldWhereNothingIsLost) {
     QSignalSpy dropped{&panel, &BoardPanel::typingDropped};
-    runner.run("RaceButton", numberArgument(3));
+    runner.run(CommandId::RaceButton, numberArgument(3));
     type(box(4), "7");
-    runner.run("Next");
-    runner.run("RaceButton", numberArgument(1));
+    runner.run(CommandId::Next);
+    runner.run(CommandId::RaceButton, numberArgument(1));
     type(box(4), "2");
-    runner.run("Save");
-    runner.run("RaceButton", numberArgument(2));
-    runner.run("Command4", numberArgument(1)); // a scratch ranks the race anew
-    runner.run("EntryButton", numberArgument(2));
-    runner.run("Command3", numberArgument(2)); // so does another line
-    runner.run("RaceButton", numberArgument(3));
+    runner.run(CommandId::Save);
+    runner.run(CommandId::RaceButton, numberArgument(2));
+    runner.run(CommandId::Command4, numberArgument(1)); // a scratch ranks the race anew
+    runner.run(CommandId::EntryButton, numberArgument(2));
+    runner.run(CommandId::Command3, numberArgument(2)); // so does another line
+    runner.run(CommandId::RaceButton, numberArgument(3));
     EXPECT_EQ(0, dropped.count());
 }
 

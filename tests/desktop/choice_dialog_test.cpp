@@ -39,11 +39,11 @@ protected:
     void openTracks() {
         put("TargetTracks.txt", "M1\r\nYR\r\nPHL\r\n");
         put("HRA.ini", "");
-        runner.run("Select");
+        runner.run(CommandId::Select);
     }
     void openDrivers() {
         startSampleCard();
-        runner.run("DriverColumn", numberArgument(2));
+        runner.run(CommandId::DriverColumn, numberArgument(2));
     }
 
     QMainWindow window;
@@ -54,7 +54,7 @@ protected:
 
 TEST_F(ChoiceDialogTest, SavedCardsShowTrackAndDateTheLatestFirst) {
     putCards();
-    runner.run("RecallRaceCard");
+    runner.run(CommandId::RecallRaceCard);
     QTreeView& cards = list("ChooseFile");
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_FALSE(dialog.isModal());
@@ -69,11 +69,11 @@ TEST_F(ChoiceDialogTest, SavedCardsShowTrackAndDateTheLatestFirst) {
 
 TEST_F(ChoiceDialogTest, EnterPicksTheCardThatWasTypedFor) {
     startSampleCard();
-    runner.run("Save");
+    runner.run(CommandId::Save);
     const Text saved = card.cardFileName;
-    runner.run("CloseRC");
+    runner.run(CommandId::CloseRC);
     putCards();
-    runner.run("RecallRaceCard");
+    runner.run(CommandId::RecallRaceCard);
     QTest::keyClicks(&filter(), quillon::shown(saved).left(8).toLower());
     EXPECT_EQ((QStringList{quillon::shown(saved)}), rows(list("ChooseFile")));
     QTest::keyClick(&filter(), Qt::Key_Return);
@@ -86,7 +86,7 @@ TEST_F(ChoiceDialogTest, EnterPicksTheCardThatWasTypedFor) {
 
 TEST_F(ChoiceDialogTest, ADoubleClickPicksTheLineUnderIt) {
     putCards();
-    runner.run("RecallRaceCard");
+    runner.run(CommandId::RecallRaceCard);
     QTreeView& cards = list("ChooseFile");
     const QPoint second = cards.visualRect(cards.model()->index(1, 0)).center();
     QTest::mouseClick(cards.viewport(), Qt::LeftButton, {}, second);
@@ -98,7 +98,7 @@ TEST_F(ChoiceDialogTest, ADoubleClickPicksTheLineUnderIt) {
 
 TEST_F(ChoiceDialogTest, AListOfCardsThatIsPutAsideWaitsInTheStatusBar) {
     putCards();
-    runner.run("RecallRaceCard");
+    runner.run(CommandId::RecallRaceCard);
     QTest::keyClick(&filter(), Qt::Key_Escape);
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ("", card.cardFileName) << "nothing was picked";
@@ -115,7 +115,7 @@ TEST_F(ChoiceDialogTest, AListOfCardsThatIsPutAsideWaitsInTheStatusBar) {
 }
 
 TEST_F(ChoiceDialogTest, AFolderWithoutCardsSaysSo) {
-    runner.run("RecallRaceCard");
+    runner.run(CommandId::RecallRaceCard);
     EXPECT_TRUE(child<QLabel>(dialog, "ChoiceEmpty").isVisible());
     EXPECT_FALSE(child<QPushButton>(dialog, "ChoicePick").isEnabled());
     QTest::keyClick(&filter(), Qt::Key_Return);
@@ -178,7 +178,7 @@ TEST_F(ChoiceDialogTest, TheCloseControlPicksExitToo) {
 TEST_F(ChoiceDialogTest, AListThatOpensLaterComesFirstAndTheOtherFollows) {
     openTracks();
     putCards();
-    runner.run("RecallRaceCard");
+    runner.run(CommandId::RecallRaceCard);
     EXPECT_EQ("Recall Race Card", dialog.windowTitle());
     EXPECT_FALSE(list("SelectTrack").isVisible());
     QTest::keyClick(&filter(), Qt::Key_Return);

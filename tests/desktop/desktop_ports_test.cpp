@@ -310,9 +310,9 @@ struct PortsOfTheWindowTest : WindowTest {
 TEST_F(PortsOfTheWindowTest, TheCondensedProgramPrintsAPageARace) {
     putSampleCard();
     DialogAnswers ok{QMessageBox::Ok};
-    window.runner().run("Start");
+    window.runner().run(CommandId::Start);
     EXPECT_EQ(1, ok.count()); // how to go on
-    window.runner().run("PrintCondensedProgram");
+    window.runner().run(CommandId::PrintCondensedProgram);
     EXPECT_EQ(3, ok.count()); // the printer is to be switched on, before and behind
     ASSERT_EQ(1U, openWindows<PrintPreview>().size());
     PrintPreview& preview = *openWindows<PrintPreview>().front();

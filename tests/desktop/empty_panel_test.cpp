@@ -89,7 +89,7 @@ TEST_F(EmptyPanelTest, AStartWithoutARaceTableSaysWhy) {
     put(std::filesystem::path{sourceFolder} / "RACESHR.DBF", "no table");
     panel.refresh();
     EXPECT_EQ("", text("EmptyNotice"));
-    runner.run("Start"); // from the menu or by its key
+    runner.run(CommandId::Start); // from the menu or by its key
     EXPECT_EQ("Start found no race: RACESHR.DBF holds none, or is no table.", text("EmptyNotice"));
 }
 
@@ -105,7 +105,7 @@ TEST_F(EmptyPanelTest, ASavedCardCanBeRecalled) {
     click(button("EmptyRecall"));
     EXPECT_TRUE(screen.fileList.visible);
     panel.refresh();
-    EXPECT_EQ(CommandRunner::canRun("RecallRaceCard"), button("EmptyRecall").isEnabled());
+    EXPECT_EQ(CommandRunner::canRun(CommandId::RecallRaceCard), button("EmptyRecall").isEnabled());
 }
 
 TEST_F(EmptyPanelTest, TheStartButtonIsTheScreens) {

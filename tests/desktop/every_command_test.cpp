@@ -33,7 +33,7 @@ class EveryCommandTest : public MainWindowTest, public testing::WithParamInterfa
 protected:
     EveryCommandTest() {
         QObject::connect(&window->runner(), &CommandRunner::ran, &*window,
-                         [this](const QString& command) { ran.push_back(command.toStdString()); });
+                         [this](CommandId id) { ran.emplace_back(command(id).name); });
     }
 
 public:
@@ -235,7 +235,7 @@ public:
     void heatWinner() {
         startInWindow();
         pickInMenu("HeatWinner");
-        EXPECT_TRUE(window->menus().action("HeatWinner")->isChecked());
+        EXPECT_TRUE(window->menus().action(CommandId::HeatWinner)->isChecked());
         EXPECT_TRUE(button("HeatButton1").isVisible());
     }
     void viewHeat() {
@@ -374,9 +374,9 @@ public:
     // Settings, tools and help
     void diagnostic() {
         pickInMenu("Diagnostic");
-        EXPECT_TRUE(window->menus().action("Diagnostic")->isChecked());
+        EXPECT_TRUE(window->menus().action(CommandId::Diagnostic)->isChecked());
         pickInMenu("Diagnostic");
-        EXPECT_FALSE(window->menus().action("Diagnostic")->isChecked());
+        EXPECT_FALSE(window->menus().action(CommandId::Diagnostic)->isChecked());
     }
     void vendorsPage() {
         putSampleCard();
@@ -450,13 +450,13 @@ protected:
     }
 
     /// Opens the menus down to the command's item by clicks, and clicks it.
-    void pickInMenu(const char* command) {
-        QAction* item = window->menus().action(command);
-        ASSERT_TRUE(item && item->isVisible() && item->isEnabled()) << command;
-        QMenu* menu = window->menus().menu(findCommand(command)->menu);
+    void pickInMenu(const char* name) {
+        const Command& command = *findCommand(name);
+        QAction* item = window->menus().action(command.id);
+        ASSERT_TRUE(item && item->isVisible() && item->isEnabled()) << name;
+        QMenu* menu = window->menus().menu(command.item.menu);
         open(*menu);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return menu->isVisible(); }))
-            << command; // a submenu waits a moment
+        ASSERT_TRUE(QTest::qWaitFor([&] { return menu->isVisible(); })) << name; // a submenu waits a moment
         QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(item).center());
     }
     void open(QMenu& menu) {

@@ -37,16 +37,43 @@ TEST_F(MainWindowTest, NoCommandOfTheTableIsMissingFromTheWindow) {
 
 TEST_F(MainWindowTest, EveryMenuItemHasItsCommandsCaptionAKeyAndAHint) {
     for (const Command& command : commandTable()) {
-        if (command.menu == Menu::none) continue;
-        const QAction* action = window->menus().action(command.name);
+        if (command.item.menu == Menu::none) continue;
+        const QAction* action = window->menus().action(command.id);
         ASSERT_TRUE(action) << command.name;
         QString caption = action->text();
         EXPECT_TRUE(caption.contains(QRegularExpression{"&[^&]"}))
             << command.name << " has no underlined letter";
         caption.replace("&&", "\x01").remove('&').replace("\x01", "&");
-        EXPECT_EQ(QString{command.caption}.simplified(), caption) << command.name;
+        EXPECT_EQ(QString{command.item.caption}.simplified(), caption) << command.name;
         EXPECT_FALSE(action->statusTip().isEmpty()) << command.name;
+        EXPECT_EQ(QString{command.item.hint}, action->statusTip()) << command.name;
+        EXPECT_EQ(QString{command.item.hint}, action->toolTip()) << command.name;
+        EXPECT_EQ(QString{command.item.keys}, QKeySequence::listToString(action->shortcuts()))
+            << command.name;
+        EXPECT_EQ(command.item.hasMark, action->isCheckable()) << command.name;
     }
+}
+
+// A button that a command has besides its menu item says the same, and the key that is quicker.
+TEST_F(MainWindowTest, AButtonsTipIsItsCommandsHintAndKey) {
+    struct Row {
+        const char* button;
+        const char* tip;
+    };
+    constexpr Row rows[] = {
+        {"Start", "Load and rate the card of the vendor's tables (F5)"},
+        {"EmptyStart", "Load and rate the card of the vendor's tables (F5)"},
+        {"EmptyRecall", "Open a saved race card (Ctrl+O)"},
+        {"Previous", "Store the board and go to the race before (Alt+Left)"},
+        {"Next", "Store the board and go to the next race (Alt+Right)"},
+        {"RaceButton7", "Show race 7. The arrows keep what was typed on the board; this button does not."},
+        {"Command7", "Take another past line for the entry on show, by its number (Ctrl+L)"},
+        {"AnalysisRecord", "Add this card to the archive, once"},
+        {"AnalysisMILE", "The cards of mile tracks"},
+        {"AnalysisMainScreen", "Back to the races (Ctrl+M)"},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(row.tip, child<QAbstractButton>(*window, row.button).toolTip().toStdString()) << row.button;
 }
 
 // The sample card has 12 races, the most that a card can have buttons for is 23.
@@ -111,9 +138,9 @@ TEST_F(MainWindowTest, NoLetterIsUnderlinedTwiceInAMenuAndNoShortcutGivenTwice) 
 
 void expectMenusAsOnScreen(MainWindow& window) {
     for (const Command& command : commandTable()) {
-        if (command.menu == Menu::none || !command.item) continue;
-        const MenuState& state = screen.item(*command.item);
-        const QAction* action = window.menus().action(command.name);
+        if (!isMenuItem(command)) continue;
+        const MenuState& state = screen.item(command.id);
+        const QAction* action = window.menus().action(command.id);
         EXPECT_EQ(state.visible, action->isVisible()) << command.name;
         EXPECT_EQ(state.enabled && state.visible, action->isEnabled()) << command.name;
         EXPECT_EQ(state.checked, action->isChecked()) << command.name;
@@ -133,9 +160,9 @@ TEST_F(MainWindowTest, MenuStatesAreTheScreensBeforeAndBehindALoad) {
 TEST_F(MainWindowTest, AMarkInAMenuIsTheScreensNotTheClicks) {
     startInWindow();
     choose("HeatWinner");
-    EXPECT_TRUE(window->menus().action("HeatWinner")->isChecked());
+    EXPECT_TRUE(window->menus().action(CommandId::HeatWinner)->isChecked());
     pressKeys("Alt+Right"); // the next race takes the mark away
-    EXPECT_FALSE(window->menus().action("HeatWinner")->isChecked());
+    EXPECT_FALSE(window->menus().action(CommandId::HeatWinner)->isChecked());
 }
 
 TEST_F(MainWindowTest, StartLoadsTheCardAndEndsOnRaceOne) {
@@ -158,7 +185,7 @@ TEST_F(WindowTest, TheCardIsInSightBehindTheLoadsMessage) {
                   child<QAbstractButton>(real, "RaceButton12").isVisible();
         dialog.accept();
     }};
-    real.runner().run("Start");
+    real.runner().run(CommandId::Start);
     EXPECT_EQ(1, answers.count());
     EXPECT_TRUE(inSight);
 }
@@ -218,11 +245,11 @@ TEST_F(MainWindowTest, NoCommandRunsWhileAnotherOneWaitsForAnAnswer) {
     bool nested = true;
     bool closed = true;
     ports.question = [&](const Text&, const Text&) {
-        nested = window->runner().run("Next");
+        nested = window->runner().run(CommandId::Next);
         closed = window->close();
         return false;
     };
-    window->runner().run("Command4", numberArgument(1));
+    window->runner().run(CommandId::Command4, numberArgument(1));
     EXPECT_FALSE(nested);
     EXPECT_FALSE(closed);
     EXPECT_EQ("1", screen.header.race);

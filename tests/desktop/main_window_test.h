@@ -34,7 +34,7 @@ protected:
     }
 
     void pressKeys(const char* shortcut) { QTest::keySequence(&*window, QKeySequence{shortcut}); }
-    void choose(const char* command) { window->menus().action(command)->trigger(); }
+    void choose(const char* command) { window->menus().action(findCommand(command)->id)->trigger(); }
 
     std::optional<MainWindow> window;
 };

@@ -28,8 +28,8 @@ struct PastLinesTest : WindowTest {
     /// The past lines of entry 2 of race 3 of the sample card.
     void openEntry() {
         startSampleCard();
-        runner.run("RaceButton", numberArgument(3));
-        runner.run("EntryButton", numberArgument(2));
+        runner.run(CommandId::RaceButton, numberArgument(3));
+        runner.run(CommandId::EntryButton, numberArgument(2));
         ASSERT_TRUE(screen.pastPerformanceOpen);
     }
 
@@ -70,7 +70,7 @@ TEST_F(PastLinesTest, WithoutAnEntryTheLinesOfTheWholeRaceAreShown) {
     EXPECT_FALSE(entryLines().isVisible());
     expectRows(raceLines(), screen.dataView[1]);
     EXPECT_EQ("Past lines of race 1", label("RaceLinesHeading"));
-    runner.run("Next");
+    runner.run(CommandId::Next);
     expectRows(raceLines(), screen.dataView[2]);
     EXPECT_FALSE(raceLines().isColumnHidden(0));
     for (const int hidden : {2, 3, 4, 5, 6, 36}) EXPECT_TRUE(raceLines().isColumnHidden(hidden)) << hidden;
@@ -146,7 +146,7 @@ TEST_F(PastLinesTest, TheProgramsLineIsMarkedAndTheUsersHasAMarkOfItsOwn) {
 TEST_F(PastLinesTest, AScratchedEntryHasNoLineInUse) {
     openEntry();
     answers = {"Yes"};
-    runner.run("Command4", numberArgument(2));
+    runner.run(CommandId::Command4, numberArgument(2));
     EXPECT_EQ(Rows{}, marked(disc));
     EXPECT_EQ(Rows{}, marked(pointer));
     EXPECT_FALSE(child<QLabel>(panel, "LineInUse").isVisible());
@@ -166,7 +166,7 @@ TEST_F(PastLinesTest, CloseAndEscapeCloseTheFrame) {
     click(line(0));
     EXPECT_FALSE(screen.pastPerformanceOpen);
     EXPECT_TRUE(raceLines().isVisible());
-    runner.run("EntryButton", numberArgument(1));
+    runner.run(CommandId::EntryButton, numberArgument(1));
     line(1).setFocus();
     QTest::keyClick(&line(1), Qt::Key_Escape);
     EXPECT_FALSE(screen.pastPerformanceOpen);

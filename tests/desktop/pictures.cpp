@@ -74,49 +74,49 @@ public:
     void takeAll() {
         take("empty");
         layOutSample();
-        run("Start");
+        run(CommandId::Start);
         take("race");
         show("Overview");
         take("overview");
-        run("RaceButton", numberArgument(3));
-        run("EntryButton", numberArgument(2));
+        run(CommandId::RaceButton, numberArgument(3));
+        run(CommandId::EntryButton, numberArgument(2));
         take("past-lines");
-        run("Command3", numberArgument(1)); // line 2 is the program's own
+        run(CommandId::Command3, numberArgument(1)); // line 2 is the program's own
         take("line-taken");
-        run("Command3", numberArgument(0));
-        run("Command4", numberArgument(4));
+        run(CommandId::Command3, numberArgument(0));
+        run(CommandId::Command4, numberArgument(4));
         take("scratched");
-        run("DriverColumn", numberArgument(2));
+        run(CommandId::DriverColumn, numberArgument(2));
         take("driver-list");
-        run("DriverChoice", textArgument("EXIT"));
+        run(CommandId::DriverChoice, textArgument("EXIT"));
         pasteResults();
-        run("EBET");
+        run(CommandId::EBET);
         take("results");
-        run("RaceButton", numberArgument(7));
+        run(CommandId::RaceButton, numberArgument(7));
         take("dead-heat");
-        run("SelectionResults");
+        run(CommandId::SelectionResults);
         take("summary");
-        run("Record");
-        run("MainScreen");
+        run(CommandId::Record);
+        run(CommandId::MainScreen);
         repeatRecordedCard();
-        run("ALL");
+        run(CommandId::ALL);
         take("profile");
-        run("Track_Profile");
+        run(CommandId::Track_Profile);
         take("tracks");
-        run("Pick3Results");
+        run(CommandId::Pick3Results);
         take("picks");
-        run("MainScreen");
-        run("Star");
-        run("MarginChoice", textArgument("ALL Margins"));
-        run("OddsChoice", textArgument("ALL Odds"));
-        run("MaxOddsChoice", textArgument("ALL Odds"));
+        run(CommandId::MainScreen);
+        run(CommandId::Star);
+        run(CommandId::MarginChoice, textArgument("ALL Margins"));
+        run(CommandId::OddsChoice, textArgument("ALL Odds"));
+        run(CommandId::MaxOddsChoice, textArgument("ALL Odds"));
         takeOf(*window_.findChild<StarsWindow*>(), "stars");
-        run("MainScreen");
-        run("HeatWinner");
+        run(CommandId::MainScreen);
+        run(CommandId::HeatWinner);
         take("heat");
-        run("Save");
-        run("CloseRC");
-        run("RecallRaceCard");
+        run(CommandId::Save);
+        run(CommandId::CloseRC);
+        run(CommandId::RecallRaceCard);
         take("recall");
         show("FaultJournal");
         takeOf(*window_.findChild<FaultJournalDialog*>(), "fault-journal");
@@ -125,9 +125,9 @@ public:
     bool failed() const { return failed_; }
 
 private:
-    void run(const char* command, const Arguments& arguments = {}) {
-        if (window_.runner().run(command, arguments)) return;
-        std::fprintf(stderr, "%s could not be run\n", command);
+    void run(CommandId id, const Arguments& arguments = {}) {
+        if (window_.runner().run(id, arguments)) return;
+        std::fprintf(stderr, "%s could not be run\n", command(id).name);
         failed_ = true;
     }
 

@@ -29,7 +29,7 @@ TEST_F(RaceListPanelTest, ListsTheCardsRacesAndChecksTheOneOnShow) {
     ASSERT_EQ(static_cast<int>(screen.raceList.lines.size()), list().count());
     ASSERT_GT(list().count(), 2);
     EXPECT_TRUE(text(0).startsWith("RACE 1"));
-    runner.run("Next");
+    runner.run(CommandId::Next);
     EXPECT_EQ("RACE 1", text(0));
     EXPECT_EQ(QString{"RACE 2   %1 %2"}.arg(QChar{0x2713}, quillon::shown(screen.raceChecks[2].caption)),
               text(1));

@@ -68,9 +68,9 @@ TEST_F(RacePanelTest, BeforeACardItHoldsThePlaceOfTwelveEntries) {
 TEST_F(RacePanelTest, TheEntriesOfTheRaceOnShowStandInTheirColumns) {
     startSampleCard();
     expectRace(1);
-    runner.run("RaceButton", numberArgument(3));
+    runner.run(CommandId::RaceButton, numberArgument(3));
     expectRace(3);
-    runner.run("Next");
+    runner.run(CommandId::Next);
     expectRace(4);
 }
 
@@ -103,7 +103,7 @@ TEST_F(RacePanelTest, SaddleClothsHaveABoldFaceOfTheirOwnInTheMiddle) {
 
 TEST_F(RacePanelTest, HeadAndTwelveRowsFillItsHeightAndButtonsStandBesideTheirRowsAtEveryZoom) {
     startSampleCard();
-    runner.run("HeatWinner");
+    runner.run(CommandId::HeatWinner);
     for (const int zoom : {100, 60, 140, 300, 100}) {
         appearance.setZoom(zoom);
         QTest::qWait(20);
@@ -176,14 +176,14 @@ TEST_F(RacePanelTest, WhereNoHorseIsNothingCanBePressed) {
 TEST_F(RacePanelTest, HeatButtonsComeAndGoWithTheirMark) {
     startSampleCard();
     EXPECT_FALSE(button("HeatButton", 1).isVisible());
-    runner.run("HeatWinner");
+    runner.run(CommandId::HeatWinner);
     EXPECT_TRUE(button("HeatButton", 1).isVisible());
     EXPECT_FALSE(button("HeatButton", 12).isEnabled());
     answers = {"14", "1", "3"}; // race, finish, post in the final
     click(button("HeatButton", 1));
     EXPECT_EQ(3, card.heatPost(14, 3));
     EXPECT_EQ(card.entry(1, 1).horseName.text(), card.entry(14, 3).horseName.text());
-    runner.run("HeatWinner");
+    runner.run(CommandId::HeatWinner);
     EXPECT_FALSE(button("HeatButton", 1).isVisible());
 }
 
@@ -221,7 +221,7 @@ TEST_F(RacePanelTest, ACellThatIsStillBeingTypedInIsTakenUpBeforeTheNextCommand)
     QWidget* editor = table().indexWidget(cell(2, 8));
     ASSERT_TRUE(editor);
     QTest::keyClicks(editor, "7.4");
-    runner.run("Next");
+    runner.run(CommandId::Next);
     EXPECT_EQ("27.4", screen.raceView[1].text(2, 8));
     EXPECT_EQ("2", screen.header.race);
     expectRace(2);

@@ -21,7 +21,7 @@ protected:
     StarsWindowTest() {
         put("Stars5.ini", "M1_20260314\r\n" + starLine("1", "43.20") + starLine("2", ""));
         QObject::connect(&runner, &CommandRunner::ran, &window, [this] { window.refresh(); });
-        runner.run("Star");
+        runner.run(CommandId::Star);
     }
 
     PickList& list(const QString& command) { return child<PickList>(window, command); }
@@ -147,13 +147,13 @@ TEST_F(StarsWindowTest, ClosingGoesBackToTheMainScreen) {
     EXPECT_FALSE(screen.starsVisible);
     EXPECT_TRUE(screen.racePanelsVisible);
     EXPECT_FALSE(window.isVisible());
-    runner.run("Star");
+    runner.run(CommandId::Star);
     EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(&list("MarginChoice"), window.focusWidget());
 }
 
 TEST_F(StarsWindowTest, AnotherAnalysisViewClosesTheWindow) {
-    runner.run("Pick3Results");
+    runner.run(CommandId::Pick3Results);
     EXPECT_FALSE(window.isVisible());
     EXPECT_TRUE(screen.picksVisible);
 }
@@ -167,7 +167,7 @@ TEST_F(StarsWindowTest, ItStaysWhileACommandWaits) {
     Text many = "M1_20260314\r\n"; // long enough for the work to tell how far it is
     for (int n = 0; n < 200'000; ++n) many += starLine("1", "43.20");
     put("Stars5.ini", many);
-    runner.run("Star");
+    runner.run(CommandId::Star);
     EXPECT_FALSE(closed);
     EXPECT_TRUE(window.isVisible());
     EXPECT_TRUE(screen.starsVisible);

@@ -17,7 +17,7 @@ void WindowTest::putSampleCard() {
 
 void WindowTest::startSampleCard() {
     putSampleCard();
-    runner.run("Start");
+    runner.run(CommandId::Start);
 }
 
 } // namespace quillon

@@ -474,7 +474,7 @@ protected:
 
     /// The log line of one rated line, without the lone carriage return in front of it.
     static Text logOfRateLine() {
-        screen.item(MenuItem::Diagnostic).checked = true;
+        screen.item(CommandId::Diagnostic).checked = true;
         RateLine();
         appendDiagnosticLog();
         const Text log = contentOf("TEST.txt");
@@ -902,7 +902,7 @@ TEST_F(RateLineTest, NothingToLogLeavesTheFileAsItIs) {
 
 TEST_F(RateLineTest, LogLinesFollowTheHeadingAndAreWrittenOnce) {
     Diagnostic();
-    EXPECT_TRUE(screen.item(MenuItem::Diagnostic).checked);
+    EXPECT_TRUE(screen.item(CommandId::Diagnostic).checked);
     const Text heading =
         " RACE  PP    LQC    POST   LH     PO     POW    POD    QU     CL     FAV    WPS\r\n";
     EXPECT_EQ(heading, contentOf("TEST.txt"));

@@ -261,12 +261,12 @@ TEST_F(SelectionSheetTest, CountsTheRacesWhoseButtonsShow) {
 TEST_F(SelectionSheetTest, RewritesBothFilesAndEndsWithThePickSheet) {
     put(sheetPath, "an older sheet that is much longer than nothing");
     put("Stars.txt", "older stars");
-    screen.item(MenuItem::ViewSummary).enabled = false;
+    screen.item(CommandId::ViewSummary).enabled = false;
     showRaces(0);
     SelectionSheet();
     EXPECT_TRUE(contentOf(sheetPath).starts_with(head + "*Scr_Adj:  If"));
     EXPECT_EQ(head, contentOf("Stars.txt"));
-    EXPECT_TRUE(screen.item(MenuItem::ViewSummary).enabled);
+    EXPECT_TRUE(screen.item(CommandId::ViewSummary).enabled);
     EXPECT_TRUE(exists("A Quillon PRO/Selections2/M1_20260314.pmr2"));
 }
 

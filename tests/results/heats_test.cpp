@@ -52,12 +52,12 @@ using Selections = std::array<Text, 4>;
 TEST_F(HeatTest, TheMarkShowsAndHidesTheTwelveChoiceButtons) {
     for (Button& button : screen.heatButtons) button = {.visible = false, .enabled = false};
     HeatWinner();
-    EXPECT_TRUE(screen.item(MenuItem::HeatWinner).checked);
+    EXPECT_TRUE(screen.item(CommandId::HeatWinner).checked);
     for (int row = 1; row <= 12; ++row) EXPECT_TRUE(screen.heatButtons.at(row).enabled) << row;
     for (int row = 1; row <= 12; ++row) EXPECT_TRUE(screen.heatButtons.at(row).visible) << row;
     EXPECT_FALSE(screen.heatButtons[0].visible);
     HeatWinner();
-    EXPECT_FALSE(screen.item(MenuItem::HeatWinner).checked);
+    EXPECT_FALSE(screen.item(CommandId::HeatWinner).checked);
     for (int row = 1; row <= 12; ++row) EXPECT_FALSE(screen.heatButtons.at(row).visible) << row;
 }
 

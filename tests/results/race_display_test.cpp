@@ -136,11 +136,11 @@ TEST_F(RaceDisplayTest, EntryButtonsTellProgramNumbersAboveZero) {
 
 TEST_F(RaceDisplayTest, TheHeatMarkAndItsButtonsGoAndTheEntrysFrameCloses) {
     screen.header.race = "5";
-    screen.item(MenuItem::HeatWinner).checked = true;
+    screen.item(CommandId::HeatWinner).checked = true;
     EntryButton(4);
     ASSERT_TRUE(screen.pastPerformanceOpen);
     RaceButton(7);
-    EXPECT_FALSE(screen.item(MenuItem::HeatWinner).checked);
+    EXPECT_FALSE(screen.item(CommandId::HeatWinner).checked);
     for (int row = 1; row <= 12; ++row) EXPECT_FALSE(screen.heatButtons.at(row).visible) << row;
     EXPECT_FALSE(screen.pastPerformanceOpen);
     EXPECT_EQ(0, screen.currentEntry);
@@ -239,12 +239,12 @@ TEST_F(RaceDisplayTest, NextAtTheLastRaceStoresAndShowsNothingButEndsTheHeatChoi
     card.labelledRaces = 3;
     RaceButton(12);
     TypeBox(4, "9");
-    screen.item(MenuItem::HeatWinner).checked = true;
+    screen.item(CommandId::HeatWinner).checked = true;
     Next();
     EXPECT_EQ("12", screen.header.race);
     EXPECT_EQ(cellText(12, 5), card.raceOutcome(12, 5));
     EXPECT_EQ("9", screen.boxes[4].text);
-    EXPECT_FALSE(screen.item(MenuItem::HeatWinner).checked);
+    EXPECT_FALSE(screen.item(CommandId::HeatWinner).checked);
     EXPECT_EQ(15, cursor.race); // 3 lettered races and 12
 }
 
