@@ -11,7 +11,6 @@
 namespace quillon {
 namespace {
 
-constexpr int lineButtons = 13;
 constexpr int numberedRows = 15; ///< rows of the past-performance view that carry a line's number
 
 // A race view has the columns of a data view from the purse to the favourite's mark, further left.

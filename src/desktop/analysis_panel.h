@@ -2,7 +2,6 @@
 #pragma once
 
 #include "desktop/appearance.h"
-#include "desktop/cell_table_view.h"
 #include "desktop/command_runner.h"
 #include "screen/screen.h"
 
@@ -12,10 +11,11 @@
 #include <QStackedWidget>
 #include <QWidget>
 
-#include <array>
 #include <vector>
 
 namespace quillon {
+
+class CellTableView;
 
 /// Shows the one of the tables that the screen shows, a heading above it and its buttons below.
 class AnalysisPanel : public QWidget {
@@ -29,29 +29,20 @@ public:
 
 private:
     struct Page {
-        bool Screen::*visible;
-        QString title;
         QWidget* widget;
-        QWidget* table; ///< takes the keys when the page is opened
+        std::vector<CellTableView*> tables{}; ///< the first takes the keys when the page is opened
     };
 
-    CellTableView* newTable(const char* name, const QString& accessibleName, const Grid& grid,
-                            const CellRange& range, std::vector<int> widths);
-    void buildSummary();
-    void buildProfile();
-    void buildTracks();
-    void buildPicks();
+    void buildPage(std::size_t at);
     void buildButtons(QHBoxLayout& row);
     void refreshButtons();
-    const Page* pageOnShow() const;
     void lay();
 
     CommandRunner& runner_;
     Appearance& appearance_;
     QLabel* heading_;
     QStackedWidget* stack_;
-    std::vector<CellTableView*> tables_;
-    std::vector<Page> pages_;
+    std::vector<Page> pages_;           ///< as the rows of the table of pages
     std::vector<QPushButton*> buttons_; ///< as the rows of the table of buttons
 };
 

@@ -1,8 +1,7 @@
 #include "desktop/board_panel.h"
 
-#include "desktop/command_texts.h"
+#include "desktop/board_boxes.h"
 #include "desktop/shown_text.h"
-#include "results/board.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -15,61 +14,13 @@ namespace {
 
 constexpr int longestText = 255;
 
-// Where things stand: the runners at the left, the payoffs of the first three with their heads in the middle,
-// the exotics, and the wide boxes.
-constexpr int runnerColumn = 0;
-constexpr int firstRule = 4;
-constexpr int toteColumn = 5; ///< captions "Win", "Place", "Show"; the payoffs behind it
-constexpr int secondRule = 9;
-constexpr int exoticColumn = 10;
-constexpr int thirdRule = 12;
-constexpr int wideColumn = 13;
-constexpr int rows = 4;
-
 constexpr int numberTwips = 600;
 constexpr int payoffTwips = 1020;
 constexpr int exoticTwips = 1200;
 constexpr int wideTwips = 2000;
 
-struct RunnerBox {
-    int row;
-    int column;
-    const char* caption;
-    const char* name;
-};
-constexpr std::array runnerBoxes{
-    RunnerBox{1, 0, "S1", "Selection S1"},    RunnerBox{1, 1, "S2", "Selection S2"},
-    RunnerBox{1, 2, "S3", "Selection S3"},    RunnerBox{1, 3, "S4", "Selection S4"},
-    RunnerBox{3, 0, "1st", "Finished first"}, RunnerBox{3, 1, "2nd", "Finished second"},
-    RunnerBox{3, 2, "3rd", "Finished third"}, RunnerBox{3, 3, "4th", "Finished fourth"},
-};
-
-struct PayoffBox {
-    int box;
-    int row;
-    int column;
-    const char* name;
-};
-constexpr std::array payoffBoxes{
-    PayoffBox{1, 1, toteColumn + 1, "Win payoff of the first"},
-    PayoffBox{2, 2, toteColumn + 1, "Place payoff of the first"},
-    PayoffBox{3, 3, toteColumn + 1, "Show payoff of the first"},
-    PayoffBox{4, 2, toteColumn + 2, "Place payoff of the second"},
-    PayoffBox{5, 3, toteColumn + 2, "Show payoff of the second"},
-    PayoffBox{6, 3, toteColumn + 3, "Show payoff of the third"},
-    PayoffBox{7, 1, exoticColumn + 1, "Exacta payoff"},
-    PayoffBox{8, 2, exoticColumn + 1, "Trifecta payoff"},
-    PayoffBox{9, 3, exoticColumn + 1, "Superfecta payoff"},
-};
-
-// In a dead heat for first the second winner has a Win payoff, in one for second the third horse a Place
-// payoff: each stands in the column of its horse, where a plain finish has no box.
-constexpr int boxTen = 10;
-constexpr int doubleBox = 11;
-constexpr std::array boxTenRow{0, 1, 2};
-constexpr std::array boxTenColumn{0, toteColumn + 2, toteColumn + 3};
-constexpr std::array boxTenName{"Dead heat payoff", "Win payoff of the second winner",
-                                "Place payoff of the other second"};
+// Commands that show a race anew and take nothing of the board into the store.
+constexpr std::array droppingCommands{"RaceButton", "RaceList", "AutoRecord", "EBET"};
 
 QFrame* rule(QWidget* parent) {
     auto* line = new QFrame{parent};
@@ -104,8 +55,8 @@ BoardPanel::BoardPanel(CommandRunner& runner, Appearance& appearance, QWidget* p
     buildRunners();
     buildTote();
     buildWideBoxes();
-    for (const int column : {firstRule, secondRule, thirdRule})
-        grid_->addWidget(rule(this), 0, column, rows, 1);
+    for (const int column : {BoardColumn::afterRunners, BoardColumn::afterPayoffs, BoardColumn::afterExotics})
+        grid_->addWidget(rule(this), BoardRow::heads, column, BoardRow::count, 1);
     buildTabOrder();
     connect(&runner_, &CommandRunner::aboutToRun, this, [this] {
         handIn();
@@ -116,7 +67,7 @@ BoardPanel::BoardPanel(CommandRunner& runner, Appearance& appearance, QWidget* p
     lay();
 }
 
-// A box that has the focus loses it when it is deleted, and that is behind us.
+// A box that has the focus loses it when it is deleted, and by then we are gone.
 BoardPanel::~BoardPanel() {
     for (const Entry& entry : entries_) entry.edit->disconnect(this);
 }
@@ -152,15 +103,15 @@ void BoardPanel::buildRunners() {
                 runner_.run(CommandId::Box, Arguments{.numbers = {number, 0, 0}, .text = text});
             });
         boxes_[i]->setAlignment(Qt::AlignCenter);
-        QLabel* caption = addLabel(tr(place.caption), place.row - 1, runnerColumn + place.column);
+        QLabel* caption = addLabel(tr(place.caption), place.row - 1, place.column);
         caption->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
         caption->setBuddy(boxes_[i]);
-        grid_->addWidget(boxes_[i], place.row, runnerColumn + place.column);
+        grid_->addWidget(boxes_[i], place.row, place.column);
     }
 }
 
 void BoardPanel::buildTote() {
-    heading_ = addLabel({}, 0, toteColumn);
+    heading_ = addLabel({}, BoardRow::heads, BoardColumn::toteCaptions);
     heading_->setObjectName("ToteHeading");
     const auto addPayoff = [this](int box, const char* name) {
         QLineEdit* edit =
@@ -172,29 +123,24 @@ void BoardPanel::buildTote() {
     };
     for (const PayoffBox& payoff : payoffBoxes)
         grid_->addWidget(addPayoff(payoff.box, payoff.name), payoff.row, payoff.column);
-    addPayoff(boxTen, boxTenName[0])->hide();
-    addPayoff(doubleBox, "Daily double")->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    addPayoff(ToteBox::deadHeat, deadHeatPlaces.front().name)->hide();
+    addPayoff(ToteBox::dailyDouble, "Daily double")->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    for (const RowCaption& caption : rowCaptions) addLabel(tr(caption.text), caption.row, caption.column);
+    buildPayoffHeads();
+}
 
-    constexpr std::array rowCaptions{"Win", "Place", "Show"};
-    constexpr std::array exoticCaptions{"Exacta", "Trifecta", "Superfecta"};
-    for (int row = 1; row < rows; ++row) {
-        const auto i = static_cast<std::size_t>(row - 1);
-        addLabel(tr(rowCaptions[i]), row, toteColumn);
-        addLabel(tr(exoticCaptions[i]), row, exoticColumn);
-    }
-    constexpr std::array places{"1st", "2nd", "3rd", "4th"};
-    constexpr std::array columns{toteColumn + 1, toteColumn + 2, toteColumn + 3, exoticColumn + 1};
+void BoardPanel::buildPayoffHeads() {
     for (std::size_t i = 0; i < finishLabels_.size(); ++i) {
         auto* head = new QHBoxLayout;
         head->setSpacing(4);
-        captions_.push_back(new QLabel{tr(places[i]), this});
+        captions_.push_back(new QLabel{tr(payoffHeads.at(i).text), this});
         finishLabels_[i] = new QLabel{this};
         finishLabels_[i]->setObjectName(QString{"FinishLabel%1"}.arg(i));
         finishLabels_[i]->setTextFormat(Qt::PlainText);
         head->addStretch(1);
         head->addWidget(captions_.back());
         head->addWidget(finishLabels_[i]);
-        grid_->addLayout(head, 0, columns[i]);
+        grid_->addLayout(head, BoardRow::heads, payoffHeads.at(i).column);
     }
 }
 
@@ -207,18 +153,21 @@ void BoardPanel::buildWideBoxes() {
         QLineEdit* edit;
         int row;
     };
-    for (const WideBox& wide :
-         {WideBox{"Daily Double:", tote_[doubleBox], 0}, WideBox{"Refunds:", refunds_, 2}}) {
-        addLabel(tr(wide.caption), wide.row, wideColumn)->setBuddy(wide.edit);
-        grid_->addWidget(wide.edit, wide.row + 1, wideColumn);
+    for (const WideBox& wide : {WideBox{"Daily Double:", tote_[ToteBox::dailyDouble], BoardRow::heads},
+                                WideBox{"Refunds:", refunds_, BoardRow::place}}) {
+        addLabel(tr(wide.caption), wide.row, BoardColumn::wide)->setBuddy(wide.edit);
+        grid_->addWidget(wide.edit, wide.row + 1, BoardColumn::wide);
     }
-    grid_->setColumnStretch(wideColumn, 1);
+    grid_->setColumnStretch(BoardColumn::wide, 1);
 }
 
 // As a results chart is read: the finish, the payoffs, the exotics; the selections are typed least.
 void BoardPanel::buildTabOrder() {
     std::vector<QWidget*> order(boxes_.begin() + firstFinishBox, boxes_.end());
-    for (const std::size_t box : {1, 2, 3, 4, 5, 6, 7, 8, 9, doubleBox, boxTen}) order.push_back(tote_[box]);
+    for (const PayoffBox& payoff : payoffBoxes)
+        order.push_back(tote_.at(static_cast<std::size_t>(payoff.box)));
+    order.push_back(tote_[ToteBox::dailyDouble]);
+    order.push_back(tote_[ToteBox::deadHeat]);
     order.push_back(refunds_);
     order.insert(order.end(), boxes_.begin(), boxes_.begin() + firstFinishBox);
     for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
@@ -237,9 +186,11 @@ void BoardPanel::lay() {
     }
     for (const PayoffBox& payoff : payoffBoxes)
         tote_.at(static_cast<std::size_t>(payoff.box))
-            ->setFixedWidth(appearance_.pixels(payoff.column > exoticColumn ? exoticTwips : payoffTwips));
-    tote_[boxTen]->setFixedWidth(appearance_.pixels(payoffTwips));
-    for (QLineEdit* wide : {tote_[doubleBox], refunds_}) wide->setMinimumWidth(appearance_.pixels(wideTwips));
+            ->setFixedWidth(
+                appearance_.pixels(payoff.column == BoardColumn::exoticPays ? exoticTwips : payoffTwips));
+    tote_[ToteBox::deadHeat]->setFixedWidth(appearance_.pixels(payoffTwips));
+    for (QLineEdit* wide : {tote_[ToteBox::dailyDouble], refunds_})
+        wide->setMinimumWidth(appearance_.pixels(wideTwips));
 }
 
 void BoardPanel::handIn() {
@@ -264,14 +215,14 @@ void BoardPanel::takeUp(CommandId id) {
 }
 
 void BoardPanel::placeBoxTen() {
-    QLineEdit& box = *tote_[boxTen];
+    QLineEdit& box = *tote_[ToteBox::deadHeat];
     const int wanted = theScreen.boxTenVisible ? theScreen.boxTenColumn : 0;
     if (wanted != boxTenColumn_) {
         boxTenColumn_ = wanted;
-        const auto place = static_cast<std::size_t>(wanted);
+        const DeadHeatPlace& place = deadHeatPlaces.at(static_cast<std::size_t>(wanted));
         grid_->removeWidget(&box);
-        if (wanted > 0) grid_->addWidget(&box, boxTenRow.at(place), boxTenColumn.at(place));
-        box.setAccessibleName(tr(boxTenName.at(place)));
+        if (wanted > 0) grid_->addWidget(&box, place.row, place.column);
+        box.setAccessibleName(tr(place.name));
         box.setToolTip(tr("%1. What is typed here does not come back.").arg(box.accessibleName()));
     }
     box.setVisible(wanted > 0);
@@ -289,8 +240,8 @@ void BoardPanel::tint() {
 void BoardPanel::refresh() {
     for (std::size_t i = 0; i < boxes_.size(); ++i) put(*boxes_[i], theScreen.boxes[i].text);
     tint();
-    heading_->setText(shown(theScreen.tote[0]));
-    for (std::size_t box = 1; box < tote_.size(); ++box) put(*tote_[box], theScreen.tote[box]);
+    heading_->setText(shown(theScreen.tote[ToteBox::heading]));
+    for (std::size_t box = ToteBox::win; box < tote_.size(); ++box) put(*tote_[box], theScreen.tote[box]);
     for (std::size_t i = 0; i < finishLabels_.size(); ++i)
         finishLabels_[i]->setText(shown(theScreen.finishLabels[i]));
     put(*refunds_, theScreen.refunds);

@@ -39,6 +39,7 @@ private:
 
     void buildRunners();
     void buildTote();
+    void buildPayoffHeads();
     void buildWideBoxes();
     void buildTabOrder();
     QLabel* addLabel(const QString& text, int row, int column);

@@ -47,14 +47,23 @@ QVariant saddleClothFont() {
     return font;
 }
 
-int alignment(Qt::AlignmentFlag side) { return (side | Qt::AlignVCenter).toInt(); }
+int alignment(Align align) {
+    const Qt::AlignmentFlag side = align == Align::right    ? Qt::AlignRight
+                                   : align == Align::centre ? Qt::AlignHCenter
+                                                            : Qt::AlignLeft;
+    return (side | Qt::AlignVCenter).toInt();
+}
 
 } // namespace
 
-void CellTableModel::show(const Grid* grid, const CellRange& range) {
+void CellTableModel::setViewLayout(const ViewLayout& layout) {
+    layout_ = layout;
+    show(grid_);
+}
+
+void CellTableModel::show(const Grid* grid) {
     beginResetModel();
     grid_ = grid;
-    range_ = range;
     version_ = grid ? grid->version() : 0;
     rows_ = rowsOnShow();
     endResetModel();
@@ -62,27 +71,15 @@ void CellTableModel::show(const Grid* grid, const CellRange& range) {
 
 bool CellTableModel::refresh() {
     const bool changed = grid_ && grid_->version() != version_;
-    if (changed) show(grid_, range_);
+    if (changed) show(grid_);
     return changed;
 }
 
-void CellTableModel::setRightAligned(int first, int last) { rightAligned_.emplace_back(first, last); }
-
-void CellTableModel::setBoldRows(int first, int last) {
-    firstBold_ = first;
-    lastBold_ = last;
-}
-
-bool CellTableModel::isBold(int row, const Cell& cell) const {
-    return cell.bold || (row >= firstBold_ && row <= lastBold_);
-}
-
 bool CellTableModel::isEmptyRow(int row) const {
-    const int tableRow = range_.firstRow + row;
-    if (!grid_ || tableRow >= grid_->rows()) return true;
+    if (!grid_ || tableRow(row) >= grid_->rows()) return true;
     const int columns = columnCount();
     for (int column = 0; column < columns; ++column)
-        if (!grid_->text(tableRow, tableColumn(column)).empty()) return false;
+        if (!grid_->text(tableRow(row), tableColumn(column)).empty()) return false;
     return true;
 }
 
@@ -92,27 +89,44 @@ void CellTableModel::setEditing(std::function<bool(int, int)> mayEdit,
     edit_ = std::move(edit);
 }
 
-bool CellTableModel::isRightAligned(int column) const {
-    return std::any_of(rightAligned_.begin(), rightAligned_.end(), [column](const auto& range) {
-        return column >= range.first && column <= range.second;
-    });
+const ViewColumn* CellTableModel::described(int tableColumn) const {
+    const auto at = static_cast<std::size_t>(tableColumn);
+    return at < layout_.columns.size() ? &layout_.columns[at] : nullptr;
+}
+
+int CellTableModel::widthOf(int column) const {
+    constexpr int plainWidth = 900; ///< where no column is described
+    const ViewColumn* described = this->described(tableColumn(column));
+    return described ? described->width : layout_.columns.empty() ? plainWidth : 0;
+}
+
+Align CellTableModel::alignOf(int tableColumn) const {
+    const ViewColumn* described = this->described(tableColumn);
+    return described ? described->align : Align::left;
 }
 
 int CellTableModel::rowsOnShow() const {
     if (!grid_) return 0;
-    int last = grid_->rows() - 1;
-    if (range_.lastRow >= 0) last = std::min(last, range_.lastRow);
-    while (tailHidden_ && last >= range_.firstRow && isEmptyRow(last - range_.firstRow)) --last;
-    return std::max(0, last - range_.firstRow + 1);
+    int rows = std::max(0, std::min(grid_->rows() - 1, layout_.lastRow) - Grid::firstRow + 1);
+    if (layout_.emptyRows == EmptyRows::hiddenAtEnd)
+        while (rows > 0 && isEmptyRow(rows - 1)) --rows;
+    return rows;
+}
+
+// The blanks that texts are padded with would keep digits from standing below digits, and a number from the
+// middle.
+QString CellTableModel::shownText(int row, int column) const {
+    const Text text = grid_->text(row, column);
+    return shown(alignOf(column) == Align::left ? TextView{text} : trimmed(text));
 }
 
 int CellTableModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
 
 int CellTableModel::columnCount(const QModelIndex& parent) const {
     if (parent.isValid() || !grid_) return 0;
-    int last = grid_->columns() - 1;
-    if (range_.lastColumn >= 0) last = std::min(last, range_.lastColumn);
-    return std::max(0, last - range_.firstColumn + 1);
+    int columns = grid_->columns();
+    if (!layout_.columns.empty()) columns = std::min(columns, static_cast<int>(layout_.columns.size()));
+    return std::max(0, columns - layout_.firstColumn);
 }
 
 QVariant CellTableModel::data(const QModelIndex& index, int role) const {
@@ -122,17 +136,15 @@ QVariant CellTableModel::data(const QModelIndex& index, int role) const {
     if (row >= grid_->rows() || column >= grid_->columns()) return {}; // changed, and not taken up yet
     const auto cell = [&]() -> const Cell& { return grid_->read(row, column); };
     switch (role) {
-    case Qt::DisplayRole:
-    case Qt::EditRole: return shown(grid_->text(row, column));
+    case Qt::DisplayRole: return shownText(row, column);
+    case Qt::EditRole: return shown(grid_->text(row, column)); // as stored
     case Qt::BackgroundRole:
         return isShaded(cell()) ? QVariant{QBrush{shown(*cell().background)}} : QVariant{};
     case Qt::ForegroundRole: return foreground(cell());
     case Qt::FontRole:
         if (isSaddleCloth(cell())) return saddleClothFont();
         return isBold(row, cell()) ? boldFont() : QVariant{};
-    case Qt::TextAlignmentRole:
-        if (isSaddleCloth(cell())) return int{Qt::AlignCenter};
-        return alignment(isRightAligned(column) ? Qt::AlignRight : Qt::AlignLeft);
+    case Qt::TextAlignmentRole: return alignment(alignOf(column));
     default: return {};
     }
 }
@@ -141,12 +153,14 @@ QVariant CellTableModel::headerData(int section, Qt::Orientation orientation, in
     if (!grid_ || orientation != Qt::Horizontal) return {};
     const int column = tableColumn(section);
     if (column >= grid_->columns() || grid_->rows() == 0) return {};
+    const Cell& head = grid_->read(Grid::headRow, column);
+    const ViewColumn* described = this->described(column);
     switch (role) {
-    case Qt::DisplayRole: return shown(grid_->text(0, column));
+    // The table may head a column in its own way: the race's label stands above its entries.
+    case Qt::DisplayRole: return shown(head.text.empty() && described ? described->head : head.text);
     case Qt::ForegroundRole:
-        if (const auto& colour = grid_->read(0, column).foreground) return QBrush{readableHead(*colour)};
-        return {};
-    case Qt::TextAlignmentRole: return alignment(isRightAligned(column) ? Qt::AlignRight : Qt::AlignLeft);
+        return head.foreground ? QVariant{QBrush{readableHead(*head.foreground)}} : QVariant{};
+    case Qt::TextAlignmentRole: return alignment(alignOf(column));
     default: return {};
     }
 }

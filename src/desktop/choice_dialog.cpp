@@ -2,15 +2,12 @@
 
 #include "desktop/command_texts.h"
 #include "desktop/shown_text.h"
-#include "results/board.h"
-#include "screen/race_views.h"
+#include "results/on_show.h"
 
 #include <QCoreApplication>
-#include <QDate>
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QMainWindow>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -23,72 +20,13 @@ namespace {
 constexpr TextView exitLine = "EXIT";
 constexpr int dialogWidth = 7400; ///< twips
 constexpr int dialogHeight = 6400;
-
-enum CardColumn { fileName, track, date, cardColumns };
-
-/// "20260314" of "M1_20260314.pmd"; empty where the name is none of a card's.
-QString dateDigits(const QString& name) {
-    constexpr int digits = 8;
-    const auto underscore = name.indexOf('_');
-    const QString text = underscore < 0 ? QString{} : name.mid(underscore + 1, digits);
-    return QDate::fromString(text, "yyyyMMdd").isValid() ? text : QString{};
-}
+constexpr int topRow = 0;
 
 bool hasExit(const ChoiceList& list) {
     return std::find(list.lines.begin(), list.lines.end(), exitLine) != list.lines.end();
 }
 
 } // namespace
-
-// --- The lines ---------------------------------------------------------------------------------------------
-
-ChoiceModel::ChoiceModel(const ChoiceList& list, bool ofCards, QObject* parent)
-    : QAbstractTableModel{parent}, list_{list}, ofCards_{ofCards} {}
-
-void ChoiceModel::refresh() {
-    if (lines_ == list_.lines) return;
-    beginResetModel();
-    lines_ = list_.lines;
-    endResetModel();
-}
-
-int ChoiceModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(lines_.size());
-}
-
-int ChoiceModel::columnCount(const QModelIndex& parent) const {
-    if (parent.isValid()) return 0;
-    return ofCards_ ? cardColumns : 1;
-}
-
-QString ChoiceModel::cell(const Text& line, int column) const {
-    const QString name = shown(line);
-    if (column == fileName) return name;
-    const QString digits = dateDigits(name);
-    if (digits.isEmpty()) return {};
-    if (column == track) return name.left(name.indexOf('_'));
-    return QLocale{}.toString(QDate::fromString(digits, "yyyyMMdd"), "ddd d MMM yyyy");
-}
-
-QVariant ChoiceModel::data(const QModelIndex& index, int role) const {
-    if (!index.isValid()) return {};
-    const Text& text = line(index.row());
-    if (role == Qt::DisplayRole) return cell(text, index.column());
-    if (role == sortRole)
-        return index.column() == date ? dateDigits(shown(text)) : cell(text, index.column());
-    return {};
-}
-
-QVariant ChoiceModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || !ofCards_) return {};
-    return section == fileName ? tr("File") : section == track ? tr("Track") : tr("Date");
-}
-
-// The rule between the tracks and "EXIT" is no choice.
-Qt::ItemFlags ChoiceModel::flags(const QModelIndex& index) const {
-    const bool isRule = index.isValid() && line(index.row()).find_first_not_of('-') == Text::npos;
-    return isRule ? Qt::ItemFlags{} : QAbstractTableModel::flags(index);
-}
 
 // --- The dialog --------------------------------------------------------------------------------------------
 
@@ -141,7 +79,7 @@ void ChoiceDialog::buildPages() {
                           tr("There is no saved card in the folder \"Race Cards\" yet."));
     cards.view->setHeaderHidden(false);
     cards.view->setSortingEnabled(true);
-    cards.view->sortByColumn(date, Qt::DescendingOrder); // the latest card is the likeliest
+    cards.view->sortByColumn(ChoiceModel::date, Qt::DescendingOrder); // the latest card is the likeliest
     cards.view->header()->setStretchLastSection(true);
     addPage(&Screen::trackList, CommandId::SelectTrack, tr("There is no track yet."));
     addPage(&Screen::driverList, CommandId::DriverChoice, tr("There is no driver yet."));
@@ -200,8 +138,8 @@ void ChoiceDialog::lay() {
         page.view->setFont(ofCards ? appearance_.viewFont(points, false) : appearance_.fixedFont(points));
         if (!ofCards) continue;
         const QFontMetrics metrics{page.view->font()};
-        page.view->setColumnWidth(fileName, metrics.horizontalAdvance("MMMM_00000000.pmd") + 16);
-        page.view->setColumnWidth(track, metrics.horizontalAdvance("MMMMM") + 16);
+        page.view->setColumnWidth(ChoiceModel::fileName, metrics.horizontalAdvance("MMMM_00000000.pmd") + 16);
+        page.view->setColumnWidth(ChoiceModel::track, metrics.horizontalAdvance("MMMMM") + 16);
     }
     whose_->setFont(appearance_.viewFont(points, true));
     for (QWidget* plain : {static_cast<QWidget*>(filter_), static_cast<QWidget*>(empty_),
@@ -272,15 +210,12 @@ void ChoiceDialog::showState() {
 
 // The window is not blocked: with another race on show the change would go to the entry of that race.
 void ChoiceDialog::showWhose() {
-    const int race = raceOnShow();
     const bool isDrivers = current_->list == &Screen::driverList;
     whose_->setVisible(isDrivers);
-    if (!isDrivers || race < 1 || race >= raceViews) return whose_->clear();
-    const int row = theScreen.driverRow;
-    if (row < 1 || row >= raceViewRows) return whose_->clear();
-    const Grid& view = theScreen.raceView[static_cast<std::size_t>(race)];
-    const auto text = [&](int column) { return shown(view.text(row, column)).trimmed(); };
-    whose_->setText(tr("Race %1: %2, now %3").arg(race).arg(text(0), text(RaceColumn::driver)));
+    const auto change = isDrivers ? driverChange() : std::nullopt;
+    if (!change) return whose_->clear();
+    whose_->setText(
+        tr("Race %1: %2, now %3").arg(change->race).arg(shown(change->horse), shown(change->driver)));
 }
 
 // --- Finding and picking -----------------------------------------------------------------------------------
@@ -293,7 +228,7 @@ void ChoiceDialog::find(const QString& text) {
 }
 
 void ChoiceDialog::selectFirst(Page& page) {
-    const QModelIndex first = page.found->index(0, 0);
+    const QModelIndex first = page.found->index(topRow, ChoiceModel::fileName);
     if (!first.isValid()) return;
     page.view->setCurrentIndex(first);
     page.view->scrollToTop();

@@ -15,12 +15,14 @@
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
+#include <array>
+
 namespace quillon {
 namespace {
 
-enum Column { stepColumn, whatColumn, columns };
-constexpr int stepWidth = 2400; ///< twips
-constexpr int whatWidth = 9000;
+enum Column { stepColumn, whatColumn, columnCount };
+constexpr std::array columns{ViewColumn{"Step", 2400}, ViewColumn{"What", 9000}};
+static_assert(columns.size() == columnCount);
 
 QString number(std::uint64_t count) { return QLocale{QLocale::English}.toString(qulonglong{count}); }
 
@@ -70,7 +72,7 @@ void FaultJournalDialog::build() {
     table_ = new CellTableView{appearance_, tr("Faults, the newest at the bottom"), this};
     table_->setObjectName("FaultTable");
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table_->setColumnWidths(std::vector{stepWidth, whatWidth});
+    table_->setViewLayout({.columns = columns});
     column->addWidget(table_, 1);
 
     auto* buttons = new QDialogButtonBox{this};
@@ -90,10 +92,8 @@ void FaultJournalDialog::build() {
 
 void FaultJournalDialog::refresh() {
     const auto& kept = journal.kept();
-    faults_ = Grid{static_cast<int>(kept.size()) + 1, columns};
-    faults_(0, stepColumn).text = "Step";
-    faults_(0, whatColumn).text = "What";
-    int row = 0;
+    faults_ = Grid{static_cast<int>(kept.size()) + 1, columnCount};
+    int row = Grid::headRow;
     for (const Fault& fault : kept) {
         faults_(++row, stepColumn).text = fault.step;
         faults_(row, whatColumn).text = fault.what;
@@ -105,7 +105,7 @@ void FaultJournalDialog::refresh() {
 
 QString FaultJournalDialog::allText() const {
     QString text;
-    for (int row = 1; row < faults_.rows(); ++row)
+    for (int row = Grid::firstRow; row < faults_.rows(); ++row)
         text += shown(faults_.text(row, stepColumn)) + '\t' + shown(faults_.text(row, whatColumn)) + '\n';
     return text;
 }

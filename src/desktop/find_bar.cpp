@@ -1,5 +1,6 @@
 #include "desktop/find_bar.h"
 
+#include "desktop/cell_table_view.h"
 #include "desktop/shown_text.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 // Find in the table or text that has the focus.
 #pragma once
 
-#include "desktop/cell_table_view.h"
+#include "desktop/cell_search.h"
 
 #include <QPlainTextEdit>
 #include <QPointer>

@@ -20,12 +20,10 @@ namespace quillon {
 namespace {
 
 constexpr int rowTwips = 360;
-// In the order of the columns: conditions, S1 to S4, margin and bet mark.
-const std::vector<int> columnTwips{600, 960, 600, 540, 480, 840, 2400, 2400, 2400, 2400, 700, 1050};
 
 bool same(const Grid& left, const Grid& right) {
     if (left.rows() != right.rows() || left.columns() != right.columns()) return false;
-    for (int row = 0; row < left.rows(); ++row)
+    for (int row = Grid::headRow; row < left.rows(); ++row)
         for (int column = 0; column < left.columns(); ++column)
             if (left.read(row, column).text != right.read(row, column).text) return false;
     return true;
@@ -69,11 +67,8 @@ OverviewPanel::OverviewPanel(CommandRunner& runner, Appearance& appearance, QWid
     table_->setRowHeight(rowTwips);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
     table_->setAlternatingRowColors(true);
-    table_->cells().setRightAligned(overviewColumn::distance, overviewColumn::purse);
-    table_->cells().setRightAligned(overviewColumn::margin, overviewColumn::margin);
-    table_->setSortable(overviewColumn::postTime + 1);
+    table_->setViewLayout(overviewLayout());
     table_->viewport()->setCursor(Qt::PointingHandCursor);
-    table_->setColumnWidths(columnTwips);
     table_->installEventFilter(this);
     connect(table_, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) {
         const auto selecting = Qt::ShiftModifier | Qt::ControlModifier;
@@ -116,7 +111,7 @@ void OverviewPanel::open(const QModelIndex& index) {
 void OverviewPanel::goToRaceOnShow() {
     const QAbstractItemModel& rows = *table_->model();
     for (int row = 0; row < rows.rowCount(); ++row) {
-        const QModelIndex index = rows.index(row, 0);
+        const QModelIndex index = rows.index(row, OverviewColumn::race);
         if (table_->tableRow(index) == raceOnShow()) return table_->setCurrentIndex(index);
     }
 }

@@ -6,8 +6,7 @@
 #include "desktop/command_texts.h"
 #include "desktop/row_buttons.h"
 #include "desktop/shown_text.h"
-#include "results/board.h"
-#include "screen/race_views.h"
+#include "results/on_show.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -31,21 +30,7 @@ const char* const currentStyle = "QPushButton { background-color: #ffff64; color
                                  " border: 1px solid #807000; border-radius: 3px; }"
                                  "QPushButton:focus { border: 2px solid black; }";
 
-// A way of showing a race may leave views 22 and 23 up beside it.
-int raceViewOnShow() {
-    const int race = raceOnShow();
-    const auto isShown = [](int view) {
-        return view >= 1 && view < raceViews && theScreen.raceViewVisible.at(static_cast<std::size_t>(view));
-    };
-    if (isShown(race)) return race;
-    for (int view = 1; view < raceViews; ++view)
-        if (isShown(view)) return view;
-    return 1;
-}
-
 const Grid& gridOf(int race) { return theScreen.raceView.at(static_cast<std::size_t>(race)); }
-
-QString horseIn(int race, int row) { return shown(trimmed(gridOf(race).text(row, RaceColumn::horseName))); }
 
 template <std::size_t count>
 const Button& buttonOf(const std::array<Button, count>& buttons, int row) {
@@ -81,12 +66,11 @@ void RacePanel::buildTable() {
     table_->setStatusTip(tr("A double click or F2 edits a cell. A click on a driver lists the drivers. "
                             "Enter on a name shows the past lines."));
     table_->setFonts(headPoints, bodyPoints, true);
-    table_->setColumnWidths(raceColumns());
-    table_->setFitted();
+    table_->setViewLayout(raceLayout());
     table_->setRowHeight(rowTwips);
     table_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table_->installEventFilter(this);
-    table_->cells().setEditing([this](int row, int column) { return mayEdit(row, column); },
+    table_->cells().setEditing([this](int row, int column) { return mayTypeCell(race_, row, column); },
                                [this](int row, int column, const Text& text) { edit(row, column, text); });
     connect(table_->horizontalScrollBar(), &QScrollBar::rangeChanged, this, &RacePanel::holdHeight);
     connect(table_, &QTableView::clicked, this, [this](const QModelIndex& cell) {
@@ -141,7 +125,7 @@ void RacePanel::refreshTable() {
     if (race == race_)
         table_->refresh();
     else
-        table_->show(&gridOf(race), {.lastRow = ratedEntries, .lastColumn = RaceColumn::rating});
+        table_->show(&gridOf(race));
     race_ = race;
     if (before.isValid() && !table_->currentIndex().isValid())
         table_->selectionModel()->setCurrentIndex(table_->model()->index(before.row(), before.column()),
@@ -158,7 +142,7 @@ void RacePanel::refreshButtons() {
     bool anyHeat = false;
     for (int row = 1; row <= ratedEntries; ++row) {
         const auto at = static_cast<std::size_t>(row);
-        const QString horse = horseIn(race_, row);
+        const QString horse = shown(horseIn(race_, row));
         const Arguments entry = numberArgument(row);
 
         QPushButton& lines = *entries_[at - 1];
@@ -202,18 +186,13 @@ void RacePanel::resizeEvent(QResizeEvent* event) {
     holdHeight();
 }
 
-// Drivers are picked from their list, and a row without a horse only holds its place.
-bool RacePanel::mayEdit(int row, int column) const {
-    return column != RaceColumn::driver && !horseIn(race_, row).isEmpty();
-}
-
 void RacePanel::edit(int row, int column, const Text& text) {
     const QScopedValueRollback handingIn{handingIn_, true};
     runner_.run(CommandId::Cell, {.numbers = {race_, row, column}, .text = text});
 }
 
 void RacePanel::askForDriver(int row) {
-    if (!horseIn(race_, row).isEmpty()) runner_.run(CommandId::DriverColumn, numberArgument(row));
+    if (!horseIn(race_, row).empty()) runner_.run(CommandId::DriverColumn, numberArgument(row));
 }
 
 bool RacePanel::enterOn(int row, int column, int key) {

@@ -38,7 +38,6 @@ private:
     void refreshButtons();
     void holdHeight();
 
-    bool mayEdit(int row, int column) const;
     void edit(int row, int column, const Text& text);
     void askForDriver(int row);
     bool enterOn(int row, int column, int key);

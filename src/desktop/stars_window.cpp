@@ -36,9 +36,6 @@ constexpr std::array starLists{
 constexpr std::array fieldNames{
     "Races", "Wins", "Win Percentage", "Total Bet", "Total Return", "Net", "ROI", "Average Payoff",
 };
-
-// Widths in twips: Track/Date, Race, Margin, Odds $, Odds, Bet, PayOff, Win.
-constexpr std::array tableWidths{1700, 560, 720, 720, 640, 760, 860, 520};
 // clang-format on
 
 /// Whether the list shows a choice on its button, to be picked once more.
@@ -48,28 +45,6 @@ bool hasChoice(const ChoiceList& list) {
 }
 
 } // namespace
-
-// --- A list ------------------------------------------------------------------------------------------------
-
-PickList::PickList(QWidget* parent) : QListWidget{parent} {
-    connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) { emit picked(row(item)); });
-}
-
-void PickList::showLines(const ChoiceList& list) {
-    if (lines_ != list.lines) {
-        lines_ = list.lines;
-        clear();
-        for (const Text& line : lines_) addItem(shown(line));
-    }
-    const auto chosen = std::find(lines_.begin(), lines_.end(), list.caption);
-    if (chosen != lines_.end()) setCurrentRow(static_cast<int>(chosen - lines_.begin()));
-}
-
-void PickList::keyPressEvent(QKeyEvent* event) {
-    const bool picks = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!picks) return QListWidget::keyPressEvent(event);
-    if (currentRow() >= 0) emit picked(currentRow());
-}
 
 // --- The window --------------------------------------------------------------------------------------------
 
@@ -119,8 +94,7 @@ void StarsWindow::buildTable(QHBoxLayout& row) {
     table_ = new CellTableView{appearance_, shown(starsCaption), this};
     table_->setObjectName("StarsTable");
     table_->setFonts(9, points, false);
-    table_->setColumnWidths(std::vector<int>{tableWidths.begin(), tableWidths.end()});
-    table_->cells().setRightAligned(1, static_cast<int>(tableWidths.size()) - 1);
+    table_->setViewLayout(starsLayout());
     table_->show(&theScreen.stars);
     row.addWidget(table_, 1);
 }

@@ -5,38 +5,17 @@
 #include "desktop/appearance.h"
 #include "desktop/cell_table_view.h"
 #include "desktop/command_runner.h"
-#include "screen/screen.h"
+#include "desktop/pick_list.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 #include <QWidget>
 
 #include <array>
 
 namespace quillon {
-
-/// A list whose lines are picked by a click or by Enter.
-class PickList : public QListWidget {
-    Q_OBJECT
-
-public:
-    explicit PickList(QWidget* parent = nullptr);
-
-    /// Shows these lines with the one that was picked as the current one.
-    void showLines(const ChoiceList& list);
-
-signals:
-    void picked(int row);
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
-private:
-    std::vector<Text> lines_;
-};
 
 class StarsWindow : public QWidget {
     Q_OBJECT

@@ -49,7 +49,7 @@ void storeBoard(int race) {
         attempt([&] { card.raceOutcome(race, cellOfBox(box)) = trimmed(screen.boxes.at(box).text); });
     for (const int cell : cellsOfTheirBoxes)
         attempt([&] { card.payoffRecord(race, cell) = trimmed(screen.tote.at(cell)); });
-    attempt([&] { card.payoffRecord(race, PayoffCell::boxTenEcho) = trimmed(screen.tote.at(deadHeatBox)); });
+    attempt([&] { card.payoffRecord(race, PayoffCell::boxTenEcho) = trimmed(screen.tote.at(ToteBox::deadHeat)); });
     attempt([&] { card.raceInfo(race).trackCode = screen.header.track.caption; });
 }
 

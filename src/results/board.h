@@ -12,10 +12,27 @@
 
 namespace quillon {
 
-constexpr int selectionBoxes = 4;               ///< boxes 0 to 3: S1 to S4
-constexpr int firstFinishBox = 4;               ///< boxes 4 to 7: first to fourth
-constexpr int deadHeatBox = 10;                 ///< tote box 10
-constexpr int refundCell = PayoffCell::refunds; ///< of the "Refunds:" box
+/// Boxes of the "Tote Board"; those of payoffs but the dead heat's have the number of their cell.
+struct ToteBox {
+    enum Number {
+        heading,
+        win,
+        place1,
+        show1,
+        place2,
+        show2,
+        show3,
+        exacta,
+        trifecta,
+        superfecta,
+        deadHeat,
+        dailyDouble,
+        count
+    };
+};
+
+constexpr int selectionBoxes = 4; ///< boxes 0 to 3: S1 to S4
+constexpr int firstFinishBox = 4; ///< boxes 4 to 7: first to fourth
 
 /// The outcome cell of a selection or finish box.
 constexpr int cellOfBox(int box) { return OutcomeCell::s1 + box; }

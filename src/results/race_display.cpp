@@ -125,7 +125,7 @@ void showBoard(int race) {
     for (Box& box : screen.boxes) box.text = card.raceOutcome[{race, cell++}];
     if (isHeat(race)) attempt([&] { showHeatSelections(race); });
     for (const int box : cellsOfTheirBoxes) screen.tote.at(box) = card.payoffRecord[{race, box}];
-    screen.tote[deadHeatBox] = card.payoffRecord[{race, PayoffCell::deadHeat}];
+    screen.tote[ToteBox::deadHeat] = card.payoffRecord[{race, PayoffCell::deadHeat}];
     screen.refunds = card.payoffRecord[{race, PayoffCell::refunds}];
     screen.tote[0] = "RACE:  " + std::to_string(race);
     // The boxes change one by one, but a dead heat is looked at only when all of them are the new race's.

@@ -9,6 +9,7 @@
 namespace quillon {
 
 constexpr int lastButtonRace = 20; ///< race buttons and the race list reach no further; the arrows do
+constexpr int lineButtons = 13;    ///< past lines of an entry that have a button to take them by
 
 /// The race label and the heading: purse, conditions, class rating, wagers, post time, gait, track, distance.
 /// A heat has no track of its own and keeps the card's, under which the card is saved.

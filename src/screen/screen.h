@@ -53,6 +53,9 @@ struct RowSource {
 /// grid(row, column) fails outside the bounds by the failure policy, as every store beyond a bound does.
 class Grid {
 public:
+    static constexpr int headRow = 0;
+    static constexpr int firstRow = 1; ///< below the head
+
     Grid() = default;
     Grid(int rows, int columns);
 

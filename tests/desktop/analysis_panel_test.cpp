@@ -1,9 +1,10 @@
 #include "desktop/analysis_panel.h"
 
-#include "analysis/summary.h"
 #include "card/race_card.h"
+#include "desktop/cell_table_view.h"
 #include "desktop/shown_text.h"
 #include "desktop/window_test.h"
+#include "screen/view_columns.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -51,7 +52,8 @@ protected:
         ASSERT_EQ(grid.rows() - 1, view.model()->rowCount());
         for (int row = 1; row < grid.rows(); ++row)
             for (int column = 0; column < view.model()->columnCount(); ++column)
-                EXPECT_EQ(quillon::shown(grid.text(row, column)), at(view, row - 1, column))
+                EXPECT_EQ(quillon::shown(grid.text(row, column)),
+                          of(view, row - 1, column, Qt::EditRole).toString())
                     << row << ", " << column;
     }
 
@@ -84,17 +86,18 @@ TEST_F(SummaryPageTest, RacesThatTheCardLacksAreLeftAwayAndTheTotalsStay) {
     const int races = card.raceCount;
     ASSERT_LT(races, 20);
     for (int race = 1; race <= races; ++race) EXPECT_FALSE(view.isRowHidden(race - 1)) << race;
-    for (int race = races + 1; race < totalsRow; ++race) EXPECT_TRUE(view.isRowHidden(race - 1)) << race;
-    EXPECT_FALSE(view.isRowHidden(totalsRow - 1));
-    EXPECT_FALSE(view.isRowHidden(percentagesRow - 1));
+    for (int race = races + 1; race < SummaryRow::totals; ++race)
+        EXPECT_TRUE(view.isRowHidden(race - 1)) << race;
+    EXPECT_FALSE(view.isRowHidden(SummaryRow::totals - 1));
+    EXPECT_FALSE(view.isRowHidden(SummaryRow::percentages - 1));
 }
 
 TEST_F(SummaryPageTest, TotalsAreBoldHitsAreYellowAndNumbersStandAtTheRight) {
     const CellTableView& view = table("SummaryTable");
-    EXPECT_TRUE(of(view, totalsRow - 1, 11, Qt::FontRole).value<QFont>().bold());
-    EXPECT_TRUE(of(view, percentagesRow - 1, 1, Qt::FontRole).value<QFont>().bold());
+    EXPECT_TRUE(of(view, SummaryRow::totals - 1, 11, Qt::FontRole).value<QFont>().bold());
+    EXPECT_TRUE(of(view, SummaryRow::percentages - 1, 1, Qt::FontRole).value<QFont>().bold());
     EXPECT_FALSE(of(view, 0, 11, Qt::FontRole).isValid());
-    EXPECT_FALSE(screen.summary.read(totalsRow, 11).bold) << "the view's, not the cell's";
+    EXPECT_FALSE(screen.summary.read(SummaryRow::totals, 11).bold) << "the view's, not the cell's";
     EXPECT_EQ(QColor(255, 255, 100), of(view, 0, 1, Qt::BackgroundRole).value<QBrush>().color());
     EXPECT_TRUE(of(view, 0, 11, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
     EXPECT_TRUE(of(view, 0, 0, Qt::TextAlignmentRole).toInt() & Qt::AlignLeft);

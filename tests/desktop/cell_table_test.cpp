@@ -1,10 +1,14 @@
 #include "desktop/cell_table_view.h"
+#include "desktop/frozen_column.h"
 #include "desktop/window_test.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
 #include <QToolTip>
+
+#include <array>
+#include <span>
 
 namespace quillon {
 namespace {
@@ -25,8 +29,20 @@ struct CellTableTest : WindowTest {
     }
 
     QVariant of(int row, int column, int role) { return view.model()->index(row, column).data(role); }
+    QString head(int column) { return view.model()->headerData(column, Qt::Horizontal).toString(); }
+    int headSide(int column) {
+        return view.model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
+    }
+
+    /// Columns of these widths in twips.
+    void setWidths(std::array<int, 3> twips) {
+        for (std::size_t column = 0; column < twips.size(); ++column)
+            columns.at(column).width = twips.at(column);
+        view.setViewLayout({.columns = columns});
+    }
 
     Grid grid{6, 3};
+    std::array<ViewColumn, 3> columns{};
     CellTableView view{appearance, "table"};
 };
 
@@ -65,8 +81,8 @@ TEST_F(CellTableTest, TheHeadRowHeadsTheColumnsAndTheCornerIsRed) {
 
 // 6000 and twice 3000 twips: 400, 200 and 200 pixels at 96 dots an inch.
 TEST_F(CellTableTest, ColumnsGiveUpSpareRoomWhereTheViewIsALittleTooNarrow) {
-    view.setColumnWidths({6000, 3000, 3000});
-    view.setFitted();
+    columns = {ViewColumn{"", 6000}, ViewColumn{"", 3000}, ViewColumn{"", 3000}};
+    view.setViewLayout({.columns = columns, .fitted = true});
     view.resize(1000, 300);
     view.setVisible(true); // sends the sizes
     const auto widths = [&] { return view.columnWidth(0) + view.columnWidth(1) + view.columnWidth(2); };
@@ -81,22 +97,21 @@ TEST_F(CellTableTest, ColumnsGiveUpSpareRoomWhereTheViewIsALittleTooNarrow) {
 
 TEST_F(CellTableTest, RowsBehindTheLastTextAreLeftAwayWhereAsked) {
     EXPECT_EQ(5, view.model()->rowCount());
-    view.cells().setTailHidden(true);
-    view.show(&grid);
+    view.setViewLayout({.emptyRows = EmptyRows::hiddenAtEnd});
     EXPECT_EQ(2, view.model()->rowCount());
 }
 
 TEST_F(CellTableTest, ATextInAnotherPartOfTheTableKeepsNoRow) {
     grid(5, 0).text = "left";
-    view.cells().setTailHidden(true);
-    view.show(&grid, {.firstColumn = 1}); // of columns 1 and 2 row 2 is the last with a text
+    view.setViewLayout(
+        {.firstColumn = 1,
+         .emptyRows = EmptyRows::hiddenAtEnd}); // of columns 1 and 2 row 2 is the last with a text
     EXPECT_EQ(2, view.model()->rowCount());
 }
 
 TEST_F(CellTableTest, RowsWithoutATextAreHiddenWhereverTheyStandWhereAsked) {
     grid(4, 1).text = "total";
-    view.setEmptyRowsHidden();
-    view.refresh();
+    view.setViewLayout({.emptyRows = EmptyRows::hidden});
     EXPECT_FALSE(view.isRowHidden(1));
     EXPECT_TRUE(view.isRowHidden(2)); // row 3 has a colour, no text
     EXPECT_FALSE(view.isRowHidden(3));
@@ -106,18 +121,54 @@ TEST_F(CellTableTest, RowsWithoutATextAreHiddenWhereverTheyStandWhereAsked) {
     EXPECT_FALSE(view.isRowHidden(2));
 }
 
-TEST_F(CellTableTest, RowsMayBeBoldByViewAndHeadsStandOverTheirCells) {
-    view.cells().setBoldRows(1, 1);
-    view.cells().setRightAligned(1, 2);
+TEST_F(CellTableTest, RowsMayBeBoldByView) {
+    view.setViewLayout({.boldRows = {1, 1}});
     EXPECT_TRUE(of(0, 0, Qt::FontRole).value<QFont>().bold());
     EXPECT_FALSE(of(1, 0, Qt::FontRole).isValid());
-    EXPECT_TRUE(view.model()->headerData(1, Qt::Horizontal, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
-    EXPECT_TRUE(view.model()->headerData(0, Qt::Horizontal, Qt::TextAlignmentRole).toInt() & Qt::AlignLeft);
+}
+
+TEST_F(CellTableTest, ColumnsStandWhereTheirDescriptionSaysWithTheirHeadsOverThem) {
+    columns = {ViewColumn{"Name", 900}, ViewColumn{"PR", 900, Align::right},
+               ViewColumn{"PN", 900, Align::centre}};
+    view.setViewLayout({.columns = columns});
+    const std::array sides{Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
+    for (int column = 0; column < 3; ++column) {
+        EXPECT_TRUE(of(0, column, Qt::TextAlignmentRole).toInt() & sides.at(column)) << column;
+        EXPECT_TRUE(headSide(column) & sides.at(column)) << column;
+    }
+}
+
+TEST_F(CellTableTest, AHeadIsTheTablesOwnOrElseItsDescriptions) {
+    columns = {ViewColumn{"Name", 900}, ViewColumn{"PR", 900}, ViewColumn{"", 900}};
+    view.setViewLayout({.columns = columns});
+    EXPECT_EQ("ENTRY", head(0));
+    EXPECT_EQ("PR", head(1));
+    EXPECT_EQ("", head(2));
+}
+
+TEST_F(CellTableTest, PaddedTextsLoseTheirBlanksInTheMiddleAndAtTheRightAndAreStoredAsTheyWere) {
+    columns = {ViewColumn{"", 900}, ViewColumn{"", 900, Align::right}, ViewColumn{"", 900, Align::centre}};
+    view.setViewLayout({.columns = columns});
+    for (int column = 0; column < 3; ++column) grid(1, column).text = "  77.0 ";
+    EXPECT_EQ("  77.0 ", of(0, 0, Qt::DisplayRole).toString());
+    EXPECT_EQ("77.0", of(0, 1, Qt::DisplayRole).toString());
+    EXPECT_EQ("77.0", of(0, 2, Qt::DisplayRole).toString());
+    for (int column = 0; column < 3; ++column)
+        EXPECT_EQ("  77.0 ", of(0, column, Qt::EditRole).toString()) << column;
+    view.selectRow(0);
+    EXPECT_EQ("  77.0 \t  77.0 \t  77.0 ", view.selectionText());
+}
+
+TEST_F(CellTableTest, ColumnsAndRowsBeyondTheLayoutAreNotShown) {
+    view.setViewLayout({.columns = std::span{columns}.first(2), .firstColumn = 1, .lastRow = 2});
+    EXPECT_EQ(1, view.model()->columnCount());
+    EXPECT_EQ(2, view.model()->rowCount());
+    EXPECT_EQ("9.5", of(0, 0, Qt::DisplayRole).toString());
 }
 
 TEST_F(CellTableTest, ATableWithoutRowsKeepsItsColumns) {
     Grid heads{1, 3};
-    view.setColumnWidths(std::vector{3000, 900, 0});
+    setWidths({3000, 900, 0});
     view.show(&heads);
     EXPECT_FALSE(view.isColumnHidden(0));
     EXPECT_FALSE(view.isColumnHidden(1));
@@ -126,8 +177,8 @@ TEST_F(CellTableTest, ATableWithoutRowsKeepsItsColumns) {
 }
 
 TEST_F(CellTableTest, AFrozenColumnHasTheRowsAndWidthOfItsTable) {
-    view.setFirstColumnFrozen();
-    auto* frozen = view.findChild<QTableView*>();
+    view.setViewLayout({.firstFrozen = true});
+    auto* frozen = view.findChild<FrozenColumn*>();
     ASSERT_NE(nullptr, frozen);
     view.horizontalHeader()->resizeSection(0, 120);
     EXPECT_EQ(120, frozen->columnWidth(0));
@@ -141,9 +192,9 @@ TEST_F(CellTableTest, AFrozenColumnHasTheRowsAndWidthOfItsTable) {
 }
 
 TEST_F(CellTableTest, RoomForBoldIsLeftWhereNoTextIsBoldYet) {
-    view.setColumnWidths(std::vector{100, 100, 100});
+    setWidths({100, 100, 100});
     const int plain = view.columnWidth(0);
-    view.setRoomForBold();
+    view.setViewLayout({.columns = columns, .roomForBold = true});
     QFont bold = view.font();
     bold.setBold(true);
     EXPECT_GE(view.columnWidth(0), plain);
@@ -157,7 +208,7 @@ TEST_F(CellTableTest, ARefreshTakesUpWhatTheTableBecame) {
 }
 
 TEST_F(CellTableTest, WidthsAreTwipsAtTheScreensResolutionAndZeroHides) {
-    view.setColumnWidths(std::vector{3000, 900, 0});
+    setWidths({3000, 900, 0});
     EXPECT_EQ(appearance.pixels(3000), view.columnWidth(0));
     EXPECT_TRUE(view.isColumnHidden(2));
     appearance.setZoom(150);
@@ -165,12 +216,12 @@ TEST_F(CellTableTest, WidthsAreTwipsAtTheScreensResolutionAndZeroHides) {
 }
 
 TEST_F(CellTableTest, AColumnGrowsWithATextThatWouldNotFit) {
-    view.setColumnWidths(std::vector{100, 900, 0});
+    setWidths({100, 900, 0});
     EXPECT_GT(view.columnWidth(0), QFontMetrics{view.font()}.horizontalAdvance("Blue Ribbon Bess"));
 }
 
 TEST_F(CellTableTest, AColumnKeepsTheWidthThatItWasDraggedTo) {
-    view.setColumnWidths(std::vector{3000, 900, 900});
+    setWidths({3000, 900, 900});
     view.horizontalHeader()->resizeSection(0, 120);
     grid(1, 0).text = "Another";
     view.refresh();
@@ -178,14 +229,14 @@ TEST_F(CellTableTest, AColumnKeepsTheWidthThatItWasDraggedTo) {
 }
 
 TEST_F(CellTableTest, ASelectionIsCopiedWithATabBetweenCellsAndALineARow) {
-    view.setColumnWidths(std::vector{3000, 900, 0});
+    setWidths({3000, 900, 0});
     view.selectAll();
     QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ("Blue Ribbon Bess\t9.5\nCorner Boy\t10\n\t\n\t\n\t", QApplication::clipboard()->text());
 }
 
 TEST_F(CellTableTest, RowsApartAreCopiedWithoutThoseBetweenThem) {
-    view.setColumnWidths(std::vector{3000, 900, 0});
+    setWidths({3000, 900, 0});
     view.selectionModel()->select(view.model()->index(0, 1), QItemSelectionModel::Select);
     view.selectionModel()->select(view.model()->index(1, 0), QItemSelectionModel::Select);
     view.selectionModel()->select(view.model()->index(4, 0), QItemSelectionModel::Select);
@@ -193,9 +244,9 @@ TEST_F(CellTableTest, RowsApartAreCopiedWithoutThoseBetweenThem) {
 }
 
 TEST_F(CellTableTest, OfAMillionSelectedRowsTheFirstAreCopiedAndTheUserIsTold) {
-    grid.showRows(
-        1, {1000000, [](int row, std::span<Cell> cells) { cells[0].text = "card " + std::to_string(row); }});
-    view.setColumnWidths(std::vector{3000, 900, 0});
+    grid.makeRows(1, 1000000,
+                  [](int row, std::span<Cell> cells) { cells[0].text = "card " + std::to_string(row); });
+    setWidths({3000, 900, 0});
     view.show(&grid);
     static_cast<QWidget&>(view).show();
     view.selectAll();
@@ -211,7 +262,7 @@ TEST_F(CellTableTest, OfAMillionSelectedRowsTheFirstAreCopiedAndTheUserIsTold) {
 TEST_F(CellTableTest, FindGoesRoundAndForgetsCase) {
     EXPECT_TRUE(view.find("corner"));
     EXPECT_EQ(1, view.currentIndex().row());
-    EXPECT_TRUE(view.find("b")); // behind "Corner Boy" comes "Blue Ribbon Bess" again
+    EXPECT_TRUE(view.find("b")); // after "Corner Boy" comes "Blue Ribbon Bess" again
     EXPECT_EQ(0, view.currentIndex().row());
     EXPECT_TRUE(view.find("b", true));
     EXPECT_EQ(1, view.currentIndex().row());
@@ -219,9 +270,7 @@ TEST_F(CellTableTest, FindGoesRoundAndForgetsCase) {
 }
 
 TEST_F(CellTableTest, NumbersSortAsNumbers) {
-    view.cells().setTailHidden(true);
-    view.setSortable();
-    view.show(&grid);
+    view.setViewLayout({.emptyRows = EmptyRows::hiddenAtEnd, .sortable = true});
     view.sortByColumn(1, Qt::AscendingOrder); // 9.5 before 10
     EXPECT_EQ("Blue Ribbon Bess", of(0, 0, Qt::DisplayRole).toString());
     view.sortByColumn(1, Qt::DescendingOrder);
@@ -232,9 +281,7 @@ TEST_F(CellTableTest, TextsThatBeginWithANumberSortByItFirst) {
     grid(1, 2).text = "10A";
     grid(2, 2).text = "2B";
     grid(3, 2).text = "2A";
-    view.cells().setTailHidden(true);
-    view.setSortable();
-    view.show(&grid);
+    view.setViewLayout({.emptyRows = EmptyRows::hiddenAtEnd, .sortable = true});
     view.sortByColumn(2, Qt::AscendingOrder);
     EXPECT_EQ("2A", of(0, 2, Qt::DisplayRole).toString());
     EXPECT_EQ("2B", of(1, 2, Qt::DisplayRole).toString());
@@ -244,21 +291,12 @@ TEST_F(CellTableTest, TextsThatBeginWithANumberSortByItFirst) {
 TEST_F(CellTableTest, TheFirstColumnsSortByTheTablesOwnOrderWhereAsked) {
     grid(1, 0).text = "10:05 PM";
     grid(2, 0).text = "1:05 AM";
-    view.setSortable(1);
-    view.show(&grid);
+    view.setViewLayout({.sortable = true, .rowOrderColumns = 1});
     view.sortByColumn(0, Qt::AscendingOrder);
     EXPECT_EQ("10:05 PM", of(0, 0, Qt::DisplayRole).toString());
     view.sortByColumn(0, Qt::DescendingOrder);
     EXPECT_EQ(5, view.tableRow(view.model()->index(0, 0)));
     EXPECT_EQ(-1, view.tableRow({}));
-}
-
-TEST_F(CellTableTest, SeveralRangesOfColumnsStandAtTheRight) {
-    view.cells().setRightAligned(0, 0);
-    view.cells().setRightAligned(2, 2);
-    EXPECT_TRUE(of(0, 0, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
-    EXPECT_TRUE(of(0, 1, Qt::TextAlignmentRole).toInt() & Qt::AlignLeft);
-    EXPECT_TRUE(of(0, 2, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
 }
 
 TEST_F(CellTableTest, AnEditedCellHandsInItsTextOnlyWhenItChanged) {

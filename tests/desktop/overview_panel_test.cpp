@@ -82,23 +82,23 @@ TEST_F(OverviewPanelTest, SelectingRowsOpensNone) {
 }
 
 TEST_F(OverviewPanelTest, SortedRowsOpenTheirOwnRace) {
-    table().sortByColumn(overviewColumn::margin, Qt::DescendingOrder);
+    table().sortByColumn(OverviewColumn::margin, Qt::DescendingOrder);
     double last = 1e9;
     for (int row = 0; row < table().model()->rowCount(); ++row) {
-        const double margin = text(row, overviewColumn::margin).toDouble();
+        const double margin = text(row, OverviewColumn::margin).toDouble();
         EXPECT_LE(margin, last);
         last = margin;
     }
-    const QString label = text(0, overviewColumn::race);
+    const QString label = text(0, OverviewColumn::race);
     clickRow(0);
     EXPECT_EQ(label, quillon::shown(card.raceInfo(std::stoi(screen.header.race)).label));
 }
 
 TEST_F(OverviewPanelTest, PostTimesSortByTheOrderOfTheRaces) {
-    table().sortByColumn(overviewColumn::postTime, Qt::DescendingOrder);
-    EXPECT_EQ(quillon::shown(card.raceInfo(card.raceCount).label), text(0, overviewColumn::race));
-    table().sortByColumn(overviewColumn::postTime, Qt::AscendingOrder);
-    EXPECT_EQ(quillon::shown(card.raceInfo(1).label), text(0, overviewColumn::race));
+    table().sortByColumn(OverviewColumn::postTime, Qt::DescendingOrder);
+    EXPECT_EQ(quillon::shown(card.raceInfo(card.raceCount).label), text(0, OverviewColumn::race));
+    table().sortByColumn(OverviewColumn::postTime, Qt::AscendingOrder);
+    EXPECT_EQ(quillon::shown(card.raceInfo(1).label), text(0, OverviewColumn::race));
 }
 
 TEST_F(OverviewPanelTest, ARowAboveTheLastRaceButtonOpensNothing) {
@@ -121,7 +121,7 @@ TEST_F(OverviewPanelTest, ARefreshKeepsThePlaceWhereNothingHasChangedAndTakesUpW
     EXPECT_EQ(4, table().currentIndex().row());
     card.raceOutcome(1, 1) = "12";
     panel.refresh();
-    EXPECT_TRUE(text(0, overviewColumn::firstSelection).startsWith("12  "));
+    EXPECT_TRUE(text(0, OverviewColumn::s1).startsWith("12  "));
 }
 
 TEST_F(WindowTest, OpeningARacePutsTheOverviewAway) {

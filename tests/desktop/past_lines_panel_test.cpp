@@ -45,10 +45,26 @@ struct PastLinesTest : WindowTest {
     static void expectRows(const CellTableView& table, const Grid& grid) {
         ASSERT_GT(table.model()->rowCount(), 0);
         for (int row = 0; row < table.model()->rowCount(); ++row)
-            for (int column = 0; column < 40; ++column)
-                EXPECT_EQ(quillon::shown(grid.text(row + 1, column)),
-                          table.model()->index(row, column).data().toString())
+            for (int column = 0; column < table.model()->columnCount(); ++column) {
+                const QModelIndex cell = table.model()->index(row, column);
+                EXPECT_EQ(quillon::shown(grid.text(row + 1, table.cells().tableColumn(cell))),
+                          cell.data(Qt::EditRole).toString())
                     << row << ", " << column;
+            }
+    }
+
+    /// A cell of the entry's lines by its column of the table; none where the view lacks the column.
+    QModelIndex entryCell(int row, int tableColumn) {
+        const QAbstractItemModel& cells = *entryLines().model();
+        for (int column = 0; column < cells.columnCount(); ++column) {
+            const QModelIndex cell = cells.index(row - 1, column);
+            if (entryLines().cells().tableColumn(cell) == tableColumn) return cell;
+        }
+        return {};
+    }
+    bool isHidden(int tableColumn) {
+        const QModelIndex cell = entryCell(1, tableColumn);
+        return !cell.isValid() || entryLines().isColumnHidden(cell.column());
     }
 
     /// The rows whose line button has this mark.
@@ -91,11 +107,11 @@ TEST_F(PastLinesTest, AnEntrysLinesStandInTheirFrameUnderItsHeading) {
     EXPECT_FALSE(raceLines().isVisible());
     EXPECT_EQ(quillon::shown(screen.pastPerformanceHeading), label("PastPerformanceHeading"));
     expectRows(entryLines(), screen.dataView[pastPerformanceView]);
-    for (const int hidden : {0, 2, 3, 4, 5, 6, 36})
-        EXPECT_TRUE(entryLines().isColumnHidden(hidden)) << hidden;
+    for (const int hidden : {0, 2, 3, 4, 5, 6, 36}) EXPECT_TRUE(isHidden(hidden)) << hidden;
+    EXPECT_FALSE(isHidden(DataColumn::date));
     for (int row = 1; row <= entryLines().model()->rowCount(); ++row) {
         const auto& shade = screen.dataView[pastPerformanceView].read(row, 1).background;
-        const QVariant painted = entryLines().model()->index(row - 1, 1).data(Qt::BackgroundRole);
+        const QVariant painted = entryCell(row, DataColumn::date).data(Qt::BackgroundRole);
         ASSERT_EQ(shade.has_value(), painted.isValid()) << row;
         if (!shade) continue;
         EXPECT_EQ(quillon::shown(*shade), painted.value<QBrush>().color()) << row;
@@ -208,7 +224,7 @@ TEST_F(PastLinesTest, AButtonThatGetsTheFocusComesIntoSight) {
     for (int row = 1; row < last; ++row) QTest::keyClick(&line(row), Qt::Key_Down);
     EXPECT_TRUE(line(last).hasFocus());
     EXPECT_TRUE(entryLines().viewport()->rect().contains(
-        entryLines().visualRect(entryLines().model()->index(last - 1, 1)).center()));
+        entryLines().visualRect(entryCell(last, DataColumn::date)).center()));
 }
 
 } // namespace

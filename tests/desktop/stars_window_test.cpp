@@ -2,6 +2,7 @@
 
 #include "desktop/shown_text.h"
 #include "desktop/window_test.h"
+#include "screen/view_columns.h"
 
 #include <array>
 
@@ -42,7 +43,7 @@ protected:
         for (int row = 1; row < screen.stars.rows(); ++row)
             for (int column = 0; column < screen.stars.columns(); ++column)
                 EXPECT_EQ(quillon::shown(screen.stars.text(row, column)),
-                          view.model()->index(row - 1, column).data().toString())
+                          view.model()->index(row - 1, column).data(Qt::EditRole).toString())
                     << row << ", " << column;
     }
 
@@ -55,6 +56,10 @@ TEST_F(StarsWindowTest, OpensWithEveryLineAndTheFirstListAlone) {
     EXPECT_EQ("Stars Profile", window.windowTitle());
     EXPECT_EQ(3, child<CellTableView>(window, "StarsTable").model()->rowCount());
     expectTableShowsTheScreen();
+    const auto& table = child<CellTableView>(window, "StarsTable");
+    EXPECT_EQ("2.50 ", screen.stars.text(2, StarColumn::decimalOdds));
+    EXPECT_EQ("2.50", table.model()->index(1, StarColumn::decimalOdds).data().toString())
+        << "digits below digits";
     EXPECT_EQ("Margin", button("MarginChoice").text());
     EXPECT_EQ("Odds", button("OddsChoice").text());
     EXPECT_EQ("Max Odds", button("MaxOddsChoice").text());

@@ -28,6 +28,12 @@ std::string said(const QString& text) { return '"' + text.toStdString() + '"'; }
 std::string said(bool value) { return value ? "yes" : "no"; }
 std::string said(int value) { return std::to_string(value); }
 
+/// The text that a cell shows of what is stored: without the blanks that pad it, where these would move it.
+Text shownOf(const Text& stored, const QModelIndex& cell) {
+    const bool isLeft = cell.data(Qt::TextAlignmentRole).toInt() & Qt::AlignLeft;
+    return isLeft ? stored : Text{trimmed(stored)};
+}
+
 struct Page {
     const char* table;
     bool Screen::*visible;
@@ -143,8 +149,11 @@ private:
                 const int tableRow = view.tableRow(index);
                 const std::string place =
                     name + " " + std::to_string(tableRow) + ", " + std::to_string(column);
-                same(place, grid.text(tableRow, column), index.data().toString());
-                const auto& background = grid.read(tableRow, column).background;
+                const int tableColumn = view.cells().tableColumn(index);
+                const Text stored = grid.text(tableRow, tableColumn);
+                same(place, shownOf(stored, index), index.data().toString());
+                same(place + " stored", stored, index.data(Qt::EditRole).toString());
+                const auto& background = grid.read(tableRow, tableColumn).background;
                 const QVariant painted = index.data(Qt::BackgroundRole);
                 if (!background || *background == white) continue;
                 same(place + " colour", quillon::shown(*background).name(),

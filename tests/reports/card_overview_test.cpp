@@ -23,7 +23,7 @@ protected:
         card.raceCount = 1;
         rankByRatings(1, {s1, s2});
         const Grid overview = cardOverview();
-        return {overview.text(1, overviewColumn::margin), overview.text(1, overviewColumn::betMark)};
+        return {overview.text(1, OverviewColumn::margin), overview.text(1, OverviewColumn::betMark)};
     }
 };
 
@@ -67,10 +67,10 @@ TEST_F(CardOverviewTest, TheMarginIsTheSheetsWithItsMark) {
 
 TEST_F(CardOverviewTest, AMarginOfThreeStandsOut) {
     marginAndMark(" 60.0", " 62.9");
-    EXPECT_FALSE(cardOverview().read(1, overviewColumn::betMark).bold);
+    EXPECT_FALSE(cardOverview().read(1, OverviewColumn::betMark).bold);
     marginAndMark(" 60.0", " 63.0");
-    EXPECT_TRUE(cardOverview().read(1, overviewColumn::margin).bold);
-    EXPECT_TRUE(cardOverview().read(1, overviewColumn::betMark).bold);
+    EXPECT_TRUE(cardOverview().read(1, OverviewColumn::margin).bold);
+    EXPECT_TRUE(cardOverview().read(1, OverviewColumn::betMark).bold);
 }
 
 TEST_F(CardOverviewTest, ARaceWithoutRatingsHasNoMarginAndNoMark) {

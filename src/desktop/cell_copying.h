@@ -1,0 +1,18 @@
+// The selected cells of a table as text.
+#pragma once
+
+#include <QString>
+#include <QTableView>
+
+namespace quillon {
+
+struct CopiedCells {
+    QString text{}; ///< a line a row, a tab between two cells
+    int rows = 0;
+    bool isCut = false; ///< there was more than is copied at once
+};
+
+/// The selected cells as they are stored, those out of sight left out: whole rows, until about `most` cells.
+CopiedCells copiedCells(const QTableView& table, int most);
+
+} // namespace quillon

@@ -1,0 +1,26 @@
+// What the shades of past lines mean.
+#pragma once
+
+#include "screen/screen.h"
+
+#include <QLabel>
+#include <QWidget>
+
+namespace quillon {
+
+/// The two shades of past lines, and the days that they reach back to.
+class ShadeLegend : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ShadeLegend(QWidget* parent = nullptr);
+
+    void showFor(const Grid& lines);
+    void setTextFont(const QFont& font);
+
+private:
+    QLabel* recent_;
+    QLabel* older_;
+};
+
+} // namespace quillon
