@@ -9,7 +9,7 @@
 namespace quillon {
 namespace {
 
-constexpr char16_t controlPictures = 0x2400; ///< the picture of character n stands n places behind
+constexpr char16_t controlPictures = 0x2400; ///< the picture of character n stands n places on
 constexpr char16_t picturedDelete = 0x2421;
 constexpr char16_t deleteCharacter = 0x7F;
 constexpr std::size_t farthest = 1000; ///< lines looked ahead for the place where old and new meet again
@@ -26,7 +26,7 @@ bool meet(const std::vector<FileLine>& old, const std::vector<Text>& lines, std:
     return old[oldAt].text == lines[newAt];
 }
 
-// The smallest change behind which old and new are the same again. Lines that were changed one by one come
+// The smallest change after which old and new are the same again. Lines that were changed one by one come
 // first, then those put in or taken out.
 Change changeAt(const std::vector<FileLine>& old, const std::vector<Text>& lines, std::size_t oldAt,
                 std::size_t newAt) {

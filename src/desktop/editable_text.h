@@ -18,7 +18,7 @@ struct FileLine {
     friend bool operator==(const FileLine&, const FileLine&) = default;
 };
 
-/// All lines of a file, the last one behind the last line end, so that there is always one.
+/// All lines of a file, the last one after the last line end, so that there is always one.
 std::vector<FileLine> fileLines(TextView content);
 
 /// A line as an editor shows it. Control characters but the tab are shown by their pictures, so that none of

@@ -20,7 +20,7 @@ constexpr int headingPoints = 11;
 constexpr int legendPoints = 9;
 constexpr int lineButtonTwips = 700;
 
-// Marks in front of a line's number.
+// Marks before a line's number.
 constexpr QChar programsMark{0x25CF};   // a disc: the line in use, chosen by the program
 constexpr QChar usersMark{0x25B6};      // a pointer: the line in use, taken by the user
 constexpr QChar passedOverMark{0x25CB}; // a ring: the program's line, where the user took another
@@ -114,7 +114,7 @@ void EntryLinesFrame::buildTable() {
 void EntryLinesFrame::buildLineButtons() {
     buttons_ = new RowButtons{*table_, appearance_, this};
     const int column = buttons_->addColumn(lineButtonTwips);
-    for (int row = 1; row <= lineButtons; ++row) {
+    for (int row = Grid::firstRow; row <= lineButtons; ++row) {
         QPushButton* button = buttons_->add(column, row);
         button->setObjectName(QString{"LineButton%1"}.arg(row));
         setCommand(*button, CommandId::Command3);
@@ -137,7 +137,7 @@ void EntryLinesFrame::refresh() {
     shades_->showFor(entryLines());
     const LineInUse used = lineInUse();
     refreshUse(used);
-    for (int row = 1; row <= lineButtons; ++row) refreshButton(row, used);
+    for (int row = Grid::firstRow; row <= lineButtons; ++row) refreshButton(row, used);
     buttons_->align();
 }
 

@@ -89,7 +89,7 @@ QPushButton* RacePanel::rowButton(int column, int row, CommandId id) {
 
 void RacePanel::buildEntryButtons() {
     const int column = buttons_->addColumn(entryButtonTwips);
-    for (int row = 1; row <= ratedEntries; ++row) {
+    for (int row = Grid::firstRow; row <= ratedEntries; ++row) {
         entries_.push_back(rowButton(column, row, CommandId::EntryButton));
         entries_.back()->setObjectName(QString{"EntryButton%1"}.arg(row));
     }
@@ -97,7 +97,7 @@ void RacePanel::buildEntryButtons() {
 
 void RacePanel::buildScratchButtons() {
     const int column = buttons_->addColumn(scratchButtonTwips);
-    for (int row = 0; row <= ratedEntries; ++row) {
+    for (int row = Grid::headRow; row <= ratedEntries; ++row) {
         scratches_.push_back(rowButton(column, row, CommandId::Command4));
         scratches_.back()->setObjectName(QString{"ScratchButton%1"}.arg(row));
     }
@@ -105,7 +105,7 @@ void RacePanel::buildScratchButtons() {
 
 void RacePanel::buildHeatButtons() {
     heatColumn_ = buttons_->addColumn(heatButtonTwips);
-    for (int row = 1; row <= ratedEntries; ++row) {
+    for (int row = Grid::firstRow; row <= ratedEntries; ++row) {
         heats_.push_back(rowButton(heatColumn_, row, CommandId::HeatChoice));
         heats_.back()->setObjectName(QString{"HeatButton%1"}.arg(row));
         heats_.back()->setText(captionOf(CommandId::HeatChoice));
@@ -140,7 +140,7 @@ void RacePanel::refreshButtons() {
     scratches_.front()->setEnabled(runner_.canRun(CommandId::Command4, numberArgument(0)));
 
     bool anyHeat = false;
-    for (int row = 1; row <= ratedEntries; ++row) {
+    for (int row = Grid::firstRow; row <= ratedEntries; ++row) {
         const auto at = static_cast<std::size_t>(row);
         const QString horse = shown(horseIn(race_, row));
         const Arguments entry = numberArgument(row);

@@ -36,7 +36,7 @@ void RowButtons::setColumnVisible(int column, bool visible) {
 }
 
 QPushButton* RowButtons::add(int column, int row) {
-    auto* button = new QPushButton{row == 0 ? this : rows_};
+    auto* button = new QPushButton{row == Grid::headRow ? this : rows_};
     button->setFocusPolicy(Qt::ClickFocus);
     button->installEventFilter(this);
     places_.push_back({button, column, row});
@@ -58,7 +58,7 @@ void RowButtons::align() {
 }
 
 void RowButtons::place(const Place& place, int x, int width) {
-    const int row = place.row - 1;
+    const int row = place.row - Grid::firstRow;
     const bool isThere = width > 0 && row < table_.model()->rowCount();
     place.button->setVisible(isThere);
     if (!isThere) return;
@@ -124,7 +124,8 @@ bool RowButtons::eventFilter(QObject* watched, QEvent* event) {
     if (!at) return false;
     if (event->type() == QEvent::FocusIn) {
         keepOneTabStop(at->column, at->button);
-        if (at->row > 0) table_.scrollTo(table_.model()->index(at->row - 1, table_.columnAt(0)));
+        if (at->row >= Grid::firstRow)
+            table_.scrollTo(table_.model()->index(at->row - Grid::firstRow, table_.columnAt(0)));
     }
     return event->type() == QEvent::KeyPress && walk(*at, static_cast<QKeyEvent*>(event)->key());
 }

@@ -20,7 +20,7 @@ class RowButtons : public QWidget {
 public:
     RowButtons(CellTableView& table, Appearance& appearance, QWidget* parent = nullptr);
 
-    /// A column of buttons of this width in twips behind those there are; its number.
+    /// A column of buttons of this width in twips after those there are; its number.
     int addColumn(int twips);
     void setColumnVisible(int column, bool visible);
 

@@ -30,7 +30,7 @@ ViewLayout summaryLayout() {
 ViewLayout profileLayout() { return {.columns = profileColumns(), .firstFrozen = true, .roomForBold = true}; }
 
 ViewLayout tracksLayout() {
-    return {.columns = trackColumns().first(TrackColumn::size),
+    return {.columns = trackColumns().first(TrackColumn::percentage + 1),
             .emptyRows = EmptyRows::hiddenAtEnd,
             .sortable = true};
 }

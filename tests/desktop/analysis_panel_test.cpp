@@ -240,10 +240,11 @@ TEST_F(ProfilePageTest, TracksAndSizesStandSideBySideAndSort) {
     ASSERT_EQ(6, sizes.model()->rowCount());
     for (int row = 1; row <= 2; ++row)
         for (int column = 0; column < 4; ++column)
-            EXPECT_EQ(quillon::shown(screen.tracks.text(row, column)), at(tracks, row - 1, column));
+            EXPECT_EQ(quillon::shown(trimmed(screen.tracks.text(row, column))), at(tracks, row - 1, column));
     for (int row = 1; row <= 6; ++row)
         for (int column = 0; column < 4; ++column)
-            EXPECT_EQ(quillon::shown(screen.tracks.text(row, column + 6)), at(sizes, row - 1, column));
+            EXPECT_EQ(quillon::shown(trimmed(screen.tracks.text(row, column + TrackColumn::size))),
+                      at(sizes, row - 1, column));
     EXPECT_EQ("SIZE", sizes.model()->headerData(0, Qt::Horizontal, Qt::DisplayRole).toString());
 
     EXPECT_EQ("M1", at(tracks, 0, 0));
