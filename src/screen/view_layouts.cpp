@@ -42,7 +42,9 @@ ViewLayout sizesLayout() {
             .sortable = true};
 }
 
-ViewLayout picksLayout() { return {.columns = pickColumns(), .emptyRows = EmptyRows::hidden}; }
+ViewLayout picksLayout() {
+    return {.columns = pickColumns().first(PickColumn::pick10 + 1), .emptyRows = EmptyRows::hidden};
+}
 
 ViewLayout starsLayout() { return {.columns = starColumns()}; }
 
