@@ -39,7 +39,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
 
     fuzz::put("TrackEditor.ini", content);
     readTrackTable();
-    const TrackTable& table = trackTable();
+    const TrackTable& table = load.tracks;
     const TrackTable again = trackTableOf(content);
     fuzz::ensure(table.rows.size() == again.rows.size(), "the file gives what its bytes give");
     for (const TrackRecord& track : table.rows) {

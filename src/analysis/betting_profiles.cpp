@@ -7,7 +7,7 @@
 #include "core/failure.h"
 #include "core/formats.h"
 #include "screen/screen.h"
-#include "tables/track_table.h"
+#include "tables/load_state.h"
 
 #include <algorithm>
 #include <array>
@@ -70,7 +70,7 @@ public:
 private:
     void addTracksOf(TextView size) {
         readTrackTable();
-        for (const TrackRecord& track : trackTable().rows)
+        for (const TrackRecord& track : load.tracks.rows)
             if (track.courseSize == size) tracks_.push_back(track.trackKey);
         std::sort(tracks_.begin(), tracks_.end());
     }

@@ -8,7 +8,7 @@
 #include "reports/report_writer.h"
 #include "screen/screen.h"
 #include "screen/view_columns.h"
-#include "tables/track_table.h"
+#include "tables/load_state.h"
 
 #include <algorithm>
 #include <array>
@@ -70,7 +70,7 @@ bool counts(TextView size, TextView courseSize, TextView lineSize) {
 
 Profile emptyProfile() {
     Profile profile{.lineSize = cursor.lineSize};
-    for (const TrackRecord& track : trackTable().rows) {
+    for (const TrackRecord& track : load.tracks.rows) {
         if (profile.tracks.size() == mostTracks) break;
         profile.byCode[track.trackKey].push_back(profile.tracks.size());
         profile.tracks.push_back({track.trackKey, track.courseSize});
@@ -123,9 +123,10 @@ std::array<Text, 4> sizeCells(TextView size, const Sums& sums) {
 
 void fillSizes(const Profile& profile, ReportWriter& report) {
     for (std::size_t size = 0; size < sizes.size(); ++size) {
-        const auto cells = sizeCells(sizes[size], profile.bySize[size]);
-        fillCells(static_cast<int>(size) + 1, TrackColumn::size, cells);
-        report.line("  {}  @@@@@  @@@@@    {}", cells[0], cells[1], cells[2], cells[3]);
+        const auto row = sizeCells(sizes[size], profile.bySize[size]);
+        fillCells(static_cast<int>(size) + 1, TrackColumn::size, row);
+        const auto& [name, races, wins, percentage] = row;
+        report.line("  {}  @@@@@  @@@@@    {}", name, races, wins, percentage);
     }
     report.line("END");
 }

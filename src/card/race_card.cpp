@@ -1,12 +1,10 @@
 #include "card/race_card.h"
 
-#include "card/fields.h"
 #include "core/failure.h"
 #include "core/journal.h"
 
 #include <algorithm>
 #include <string>
-#include <tuple>
 #include <utility>
 
 namespace quillon {
@@ -100,17 +98,5 @@ void LineCellTable::writeLine(int lineNumber, std::span<const TextView, lineCell
 }
 
 void LineCellTable::clear() { lines_.clear(); }
-
-void RaceCard::clear() {
-    const auto empty = [](TextView, auto& value) { value = std::decay_t<decltype(value)>{}; };
-    forEachField(cardScalars, *this, empty);
-    forEachField(furtherScalars, *this, empty);
-    forEachField(cardTables, *this, [](TextView, auto& table) { table.clear(); });
-}
-
-void RaceCard::shareWith(const RaceCard& other) {
-    std::apply([&](const auto&... table) { ((this->*table.member).shareWith(other.*table.member), ...); },
-               cardTables);
-}
 
 } // namespace quillon

@@ -149,6 +149,9 @@ public:
     void clear();
     void shareWith(const PastLineTable& other) { lines_.shareWith(other.lines_); }
 
+    /// Whether both hold the same lines: not their like, but the very ones.
+    bool operator==(const PastLineTable& other) const { return lines_ == other.lines_; }
+
 private:
     bool isFilled(int race, int entry, int line) const;
 
@@ -172,6 +175,9 @@ public:
 
     void clear();
     void shareWith(const LineCellTable& other) { lines_.shareWith(other.lines_); }
+
+    /// Whether both hold the same lines: not their like, but the very ones.
+    bool operator==(const LineCellTable& other) const { return lines_ == other.lines_; }
 
 private:
     struct Line {

@@ -9,7 +9,7 @@
 // pass through and stay loud. Compute first and store last: then a failing statement leaves its cell alone.
 #pragma once
 
-#include "core/text.h"
+#include "core/text_type.h"
 
 #include <utility>
 

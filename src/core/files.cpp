@@ -175,6 +175,8 @@ Text readFile(const FilePlace& place) {
     fail(shownPath(place) + " can't be read");
 }
 
+FileWatch fileWatch;
+
 FilePieces::FilePieces(const FilePlace& place) {
     const fs::path path = pathOnDisk(place);
     if (disk::isFile(path)) file_.open(path, std::ios::binary | std::ios::ate);
@@ -204,6 +206,7 @@ void makeFolder(Folder folder) {
 // Programs that replace the same file at the same time write each to a temporary file of its own.
 PreparedFile::PreparedFile(const FilePlace& place) : target_(pathOnDisk(place)) {
     constexpr int mostPrograms = 9;
+    if (fileWatch) fileWatch(place);
     if (disk::isWriteProtected(target_)) fail(shownPath(place) + " is write-protected");
     for (int program = 1; program <= mostPrograms; ++program) {
         ending_ = program == 1 ? Text{} : std::to_string(program);
@@ -268,6 +271,12 @@ void putInPlaceTogether(PreparedFile& first, PreparedFile& second) {
     if (!bothInPlace) fail(nameOn(target) + " is left as it was");
 }
 
+void removeFile(const FilePlace& place) {
+    const fs::path path = pathOnDisk(place);
+    disk::removeFile(path);
+    if (disk::isThere(path)) fail(shownPath(place) + " can't be removed");
+}
+
 void writeFile(const FilePlace& place, TextView content) {
     makeFolder(place.folder);
     PreparedFile{place, content}.putInPlace();
@@ -276,6 +285,7 @@ void writeFile(const FilePlace& place, TextView content) {
 void appendToFile(const FilePlace& place, TextView content) {
     makeFolder(place.folder);
     const fs::path path = pathOnDisk(place);
+    if (fileWatch) fileWatch(place);
     std::error_code error;
     const bool isNew = !disk::isThere(path);
     const std::uintmax_t size = isNew ? 0 : fs::file_size(path, error);

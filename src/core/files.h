@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -129,6 +130,14 @@ void putInPlaceTogether(PreparedFile& first, PreparedFile& second);
 /// missing. A last line without a line end gets one first, so that nothing merges with it; adding nothing to
 /// a file that is there leaves it as it is. Fails when it can't be written, with nothing of it in the file.
 void appendToFile(const FilePlace& place, TextView content);
+
+/// Takes the file away, if it is there. Fails when it can't be.
+void removeFile(const FilePlace& place);
+
+/// Told of every file that is about to be written, made or replaced, before anything happens to it; none when
+/// nobody asks.
+using FileWatch = std::function<void(const FilePlace& place)>;
+extern FileWatch fileWatch;
 
 /// Lines of a text, whether they end in LF or CR LF. A last line without an end counts; an end of the text
 /// after a line end does not start another line.

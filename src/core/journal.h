@@ -1,7 +1,7 @@
 // The fault journal: what the failure policy passed over, kept in memory for the user who asks.
 #pragma once
 
-#include "core/text.h"
+#include "core/text_type.h"
 
 #include <cstdint>
 #include <deque>

@@ -3,6 +3,7 @@
 
 #include "core/failure.h"
 
+#include <algorithm>
 #include <array>
 #include <cassert>
 #include <memory>
@@ -42,9 +43,11 @@ public:
     /// Lets go of rows of its own that are the same as the other's, and shares those.
     void shareWith(const Table& other) {
         for (std::size_t row = 0; row < rowCount; ++row)
-            if (rows_[row] != other.rows_[row] && rows_[row] && other.rows_[row] &&
-                *rows_[row] == *other.rows_[row])
-                rows_[row] = other.rows_[row];
+            if (same(rows_[row], other.rows_[row])) rows_[row] = other.rows_[row];
+    }
+
+    bool operator==(const Table& other) const {
+        return std::equal(rows_.begin(), rows_.end(), other.rows_.begin(), same);
     }
 
     /// Fails as an index outside the bounds does, for a caller whose own bounds are narrower.
@@ -60,15 +63,27 @@ private:
     static constexpr std::size_t rowLength = elementCount / rowCount;
     using Row = std::array<Element, rowLength>;
 
+    using SharedRow = std::shared_ptr<Row>;
+
+    /// A row that was never written is one of empty elements.
+    static bool same(const SharedRow& left, const SharedRow& right) {
+        const auto isEmpty = [](const Row& row) {
+            return std::all_of(row.begin(), row.end(), [](const Element& one) { return one == Element{}; });
+        };
+        if (left == right) return true;
+        if (left && right) return *left == *right;
+        return isEmpty(left ? *left : *right);
+    }
+
     Element& written(std::size_t at) {
-        std::shared_ptr<Row>& row = rows_[at / rowLength];
+        SharedRow& row = rows_[at / rowLength];
         if (row.use_count() != 1) row = row ? std::make_shared<Row>(*row) : std::make_shared<Row>();
         return (*row)[at % rowLength];
     }
 
     const Element& read(std::size_t at) const {
         static const Element none{};
-        const std::shared_ptr<Row>& row = rows_[at / rowLength];
+        const SharedRow& row = rows_[at / rowLength];
         return row ? (*row)[at % rowLength] : none;
     }
 
@@ -95,7 +110,7 @@ private:
         return flat(index);
     }
 
-    std::array<std::shared_ptr<Row>, rowCount> rows_{};
+    std::array<SharedRow, rowCount> rows_{};
 };
 
 } // namespace quillon

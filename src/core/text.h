@@ -1,13 +1,9 @@
-// Text as the whole system keeps it: bytes of the Windows-1252 code page, compared by byte value.
+// What is done with texts: trimming, cutting, searching, padding.
 #pragma once
 
-#include <string>
-#include <string_view>
+#include "core/text_type.h"
 
 namespace quillon {
-
-using Text = std::string;
-using TextView = std::string_view;
 
 constexpr char blank = ' ';
 

@@ -111,7 +111,7 @@ void SetTracks() {
     for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
         const Text key = trackKeyOf(raceField("TRACK"));
         attempt([&] { labelledRace(currentRaceIndex()).trackCode = key; });
-        const TrackRecord* track = trackTable().first(key);
+        const TrackRecord* track = load.tracks.first(key);
         if (track == nullptr) continue;
         card.trackSize = track->courseSize;
         card.stretchLength = track->stretchLength;
@@ -196,7 +196,7 @@ void TrackData() {
     if (card.raceCount == 0) card.raceCount = 1;
     RaceInfo& race = card.raceInfo(card.raceCount);
     race.trackCode = key;
-    if (const TrackRecord* track = trackTable().first(key)) {
+    if (const TrackRecord* track = load.tracks.first(key)) {
         card.trackSize = track->courseSize;
         card.stretchLength = track->stretchLength;
         card.maxPosts = track->maxPosts;

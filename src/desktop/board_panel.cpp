@@ -1,6 +1,7 @@
 #include "desktop/board_panel.h"
 
 #include "desktop/board_boxes.h"
+#include "desktop/command_texts.h"
 #include "desktop/shown_text.h"
 
 #include <QFrame>
@@ -18,9 +19,6 @@ constexpr int numberTwips = 600;
 constexpr int payoffTwips = 1020;
 constexpr int exoticTwips = 1200;
 constexpr int wideTwips = 2000;
-
-// Commands that show a race anew and take nothing of the board into the store.
-constexpr std::array droppingCommands{"RaceButton", "RaceList", "AutoRecord", "EBET"};
 
 QFrame* rule(QWidget* parent) {
     auto* line = new QFrame{parent};

@@ -37,10 +37,7 @@ constexpr std::size_t raceTable = 0; ///< there is no card without it
 
 bool isThere(const char* file) {
     bool found = false;
-    attempt([&] {
-        std::error_code error;
-        found = std::filesystem::exists(pathOnDisk({Folder::sourceTables, file}), error);
-    });
+    attempt([&] { found = fileExists({Folder::sourceTables, file}); });
     return found;
 }
 

@@ -117,7 +117,7 @@ void Tracks() {
     const Text lineTrack = trackKeyOf(upperCase(load.line.TRACK));
     TextView todaysNominal;
     cursor.lineSize.clear();
-    if (const TrackRecord* track = trackTable().last(lineTrack)) {
+    if (const TrackRecord* track = load.tracks.last(lineTrack)) {
         cursor.lineSize = track->lineCourseSize;
         if (lineTrack == trackKeyOf(upperCase(screen.header.track.caption))) {
             todaysNominal = track->linePar;

@@ -16,7 +16,7 @@
 namespace quillon {
 namespace {
 
-constexpr int keywordColumn = 7;
+constexpr int keywordPlace = 7;
 constexpr int numberWidth = 2; ///< a finisher's program number, at the start of his line
 constexpr int payoffWidth = 6;
 constexpr int lastPayoffWidth = 5;
@@ -115,7 +115,7 @@ void readTrifecta(TextView line) {
 /// figure.
 void readFourth(TextView line) {
     constexpr int numbersWidth = 11;
-    const TextView keyword = midOf(line, keywordColumn, 3);
+    const TextView keyword = midOf(line, keywordPlace, 3);
     if (keyword != "SU " && keyword != "SUP") return;
     const TextView numbers = midOf(line, keyword == "SUP" ? 18 : 10, numbersWidth);
     const int paid = placeOf("p", numbers);
@@ -130,20 +130,20 @@ void readSuperfecta(TextView line) {
     readFourth(line);
 }
 
-void readDouble(TextView line, int poolColumn) {
+void readDouble(TextView line, int poolPlace) {
     constexpr int cutWidth = 10;
     constexpr int doubleLegs = 2;
     const TextView cut = rightOf(line, cutWidth);
     attempt(
         [&] { card.pickPayoff(cursor.race, doubleLegs) = afterDollar(cut, placeOf("$", cut), cutWidth); });
-    card.poolText = poolFrom(line, poolColumn);
+    card.poolText = poolFrom(line, poolPlace);
     card.poolLegs = doubleLegs;
     Pick3();
 }
 
-void readShortDouble(TextView line) { readDouble(line, keywordColumn + 2); }
+void readShortDouble(TextView line) { readDouble(line, keywordPlace + 2); }
 
-void readLongDouble(TextView line) { readDouble(line, keywordColumn + 6); }
+void readLongDouble(TextView line) { readDouble(line, keywordPlace + 6); }
 
 struct PickCount {
     TextView word; ///< at columns 12 to 15
@@ -156,7 +156,7 @@ constexpr std::array pickCounts{
 
 void readPick(TextView line) {
     constexpr int cutWidth = 11;
-    constexpr int poolColumn = 16;
+    constexpr int poolPlace = 16;
     for (const PickCount& row : pickCounts) // with no word of these the count is as it stands
         if (midOf(line, 12, 4) == row.word) card.poolLegs = row.legs;
     const TextView cut = rightOf(line, cutWidth);
@@ -167,7 +167,7 @@ void readPick(TextView line) {
         card.pickPayoff(cursor.race, card.poolLegs) =
             afterDollar(cut, placeOf("$", card.pickPayoff(cursor.race, 3)), cutWidth);
     });
-    card.poolText = poolFrom(line, poolColumn);
+    card.poolText = poolFrom(line, poolPlace);
     Pick3();
 }
 
@@ -195,7 +195,7 @@ void readLine(TextView line, LineReader& lines) {
     }
     if (line.starts_with("PRG")) return readFinishers(lines);
     for (const KeywordLine& row : keywordLines)
-        if (midOf(line, keywordColumn).starts_with(row.keyword)) return row.read(line);
+        if (midOf(line, keywordPlace).starts_with(row.keyword)) return row.read(line);
 }
 
 void readResults(TextView content) {

@@ -82,12 +82,13 @@ constexpr std::span<const WinnerCut> shortLineCuts = longLineCuts.first(3);
 void storeWinnersPayoffs(TextView figures, std::span<const WinnerCut> cuts,
                          const std::array<PayoffCell::Number, 3>& cells) {
     constexpr int thirdWidth = 6;
+    const auto [first, second, third] = cells;
     const int point = placeOf(".", figures);
     for (const WinnerCut& cut : cuts) {
         if (cut.point != point) continue;
-        attempt([&] { payoff(cells[0]) = leftOf(figures, cut.firstWidth); });
-        attempt([&] { payoff(cells[1]) = midOf(figures, cut.secondPlace, cut.secondWidth); });
-        attempt([&] { payoff(cells[2]) = rightOf(figures, thirdWidth); });
+        attempt([&, cell = first] { payoff(cell) = leftOf(figures, cut.firstWidth); });
+        attempt([&, cell = second] { payoff(cell) = midOf(figures, cut.secondPlace, cut.secondWidth); });
+        attempt([&, cell = third] { payoff(cell) = rightOf(figures, thirdWidth); });
     }
 }
 

@@ -22,19 +22,24 @@ void Grid::change() {
     version_ = ++lastVersion;
 }
 
+Grid::Rows& Grid::writtenRows() {
+    if (rows_.use_count() > 1) rows_ = std::make_shared<Rows>(*rows_);
+    change();
+    return *rows_;
+}
+
 void Grid::layOut(int rows, int columns) {
     source_ = nullptr;
     rowCount_ = rows;
     columnCount_ = columns;
-    rows_.assign(static_cast<std::size_t>(rows), nullptr);
+    rows_ = std::make_shared<Rows>(static_cast<std::size_t>(rows));
     change();
 }
 
 std::span<Cell> Grid::cellsOf(int row) {
     check(row, 0);
     if (isMade(row)) fail("row " + std::to_string(row) + " of the view is made from a file");
-    change();
-    auto& cells = rows_[static_cast<std::size_t>(row)];
+    auto& cells = writtenRows()[static_cast<std::size_t>(row)];
     if (!cells)
         cells = std::make_shared<Row>(static_cast<std::size_t>(columnCount_));
     else if (cells.use_count() > 1)
@@ -51,7 +56,7 @@ const Cell& Grid::read(int row, int column) const {
     static const Cell none;
     check(row, column);
     if (isMade(row)) return madeCell(row, column);
-    const auto& cells = rows_[static_cast<std::size_t>(row)];
+    const auto& cells = (*rows_)[static_cast<std::size_t>(row)];
     return cells ? (*cells)[static_cast<std::size_t>(column)] : none;
 }
 
@@ -73,38 +78,52 @@ void Grid::shade(int row, int from, int to, std::optional<Colour> background) {
 }
 
 void Grid::showRows(int first, RowSource source) {
-    rows_.resize(static_cast<std::size_t>(first));
+    writtenRows().resize(static_cast<std::size_t>(first));
     rowCount_ = first + source.count;
     source_ = std::make_shared<const RowSource>(std::move(source));
     lookedAt_ = 0;
-    change();
 }
 
 void Grid::letGoOfSource() {
     if (!source_) return;
     source_ = nullptr;
-    rowCount_ = static_cast<int>(rows_.size());
+    rowCount_ = static_cast<int>(rows_->size());
     lookedAt_ = 0;
     madeCells_.clear();
 }
 
 void Grid::clear() {
     letGoOfSource();
-    for (std::size_t row = 1; row < rows_.size(); ++row) rows_[row] = nullptr;
-    change();
+    Rows& rows = writtenRows();
+    for (std::size_t row = 1; row < rows.size(); ++row) rows[row] = nullptr;
 }
 
 void Grid::clearAll() {
     clear();
-    if (!rows_.empty()) rows_.front() = nullptr;
+    if (!rows_->empty()) rows_->front() = nullptr;
 }
 
 void Grid::shareWith(const Grid& other) {
-    const std::size_t both = std::min(rows_.size(), other.rows_.size());
-    for (std::size_t row = 0; row < both; ++row)
-        if (rows_[row] != other.rows_[row] && rows_[row] && other.rows_[row] &&
-            *rows_[row] == *other.rows_[row])
-            rows_[row] = other.rows_[row];
+    if (rows_ == other.rows_) return;
+    Rows shared = *rows_;
+    for (std::size_t row = 0; row < std::min(shared.size(), other.rows_->size()); ++row)
+        if (const auto& theirs = (*other.rows_)[row]; theirs && shared[row] && *shared[row] == *theirs)
+            shared[row] = theirs;
+    rows_ = shared == *other.rows_ ? other.rows_ : std::make_shared<Rows>(std::move(shared));
+}
+
+bool Grid::sameTexts(const Grid& other) const {
+    if (rows_ == other.rows_) return true;
+    if (rows_->size() != other.rows_->size()) return false;
+    static const Cell none;
+    for (std::size_t row = 0; row < rows_->size(); ++row) {
+        const auto& left = (*rows_)[row];
+        const auto& right = (*other.rows_)[row];
+        if (left == right) continue;
+        for (std::size_t column = 0; column < static_cast<std::size_t>(columnCount_); ++column)
+            if ((left ? (*left)[column] : none).text != (right ? (*right)[column] : none).text) return false;
+    }
+    return true;
 }
 
 Screen::Screen() {

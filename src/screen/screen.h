@@ -94,18 +94,23 @@ public:
     /// Lets go of rows of its own that are the same as the other's, and shares those.
     void shareWith(const Grid& other);
 
+    /// Whether both show the same texts in the rows that they hold.
+    bool sameTexts(const Grid& other) const;
+
 private:
     using Row = std::vector<Cell>;
+    using Rows = std::vector<std::shared_ptr<Row>>; ///< none: a row that was never written
 
     void check(int row, int column) const;
-    bool isMade(int row) const { return source_ && row >= static_cast<int>(rows_.size()); }
+    bool isMade(int row) const { return source_ && row >= static_cast<int>(rows_->size()); }
     const Cell& madeCell(int row, int column) const;
     void letGoOfSource();
+    Rows& writtenRows();
     void change();
 
-    std::vector<std::shared_ptr<Row>> rows_;  ///< none: a row that was never written
-    std::shared_ptr<const RowSource> source_; ///< of the rows after `rows_`
-    mutable int lookedAt_ = 0;                ///< the made row that stands in `madeCells_`; 0 none
+    std::shared_ptr<Rows> rows_ = std::make_shared<Rows>(); ///< shared with copies until one is written
+    std::shared_ptr<const RowSource> source_;               ///< of the rows after `rows_`
+    mutable int lookedAt_ = 0; ///< the made row that stands in `madeCells_`; 0 none
     mutable Row madeCells_;
     int rowCount_ = 0;
     int columnCount_ = 0;

@@ -1,6 +1,8 @@
 #include "tables/load_state.h"
 
 #include "card/line_fields.h"
+#include "core/failure.h"
+#include "core/files.h"
 
 #include <array>
 #include <cstdint>
@@ -74,6 +76,12 @@ void ReadSourceLine() {
 void ReadSourceHorse() {
     static RowReader horse{horseFields};
     horse.read(load.horseRows, load.horse);
+}
+
+void readTrackTable() {
+    const auto content = fileContent({Folder::working, "TrackEditor.ini"});
+    if (!content) reportFault("TrackEditor.ini can't be read");
+    load.tracks = trackTableOf(content.value_or(""));
 }
 
 } // namespace quillon

@@ -62,4 +62,8 @@ void ReadSourceLine();
 /// Takes the current row of the horse table into `load.horse`.
 void ReadSourceHorse();
 
+/// Reads TrackEditor.ini into `load.tracks` again, since the user may have edited it. Without the file the
+/// table is empty, and the journal tells so.
+void readTrackTable();
+
 } // namespace quillon

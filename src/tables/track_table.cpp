@@ -1,8 +1,6 @@
 #include "tables/track_table.h"
 
-#include "core/failure.h"
 #include "core/files.h"
-#include "tables/load_state.h"
 
 #include <algorithm>
 #include <numeric>
@@ -73,14 +71,6 @@ TrackTable trackTableOf(TextView content) {
         return table.rows[left].trackKey < table.rows[right].trackKey;
     });
     return table;
-}
-
-const TrackTable& trackTable() { return load.tracks; }
-
-void readTrackTable() {
-    const auto content = fileContent({Folder::working, "TrackEditor.ini"});
-    if (!content) reportFault("TrackEditor.ini can't be read");
-    load.tracks = trackTableOf(content.value_or(""));
 }
 
 Text trackKeyOf(TextView track) {

@@ -39,13 +39,6 @@ struct TrackTable {
 /// The table of a file's content.
 TrackTable trackTableOf(TextView content);
 
-/// The table as it was read last; empty before that.
-const TrackTable& trackTable();
-
-/// Reads TrackEditor.ini again, since the user may have edited it. Without the file the table is empty, and
-/// the journal tells so.
-void readTrackTable();
-
 /// A track code as the tables carry it: trimmed, and "M" made "M1".
 Text trackKeyOf(TextView track);
 

@@ -743,10 +743,10 @@ TEST_F(RateLineTest, AnEntryWithoutAPostIsEntryNoughtAndPaysForPostOneMeanwhile)
 }
 
 TEST_F(RateLineTest, PostsFrom21To30HaveFiveFieldsOfTheLineStored) {
-    sourceLine.CALL_2Q_BF = "2b";
-    sourceLine.CALL_2Q_AF = "2a";
-    sourceLine.CALL_3Q_BF = "3b";
-    sourceLine.CALL_3Q_AF = "3a";
+    load.line.CALL_2Q_BF = "2b";
+    load.line.CALL_2Q_AF = "2a";
+    load.line.CALL_3Q_BF = "3b";
+    load.line.CALL_3Q_AF = "3a";
     for (const int post : {21, 30}) {
         setPost(std::to_string(post));
         cursor.entry = 2;

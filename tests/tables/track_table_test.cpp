@@ -158,16 +158,16 @@ TEST_F(TrackTableTest, CaseAndWholeKeysCountInALookUp) {
 
 TEST_F(TrackTableTest, AMissingFileGivesAnEmptyTableAndAFault) {
     readTrackTable();
-    EXPECT_TRUE(trackTable().rows.empty());
+    EXPECT_TRUE(load.tracks.rows.empty());
     EXPECT_TRUE(journalTells("TrackEditor.ini"));
 }
 
 TEST_F(TrackTableTest, TheFileIsReadAgainOnlyWhenAsked) {
     useTracks("A    10\n");
     put("TrackEditor.ini", "A    11\n");
-    EXPECT_EQ(10, trackTable().first("A")->maxPosts);
+    EXPECT_EQ(10, load.tracks.first("A")->maxPosts);
     readTrackTable();
-    EXPECT_EQ(11, trackTable().first("A")->maxPosts);
+    EXPECT_EQ(11, load.tracks.first("A")->maxPosts);
     EXPECT_EQ(0U, journal.count());
 }
 
