@@ -13,6 +13,7 @@
 #include "app/links.h"
 #include "card/race_card.h"
 #include "day/card_load.h"
+#include "day/changes.h"
 #include "day/driver_change.h"
 #include "day/re_calculation.h"
 #include "day/recall.h"
@@ -100,6 +101,17 @@ bool scratchButtonIsThere(const Arguments& arguments) {
     return numberWithin(arguments, 0, ratedEntries) && canScratch(arguments.numbers[0]);
 }
 
+void Undo() { changes.undo(); }
+void Redo() { changes.redo(); }
+void UndoTo(int number) { changes.undoTo(static_cast<std::size_t>(number)); }
+
+bool canUndo(const Arguments&) { return changes.canUndo(); }
+bool canRedo(const Arguments&) { return changes.canRedo(); }
+bool canUndoTo(const Arguments& arguments) {
+    return numberWithin(arguments, 0, static_cast<int>(changes.standing().size()) - 1);
+}
+bool cardIsOpen(const Arguments&) { return changes.isOpen(); }
+
 using enum Effect;
 using Id = CommandId;
 
@@ -108,19 +120,19 @@ using Id = CommandId;
 // clang-format off
 constexpr std::array commands{
     // The Start button and the card's files
-    Command{Id::Start, "Start", run<Start>, keepsCard,
+    Command{Id::Start, "Start", run<Start>, opensCard,
         {Menu::walk, 'S', "F5", "Start", "Load and rate the card of the vendor's tables"},
         Takes::nothing, "", startIsThere},
     Command{Id::NewRC, "NewRC", run<NewRC>, keepsCard,
         {Menu::file, 'N', "", "New Race Card", "Start the program that fetches a new card, and end"}},
     Command{Id::RecallRaceCard, "RecallRaceCard", run<RecallRaceCard>, keepsCard,
         {Menu::file, 'R', "Ctrl+O", "Recall Race Card", "Open a saved race card"}},
-    Command{Id::ChooseFile, "ChooseFile", run<ChooseFile>, keepsCard,
+    Command{Id::ChooseFile, "ChooseFile", run<ChooseFile>, opensCard,
         {.caption = "Recall Race Card"},
         Takes::text, "TEXT", listIsShown<&Screen::fileList>},
-    Command{Id::Save, "Save", run<Save>, keepsCard,
+    Command{Id::Save, "Save", run<Save>, savesCard,
         {Menu::file, 'S', "Ctrl+S", "Save Race Card", "Save the race card with its results"}},
-    Command{Id::CloseRC, "CloseRC", run<CloseRC>, keepsCard,
+    Command{Id::CloseRC, "CloseRC", run<CloseRC>, closesCard,
         {Menu::file, 'C', "Ctrl+W", "Close Race Card", "Save the race card and clear the window"}},
     Command{Id::PrintSummary, "PrintSummary", run<PrintSummary>, keepsCard,
         {Menu::file, 'P', "", "Print", "Read the day's results in the text viewer, to print them"}},
@@ -130,21 +142,35 @@ constexpr std::array commands{
         {Menu::file, 'x', "Ctrl+Q", "Exit", "End Quillon without a question"}},
     Command{Id::CloseWindow, "CloseWindow", run<CloseWindow>, keepsCard},
 
+    // Changes, and the way back
+    Command{Id::Undo, "Undo", run<Undo>, keepsCard,
+        {Menu::edit, 'U', "Ctrl+Z", "Undo", "Take back the last change of the card"},
+        Takes::nothing, "", canUndo},
+    Command{Id::Redo, "Redo", run<Redo>, keepsCard,
+        {Menu::edit, 'R', "Ctrl+Shift+Z; Ctrl+Y", "Redo", "Do the change again that was taken back last"},
+        Takes::nothing, "", canRedo},
+    Command{Id::UndoTo, "UndoTo", run<UndoTo>, keepsCard,
+        {.caption = "Back to Here", .hint = "Take back all changes after this one"},
+        Takes::number, "n", canUndoTo},
+    Command{Id::TakeAllIn, "TakeAllIn", run<TakeAllIn>, changesCard,
+        {Menu::edit, 'T', "", "Take All Boards In", "Show every race once, so that every board is taken into the store"},
+        Takes::nothing, "", cardIsOpen},
+
     // Walking the races
     Command{Id::MainScreen, "MainScreen", run<MainScreen>, keepsCard,
         {Menu::navigation, 'M', "Ctrl+M", "Main Screen", "Back to the races"}},
     Command{Id::RaceButton, "RaceButton", run<RaceButton>, dropsTyping,
         {.hint = "Show race %1. The arrows keep what was typed on the board; this button does not."},
         Takes::number, "n", raceButtonShows},
-    Command{Id::Previous, "Previous", run<Previous>, changesCard,
+    Command{Id::Previous, "Previous", run<Previous>, takesBoard,
         {Menu::walk, 'P', "Alt+Left", "Previous Race", "Store the board and go to the race before"}},
-    Command{Id::Next, "Next", run<Next>, changesCard,
+    Command{Id::Next, "Next", run<Next>, takesBoard,
         {Menu::walk, 'N', "Alt+Right", "Next Race", "Store the board and go to the next race"}},
     Command{Id::RaceList, "RaceList", run<RaceList>, dropsTyping,
         {.caption = "Races of the card",
          .hint = "A double click, or Enter, shows a race. What was typed on the board is kept by the arrows alone."},
         Takes::text, "TEXT"},
-    Command{Id::EntryButton, "EntryButton", run<EntryButton>, changesCard,
+    Command{Id::EntryButton, "EntryButton", run<EntryButton>, keepsCard,
         {.hint = "Show the past lines of %1"},
         Takes::number, "i", entryButtonIsThere},
 
@@ -179,13 +205,13 @@ constexpr std::array commands{
     Command{Id::HeatChoice, "HeatChoice", run<HeatChoice>, changesCard,
         {.caption = "Heat", .hint = "Enter the finish of %1 in a heat"},
         Takes::number, "i", heatChoiceShows},
-    Command{Id::AutoRecord, "AutoRecord", run<AutoRecord>, dropsTyping,
+    Command{Id::AutoRecord, "AutoRecord", run<AutoRecord>, changesAndDrops,
         {Menu::tools, 'A', "Ctrl+R", "Auto Record Payoffs", "Record finishes and payoffs from the card's results text"}},
-    Command{Id::EBET, "EBET", run<EBET>, dropsTyping,
+    Command{Id::EBET, "EBET", run<EBET>, changesAndDrops,
         {Menu::tools, 'T', "Ctrl+Shift+R", "TRC Auto Record", "Record finishes and payoffs from a results text in words"}},
 
     // Reports in the viewer
-    Command{Id::Entries, "Entries", run<Entries>, changesCard,
+    Command{Id::Entries, "Entries", run<Entries>, keepsCard,
         {Menu::navigation, 'E', "F9", "View Entries List", "Write the list of the card's entries and read it"}},
     Command{Id::ViewSummary, "ViewSummary", run<ViewSummary>, keepsCard,
         {Menu::navigation, 'V', "F6", "View Selections", "Read the selection sheet"}},
@@ -201,7 +227,7 @@ constexpr std::array commands{
     // What the selections earned
     Command{Id::SelectionResults, "SelectionResults", run<SelectionResults>, keepsCard,
         {Menu::analysis, 'S', "F12", "Selections & Results Summary", "What the selections of this card earned"}},
-    Command{Id::Record, "Record", run<Record>, keepsCard,
+    Command{Id::Record, "Record", run<Record>, recordsCard,
         {.caption = "Record", .hint = "Add this card to the archive, once"},
         Takes::nothing, "", recordIsThere},
     Command{Id::ALL, "ALL", run<ALL>, keepsCard,

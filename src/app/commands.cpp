@@ -1,6 +1,8 @@
 #include "app/commands.h"
 
+#include "app/change_words.h"
 #include "core/failure.h"
+#include "day/changes.h"
 #include "screen/screen.h"
 
 #include <algorithm>
@@ -16,12 +18,18 @@ const Command* findCommand(TextView name, std::span<const Command> commands) {
 }
 
 bool isMenuItem(const Command& command) {
-    return command.item.menu != Menu::none && command.item.menu != Menu::walk;
+    return command.item.menu != Menu::none && command.item.menu != Menu::walk &&
+           command.item.menu != Menu::edit;
 }
 
-bool mayChangeCard(const Command& command) { return command.effect != Effect::keepsCard; }
+bool mayChangeCard(const Command& command) {
+    return command.effect == Effect::changesCard || command.effect == Effect::takesBoard ||
+           command.effect == Effect::changesAndDrops;
+}
 
-bool mayDropTyping(const Command& command) { return command.effect == Effect::dropsTyping; }
+bool mayDropTyping(const Command& command) {
+    return command.effect == Effect::dropsTyping || command.effect == Effect::changesAndDrops;
+}
 
 bool isAvailable(const Command& command, const Arguments& arguments) {
     const MenuState& state = screen.item(command.id);
@@ -29,9 +37,31 @@ bool isAvailable(const Command& command, const Arguments& arguments) {
     return command.available == nullptr || command.available(arguments);
 }
 
+namespace {
+
+void runAsChange(const Command& command, const Arguments& arguments) {
+    const int race = raceOfChange(command.id, arguments);
+    changes.run({.run = [&] { command.run(arguments); },
+                 .compared = command.effect == Effect::takesBoard ? Compared::store : Compared::everything,
+                 .race = race,
+                 .words = [&] { return changeWords(command.id, arguments, race); }});
+}
+
+// What the list of changes has to know of a command that has run to its end.
+void tellChanges(Effect effect) {
+    if (effect == Effect::opensCard && screen.mode != CardMode::none) changes.begin();
+    if (effect == Effect::closesCard && screen.mode == CardMode::none) changes.end();
+    if (effect == Effect::savesCard) changes.saved();
+    if (effect == Effect::recordsCard) changes.recorded();
+}
+
+} // namespace
+
 void runCommand(const Command& command, const Arguments& arguments) {
     const Step step{command.name};
-    attempt([&] { command.run(arguments); });
+    if (mayChangeCard(command)) return runAsChange(command, arguments);
+    const bool nothingToLoad = command.id == CommandId::Start && screen.startOffer != StartOffer::load;
+    if (attempt([&] { command.run(arguments); }) && !nothingToLoad) tellChanges(command.effect);
 }
 
 } // namespace quillon

@@ -2,44 +2,33 @@
 // console takes its commands from it, the window its menus, buttons, keys and tips.
 #pragma once
 
+#include "app/arguments.h"
 #include "core/text.h"
 #include "screen/command_id.h"
 
-#include <array>
 #include <span>
 
 namespace quillon {
 
-/// What a command takes, in the order it is given.
-enum class Takes {
-    nothing,
-    number,
-    text,
-    numberAndText,
-    cell, ///< race, row, column, text
-};
-
-struct Arguments {
-    std::array<int, 3> numbers{};
-    Text text{};
-};
-
 /// What becomes of the open card when the command is run.
 enum class Effect {
-    /// Nothing: the user looks at it, or it gives way as a whole (loads, recalls, closes), or what is there
-    /// is
-    /// saved and recorded.
-    keepsCard,
+    keepsCard,   ///< nothing: the user looks at it, or reports and sums are made of it
+    opensCard,   ///< another card takes its place
+    closesCard,  ///< saved and put away
+    savesCard,   ///< as it stands
+    recordsCard, ///< in the archive, which no step back takes back
     /// The store, a view or box of a race, or a file of the card may differ afterwards: a step that can be
     /// taken back.
     changesCard,
-    /// The same, and the board is shown anew without being stored: what was typed and not stored is gone.
-    dropsTyping,
+    takesBoard,      ///< the same, by taking the board into the store on the way to another race
+    dropsTyping,     ///< the board is shown anew without being stored: what was typed and not stored is gone
+    changesAndDrops, ///< both: results are read, and the board is shown anew
 };
 
 /// The menu that a command stands in.
 enum class Menu {
     none,
+    edit, ///< beyond the menus of old: not told among them
     walk, ///< the head of the navigation menu: commands with a button of their own, here for the keyboard
     file,
     navigation,

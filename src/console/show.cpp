@@ -3,10 +3,12 @@
 #include "console/show_store.h"
 #include "console/words.h"
 #include "core/journal.h"
+#include "day/changes.h"
 #include "screen/screen.h"
 
 #include <array>
 #include <optional>
+#include <utility>
 
 namespace quillon {
 namespace {
@@ -173,6 +175,34 @@ void showFaults(Transcript& transcript) {
     for (const Fault& fault : journal.kept()) transcript.line(fault.step + "\t" + fault.what);
 }
 
+// --- Changes ------------------------------------------------------------------------------------------------
+
+// "5 3 7 6"
+Text joined(const TopFour& numbers) {
+    Text text;
+    for (const Text& number : numbers) text += (text.empty() ? "" : " ") + number;
+    return text;
+}
+
+void showChanges(Transcript& transcript) {
+    int number = 0;
+    for (const Change& change : changes.standing()) {
+        const Text where = change.race == 0 ? "card" : "race " + std::to_string(change.race);
+        transcript.line(std::to_string(++number) + "\t" + where + "\t" + change.what + "\t" +
+                        joined(change.before) + " -> " + joined(change.after));
+    }
+}
+
+void showUnsaved(Transcript& transcript) {
+    const std::size_t unsaved = changes.unsaved();
+    transcript.line(unsaved == 0 ? Text{"saved"} : "unsaved " + std::to_string(unsaved));
+}
+
+void showPending(Transcript& transcript) {
+    for (int race = 1; race < boardRaces; ++race)
+        if (std::as_const(screen).boardsToTakeIn[{race}] != 0) transcript.line(std::to_string(race));
+}
+
 struct Part {
     TextView name;
     void (*print)(Transcript&);
@@ -184,6 +214,8 @@ constexpr std::array parts{
     Part{"board", showBoard},         Part{"starsfields", showStarsFields},
     Part{"header", showHeader},       Part{"buttons", showButtons},
     Part{"faults", showFaults},       Part{"store", showStore},
+    Part{"changes", showChanges},     Part{"unsaved", showUnsaved},
+    Part{"pending", showPending},
 };
 
 } // namespace

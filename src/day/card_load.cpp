@@ -339,6 +339,7 @@ void Start() {
 
     ShowLineTable();
     screen.lineTaken.clear();
+    screen.boardsToTakeIn.clear();
     card.unreadFile.clear();
     readTrackTable();
     FrameCard();

@@ -287,6 +287,7 @@ void ChooseFile(const Text& fileName) {
     attempt(ReadArchive);
     attempt(Recall);
     RecountDeadHeats();
+    screen.boardsToTakeIn.clear(); // they were taken in before the card was saved
     screen.offer(StartOffer::viewRaces);
     screen.mode = CardMode::recalled;
     attempt(RebuildDataViews);

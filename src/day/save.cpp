@@ -131,6 +131,7 @@ void CloseRC() {
         screen.dataView[static_cast<std::size_t>(race)](0, DataColumn::entry)
             .text.clear(); // "RACE " and the label
     screen.lineTaken.clear();
+    screen.boardsToTakeIn.clear();
     screen.record.enabled = false;
     screen.summary.clearAll();
     screen.profile.clearAll();

@@ -45,11 +45,14 @@ void dropLeadingZeros() {
 }
 
 void storeBoard(int race) {
+    attempt([&] { screen.boardsToTakeIn(race) = 0; });
     for (int box = 0; box < boxCount; ++box)
         attempt([&] { card.raceOutcome(race, cellOfBox(box)) = trimmed(screen.boxes.at(box).text); });
     for (const int cell : cellsOfTheirBoxes)
         attempt([&] { card.payoffRecord(race, cell) = trimmed(screen.tote.at(cell)); });
-    attempt([&] { card.payoffRecord(race, PayoffCell::boxTenEcho) = trimmed(screen.tote.at(ToteBox::deadHeat)); });
+    attempt([&] {
+        card.payoffRecord(race, PayoffCell::boxTenEcho) = trimmed(screen.tote.at(ToteBox::deadHeat));
+    });
     attempt([&] { card.raceInfo(race).trackCode = screen.header.track.caption; });
 }
 

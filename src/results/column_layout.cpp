@@ -10,6 +10,7 @@
 #include "results/pick_pool.h"
 #include "results/race_display.h"
 #include "results/results_text.h"
+#include "screen/screen.h"
 
 #include <array>
 
@@ -50,6 +51,7 @@ void removeComma(PayoffCell::Number cell) {
 
 void storeFinisher(OutcomeCell::Number place, TextView line) {
     attempt([&] { card.raceOutcome(cursor.race, place) = leftOf(line, numberWidth); });
+    attempt([] { screen.boardsToTakeIn(cursor.race) = 1; });
 }
 
 template <class Value>

@@ -175,6 +175,23 @@ void Previous() {
     show(shown - 1, allViewsButTwo);
 }
 
+void TakeAllIn() {
+    const Step step{"TakeAllIn"};
+    const int shown = raceOnShow();
+    if (shown == 0) return;
+    const auto showAsNext = [](int race) {
+        show(race, allViews);
+        attempt(TEXT_56);
+        attempt(DeadHeat);
+    };
+    attempt(Get_Textbox_Data);
+    for (int race = 1; race <= card.raceCount; ++race) {
+        showAsNext(race);
+        attempt(Get_Textbox_Data);
+    }
+    showAsNext(shown);
+}
+
 void RaceList(const Text& line) {
     const Step step{"RaceList"};
     show(heldToButtons(numberAtEnd(line)), allViewsButTwo);

@@ -35,6 +35,10 @@ void RaceButton(int n);
 void Next();
 void Previous();
 
+/// Stores the board and shows every race as Next does, then the race that was on show again: every board is
+/// taken into the store. With no race on show nothing happens.
+void TakeAllIn();
+
 /// Double click on a line of the race list: the number at its end is the race, held between 1 and 20.
 void RaceList(const Text& line);
 

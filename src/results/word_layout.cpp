@@ -10,6 +10,7 @@
 #include "results/pick_pool.h"
 #include "results/race_display.h"
 #include "results/results_text.h"
+#include "screen/screen.h"
 
 #include <array>
 #include <limits>
@@ -114,6 +115,7 @@ int counted(Table<Integer, raceExtent>& heats) {
 
 void storeFinisher(OutcomeCell::Number place, TextView line) {
     attempt([&] { outcome(place) = midOf(line, 4, 3); });
+    attempt([] { screen.boardsToTakeIn(cursor.race) = 1; });
 }
 
 void readWinner(const WordPass& pass, TextView line) {

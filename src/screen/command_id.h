@@ -18,6 +18,12 @@ enum class CommandId {
     Exit_QL,
     CloseWindow,
 
+    // Changes, and the way back
+    Undo,
+    Redo,
+    UndoTo,
+    TakeAllIn,
+
     // Walking the races
     MainScreen,
     RaceButton,

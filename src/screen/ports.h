@@ -30,6 +30,8 @@ struct Ports {
     std::function<void(const FilePlace& file)> hide = [](auto&) {};
     /// The plain file error of a command that could not open its file.
     std::function<void(const Text& text)> error = [](auto&) {};
+    /// A word to the user that asks for nothing.
+    std::function<void(const Text& text)> note = [](auto&) {};
 
     std::function<void(const Text& line, PrintStyle style)> printLine = [](auto&, auto) {};
     std::function<void()> printPage = [] {};

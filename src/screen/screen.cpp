@@ -151,6 +151,7 @@ void Screen::shareWith(const Screen& other) {
     for (std::size_t view = 0; view < dataView.size(); ++view) dataView[view].shareWith(other.dataView[view]);
     for (std::size_t view = 0; view < raceView.size(); ++view) raceView[view].shareWith(other.raceView[view]);
     lineTaken.shareWith(other.lineTaken);
+    boardsToTakeIn.shareWith(other.boardsToTakeIn);
 }
 
 } // namespace quillon

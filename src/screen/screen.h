@@ -156,6 +156,8 @@ constexpr int dataViewColumns = 40;
 constexpr int raceViewRows = 21; ///< the head and an entry a row
 constexpr int raceViewColumns = 40;
 
+constexpr int boardRaces = 31; ///< as many as the store has races
+
 /// What stands in `Screen::lineTaken` besides the row of a line.
 constexpr Integer noLineTaken = 0; ///< the program's choice stands
 constexpr Integer takenOut = -1;   ///< scratched or removed: no line speaks for the entry
@@ -211,6 +213,9 @@ struct Screen {
     int boxTenColumn =
         0; ///< column of payoffs that box 10 stands beside in a dead heat: 1 win, 2 place; 0 none
     Text refunds{};
+
+    /// By race: 1 where a results pass has read results and the board was not taken into the store since.
+    Table<Integer, boardRaces> boardsToTakeIn{};
 
     std::array<Grid, dataViews> dataView{};
     std::array<bool, dataViews> dataViewVisible{};

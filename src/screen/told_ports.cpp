@@ -28,6 +28,7 @@ Ports toldPorts(TellLine tell, TakeAnswer nextAnswer) {
     told.browse = [=](const Text& address) { tell("browse: " + address); };
     told.run = [=](const Text& program) { tell("run: " + program); };
     told.hide = [=](const FilePlace& file) { tell("hide: " + shownPath(file)); };
+    told.note = [=](const Text& text) { tell("note: " + text); };
     told.error = [=](const Text& text) { tell("error: " + text); };
     told.printLine = [=](const Text& line, PrintStyle style) {
         tell((style == PrintStyle::emphasised ? "print emphasised: " : "print: ") + line);

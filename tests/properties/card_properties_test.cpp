@@ -199,7 +199,8 @@ void expectSumsOfCells() {
     for (const int column : {11, 12, 13, 15, 16, 17, 18, 19, 22, 23, 24, 26, 27, 28}) {
         std::int64_t cents = 0;
         for (int race = 1; race <= 20; ++race) cents += centsIn(screen.summary.read(race, column).text);
-        EXPECT_EQ(cents, centsIn(screen.summary.read(SummaryRow::totals, column).text)) << "column " << column;
+        EXPECT_EQ(cents, centsIn(screen.summary.read(SummaryRow::totals, column).text))
+            << "column " << column;
     }
 }
 
@@ -208,7 +209,8 @@ void expectCountsOfMarks() {
         int wins = 0;
         for (int race = 1; race <= 20; ++race)
             wins += screen.summary.read(race, column).background == recentYellow;
-        EXPECT_EQ(std::to_string(wins), screen.summary.read(SummaryRow::totals, column).text) << "column " << column;
+        EXPECT_EQ(std::to_string(wins), screen.summary.read(SummaryRow::totals, column).text)
+            << "column " << column;
         const int hundredths = 100 * wins / card.raceCount;
         const int rounded = hundredths + (2 * (100 * wins % card.raceCount) >= card.raceCount ? 1 : 0);
         const Text shownShare = screen.summary.read(SummaryRow::percentages, column).text;
