@@ -48,13 +48,16 @@ void CardRows::add(TextView line) {
 }
 
 void CardRows::make(int row, std::span<Cell> cells) {
-    const auto card = static_cast<std::size_t>(row - ProfileRow::firstCard);
+    attempt([&] { fill(static_cast<std::size_t>(row - ProfileRow::firstCard), cells); });
+}
+
+void CardRows::fill(std::size_t card, std::span<Cell> cells) {
     const std::uint64_t end = card + 1 < starts_.size() ? starts_[card + 1] : end_;
     LineReader lines{copy_.read(starts_[card], static_cast<std::size_t>(end - starts_[card]))};
     const TextView line = lines.next().value_or("");
     const bool writtenOver = lines.next().has_value();
-    attempt([&] { fillCard(cells, writtenOver ? "" : line); });
-    attempt([&] { markWins(cells, archivedCardOf(line)); }); // what won stays marked
+    fillCard(cells, writtenOver ? "" : line);
+    markWins(cells, archivedCardOf(line)); // what won stays marked
 }
 
 } // namespace quillon

@@ -72,6 +72,8 @@ public:
     void make(int row, std::span<Cell> cells);
 
 private:
+    void fill(std::size_t card, std::span<Cell> cells); ///< fails where the copy can't be read
+
     std::vector<std::uint64_t> starts_; ///< of the cards' lines in the copy
     std::uint64_t end_ = 0;             ///< of the copy
     bool emptyAhead_ = false;

@@ -119,13 +119,20 @@ TEST_F(CommandsTest, TheWalkIsNoMenuItem) {
     EXPECT_FALSE(isMenuItem(command(CommandId::RaceButton)));
 }
 
-TEST_F(CommandsTest, WhatDropsTypingChangesTheCard) {
+TEST_F(CommandsTest, FourCommandsShowTheBoardAnewWithoutStoringIt) {
+    std::vector<Text> dropping;
     for (const Command& row : commandTable())
-        if (mayDropTyping(row)) {
-            EXPECT_TRUE(mayChangeCard(row)) << row.name;
-        }
-    EXPECT_FALSE(mayChangeCard(command(CommandId::Save)));
-    EXPECT_FALSE(mayDropTyping(command(CommandId::Next)));
+        if (mayDropTyping(row)) dropping.emplace_back(row.name);
+    EXPECT_EQ((std::vector<Text>{"RaceButton", "RaceList", "AutoRecord", "EBET"}), dropping);
+}
+
+TEST_F(CommandsTest, WalkingAndLookingIsNoChangeButTakingTheBoardIs) {
+    for (const CommandId id :
+         {CommandId::RaceButton, CommandId::EntryButton, CommandId::Save, CommandId::Record,
+          CommandId::SelectionResults, CommandId::Start, CommandId::Undo})
+        EXPECT_FALSE(mayChangeCard(command(id))) << command(id).name;
+    for (const CommandId id : {CommandId::Next, CommandId::Previous, CommandId::Command4, CommandId::EBET})
+        EXPECT_TRUE(mayChangeCard(command(id))) << command(id).name;
 }
 
 } // namespace

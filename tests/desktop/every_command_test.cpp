@@ -277,7 +277,7 @@ public:
     void drivers() { viewsInMenu("DriverList", "pmd2"); }
     void results() { viewsByKeys("F11", ".pmr"); }
     void archives() { viewsInMenu("ArchivesEditor", "HRA.ini"); }
-    void load.tracks { viewsInMenu("TrackEditor", "TrackEditor.ini"); }
+    void trackTable() { viewsInMenu("TrackEditor", "TrackEditor.ini"); }
     void address() { viewsInMenu("EXE", "Webpage.ini"); }
     void testResults() { viewsInMenu("TestResults", "TEST.txt"); }
 

@@ -29,7 +29,7 @@ protected:
 };
 
 TEST_F(SnapshotTest, PuttingBackShowsEverythingAsItStood) {
-    for (std::uint64_t seed = 1; seed <= 12; ++seed) {
+    for (std::uint64_t seed = 1; seed <= 4; ++seed) {
         SCOPED_TRACE("card " + std::to_string(seed));
         start(randomCard(seed, seed % 2 == 0), seed);
         const std::string before = everythingShown();
