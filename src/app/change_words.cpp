@@ -99,4 +99,13 @@ Text changeWords(CommandId id, const Arguments& arguments, int race) {
     }
 }
 
+std::vector<MovedPlace> movedPlaces(const Change& change) {
+    std::vector<MovedPlace> moved;
+    if (change.race == 0) return moved;
+    for (std::size_t at = 0; at < change.before.size(); ++at)
+        if (change.before[at] != change.after[at])
+            moved.push_back({static_cast<int>(at) + 1, change.before[at], change.after[at]});
+    return moved;
+}
+
 } // namespace quillon

@@ -69,6 +69,10 @@ public:
     bool canUndo() const { return position_ > 0; }
     bool canRedo() const { return position_ < changes_.size(); }
 
+    /// What undo takes back, and what redo does again; only where there is something.
+    const Change& last() const { return changes_[position_ - 1]; }
+    const Change& next() const { return changes_[position_]; }
+
     /// Takes back the last change; does it again. Store, screen and files are as they were. A file that
     /// differs from what the change left is left alone, and told as a note.
     void undo();
@@ -86,6 +90,7 @@ public:
 
     /// The archive has a line of this card: no step back offers to record it again.
     void recorded() { recorded_ = true; }
+    bool isRecorded() const { return recorded_; }
 
 private:
     void goTo(std::size_t position, const Snapshot& state);

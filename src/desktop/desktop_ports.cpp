@@ -123,6 +123,7 @@ void DesktopPorts::fillDialogs() {
         errorShown_ = true;
         ask(front(), QMessageBox::Critical, text, {}, QMessageBox::Ok, QMessageBox::Ok);
     };
+    ports.note = [this](const Text& text) { emit noted(shown(text)); };
     ports.beep = [] { QApplication::beep(); };
     ports.progress = [this](double done) { return progress_.show(done, &window_); };
 }

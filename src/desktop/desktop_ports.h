@@ -61,7 +61,8 @@ public:
     void commandEnded();
 
 signals:
-    void aboutToTell(); ///< what a message speaks of should be in sight behind it
+    void aboutToTell();              ///< what a message speaks of should be in sight behind it
+    void noted(const QString& text); ///< a word that asks for nothing
 
 private:
     void fillDialogs();

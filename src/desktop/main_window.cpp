@@ -1,8 +1,11 @@
 #include "desktop/main_window.h"
 
 #include "card/race_card.h"
+#include "day/changes.h"
 #include "desktop/analysis_panel.h"
 #include "desktop/board_panel.h"
+#include "desktop/cell_table_view.h"
+#include "desktop/changes_panel.h"
 #include "desktop/choice_dialog.h"
 #include "desktop/desktop_ports.h"
 #include "desktop/empty_panel.h"
@@ -21,7 +24,7 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDockWidget>
+#include <QKeyEvent>
 #include <QSettings>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -42,7 +45,9 @@ MainWindow::MainWindow(Appearance& appearance, QWidget* parent)
     connect(&runner_, &CommandRunner::aboutToRun, ports_, &DesktopPorts::commandBegins);
     connect(&runner_, &CommandRunner::ran, ports_, &DesktopPorts::commandEnded);
     connect(ports_, &DesktopPorts::aboutToTell, this, &MainWindow::refresh);
+    connect(ports_, &DesktopPorts::noted, this, &MainWindow::tell);
     connect(&runner_, &CommandRunner::ran, this, &MainWindow::tellSaved);
+    connect(&runner_, &CommandRunner::ran, this, &MainWindow::tellRecorded);
     connect(&runner_, &CommandRunner::ran, this, &MainWindow::refresh);
     connect(&runner_, &CommandRunner::ran, this, &MainWindow::takeUpEnd, Qt::QueuedConnection);
     resize(appearance_.pixels(theScreen.width), appearance_.pixels(theScreen.height));
@@ -106,6 +111,34 @@ void MainWindow::buildDocks() {
     dock->setWidget(raceList_);
     addDockWidget(Qt::LeftDockWidgetArea, dock);
     dock->hide();
+    buildChangesDock();
+}
+
+void MainWindow::buildChangesDock() {
+    changesDock_ = new QDockWidget{tr("Changes"), this};
+    changesDock_->setObjectName("ChangesDock");
+    changes_ = new ChangesPanel{runner_, appearance_, changesDock_};
+    changesDock_->setWidget(changes_);
+    addDockWidget(Qt::RightDockWidgetArea, changesDock_);
+    changesDock_->hide();
+    race_->findChild<CellTableView*>()->installEventFilter(this);
+}
+
+// Beside the race where there is room for both, else on its own.
+void MainWindow::showChanges(bool wanted) {
+    constexpr int roomForBoth = 22000; // twips
+    if (wanted) changesDock_->setFloating(width() < appearance_.pixels(roomForBoth));
+    changesDock_->setVisible(wanted);
+    if (wanted) changes_->setFocus();
+}
+
+// In a cell of the race view F2 edits it; everywhere else it is the list of changes.
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::ShortcutOverride) return QMainWindow::eventFilter(watched, event);
+    const auto* table = qobject_cast<CellTableView*>(watched);
+    const bool isEdit = static_cast<QKeyEvent*>(event)->key() == Qt::Key_F2;
+    if (isEdit && table && table->currentIndex().flags() & Qt::ItemIsEditable) event->accept();
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::connectPanels() {
@@ -113,17 +146,30 @@ void MainWindow::connectPanels() {
     connect(overview_, &OverviewPanel::raceOpened, this, putOverviewAway);
     connect(raceList_, &RaceListPanel::raceOpened, this, putOverviewAway);
     connect(board_, &BoardPanel::typingDropped, this, [this](int race) {
-        constexpr int longEnoughToRead = 20000; // milliseconds
-        statusBar()->showMessage(
-            tr("What was typed for race %1 was not kept: leave a race with the arrows to keep it").arg(race),
-            longEnoughToRead);
+        tell(
+            tr("What was typed for race %1 was not kept: leave a race with the arrows to keep it").arg(race));
     });
 }
 
 void MainWindow::buildMenus() {
     menus_ = new Menus{*menuBar(), runner_, this};
+    buildEditMenu();
     buildViewMenu();
     buildHelpMenu();
+}
+
+void MainWindow::buildEditMenu() {
+    QMenu* edit = menus_->menu(Menu::edit);
+    edit->addSeparator();
+    const auto add = [&](const QString& text, const QKeySequence& keys, const QString& hint, auto&& slot) {
+        QAction* action = edit->addAction(text);
+        action->setShortcut(keys);
+        action->setStatusTip(hint);
+        connect(action, &QAction::triggered, this, slot);
+    };
+    add(tr("&Find..."), QKeySequence::Find, tr("Find a text in the table"), [this] { find_->open(); });
+    add(tr("Find &Next"), QKeySequence{"Ctrl+G"}, tr("Find the text once more"),
+        [this] { find_->findNext(); });
 }
 
 void MainWindow::buildViewMenu() {
@@ -147,10 +193,12 @@ void MainWindow::buildViewMenu() {
     list->setShortcut(QKeySequence{"F3"});
     list->setStatusTip(tr("The list of the card's races; a double click opens one"));
     view->addAction(list);
-    view->addSeparator();
-    add(tr("&Find..."), {QKeySequence::Find}, tr("Find a text in the table"), [this] { find_->open(); });
-    add(tr("Find &Next"), {QKeySequence{"Ctrl+G"}}, tr("Find the text once more"),
-        [this] { find_->findNext(); });
+    QAction* changesAction = add(tr("Chan&ges"), {QKeySequence{"F2"}},
+                                 tr("What was changed on the card, and the program's selections beside mine"),
+                                 [this](bool wanted) { showChanges(wanted); });
+    changesAction->setObjectName("Changes");
+    changesAction->setCheckable(true);
+    connect(changesDock_, &QDockWidget::visibilityChanged, changesAction, &QAction::setChecked);
     view->addSeparator();
     add(tr("Zoom &In"), {QKeySequence{"Ctrl++"}, QKeySequence{"Ctrl+="}}, tr("Larger"),
         [this] { appearance_.zoomBy(1); });
@@ -234,6 +282,7 @@ void MainWindow::refresh() {
     overview_->refresh();
     empty_->refresh();
     raceList_->refresh();
+    changes_->refresh();
     stars_->refresh();
     choices_->refresh();
     overviewAction_->setEnabled(cardIsOpen());
@@ -246,6 +295,18 @@ void MainWindow::tellSaved(CommandId id) {
     constexpr int aGlance = 8000; // milliseconds
     if (id != CommandId::Save || !cardIsOpen() || ports_->errorShown()) return;
     statusBar()->showMessage(tr("The card is saved as %1").arg(shown(card.cardFileName)), aGlance);
+}
+
+void MainWindow::tell(const QString& text) {
+    constexpr int longEnoughToRead = 20000; // milliseconds
+    statusBar()->showMessage(text, longEnoughToRead);
+}
+
+// A step back does not reach the archive.
+void MainWindow::tellRecorded(CommandId id) {
+    const bool isStep = id == CommandId::Undo || id == CommandId::Redo || id == CommandId::UndoTo;
+    if (isStep && changes.isRecorded())
+        tell(tr("The archive keeps its record of this card as it was recorded"));
 }
 
 void MainWindow::takeUpEnd() {

@@ -4,6 +4,7 @@
 #include "desktop/appearance.h"
 #include "desktop/command_runner.h"
 
+#include <QDockWidget>
 #include <QMainWindow>
 #include <QScrollArea>
 #include <QStackedWidget>
@@ -12,6 +13,7 @@ namespace quillon {
 
 class AnalysisPanel;
 class BoardPanel;
+class ChangesPanel;
 class ChoiceDialog;
 class DesktopPorts;
 class EmptyPanel;
@@ -45,10 +47,16 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void buildPages();
     void buildDocks();
+    void buildChangesDock();
+    void buildEditMenu();
+    void showChanges(bool wanted);
+    void tell(const QString& text);
+    void tellRecorded(CommandId id);
     void buildMenus();
     void connectPanels();
     void buildViewMenu();
@@ -73,6 +81,7 @@ private:
     OverviewPanel* overview_ = nullptr;
     EmptyPanel* empty_ = nullptr;
     RaceListPanel* raceList_ = nullptr;
+    ChangesPanel* changes_ = nullptr;
     StarsWindow* stars_ = nullptr;
     ChoiceDialog* choices_ = nullptr;
     FaultJournalDialog* journal_ = nullptr;
@@ -80,6 +89,7 @@ private:
     QStackedWidget* pages_ = nullptr;
     QScrollArea* racePage_ = nullptr;
     QAction* overviewAction_ = nullptr;
+    QDockWidget* changesDock_ = nullptr;
     bool overviewWanted_ = false;
     Text raceShown_; ///< at the last refresh
 };

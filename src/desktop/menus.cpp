@@ -1,5 +1,6 @@
 #include "desktop/menus.h"
 
+#include "desktop/change_texts.h"
 #include "desktop/command_texts.h"
 #include "desktop/shown_text.h"
 
@@ -12,9 +13,10 @@ namespace {
 struct MenuTitle { Menu menu; const char* title; };
 constexpr std::array menuTitles{
     MenuTitle{Menu::file,       "&File"},
+    MenuTitle{Menu::edit,       "&Edit"},
     MenuTitle{Menu::navigation, "&Navigation"},
     MenuTitle{Menu::tools,      "&Tools"},
-    MenuTitle{Menu::editor,     "&Editor"},
+    MenuTitle{Menu::editor,     "E&ditor"},
     MenuTitle{Menu::analysis,   "&Analysis"},
     MenuTitle{Menu::profiles,   "&Betting Profiles"},
     MenuTitle{Menu::help,       "&Help"},
@@ -75,6 +77,16 @@ void Menus::refresh() {
         action->setEnabled(CommandRunner::canRun(id));
         if (action->isCheckable()) action->setChecked(state.checked);
     }
+    nameChange(CommandId::Undo, changes.canUndo() ? &changes.last() : nullptr);
+    nameChange(CommandId::Redo, changes.canRedo() ? &changes.next() : nullptr);
+}
+
+// The hint of an item that works on one change says which.
+void Menus::nameChange(CommandId id, const Change* change) {
+    QString hint = tr(command(id).item.hint);
+    if (change) hint = captionOf(id) + ": " + wordsOf(*change);
+    action(id)->setToolTip(hint);
+    action(id)->setStatusTip(hint);
 }
 
 QAction* Menus::action(CommandId id) const {

@@ -1,6 +1,7 @@
 // The menus, made from the command table: what stands in an item is the table's, its state the screen's.
 #pragma once
 
+#include "day/changes.h"
 #include "desktop/command_runner.h"
 
 #include <QAction>
@@ -29,6 +30,7 @@ public:
 private:
     void addCommands(Menu menu);
     void addCommand(QMenu& menu, const Command& command);
+    void nameChange(CommandId id, const Change* change);
 
     CommandRunner& runner_;
     std::map<Menu, QMenu*> menus_;

@@ -108,6 +108,40 @@ public:
         EXPECT_FALSE(window->isVisible());
     }
 
+    // Changes, and the way back
+    void undo() {
+        startInWindow();
+        scratchFirst();
+        EXPECT_EQ("99.9", trimmed(card.entry(1, 1).rating));
+        pressKeys("Ctrl+Z");
+        EXPECT_NE("99.9", trimmed(card.entry(1, 1).rating));
+    }
+    void redo() {
+        undo();
+        pressKeys("Ctrl+Shift+Z");
+        EXPECT_EQ("99.9", trimmed(card.entry(1, 1).rating));
+        pressKeys("Ctrl+Z");
+        pressKeys("Ctrl+Y");
+        EXPECT_EQ("99.9", trimmed(card.entry(1, 1).rating));
+    }
+    void undoTo() {
+        startInWindow();
+        scratchFirst();
+        auto& list = child<QListWidget>(*window, "ChangeList");
+        list.setCurrentRow(list.count() - 1); // the card as it was opened
+        click(button("UndoTo"));
+        EXPECT_NE("99.9", trimmed(card.entry(1, 1).rating));
+    }
+    void takeAllIn() {
+        startInWindow();
+        pickInMenu("TakeAllIn");
+        EXPECT_EQ("RACE 1", label("race"));
+    }
+    void scratchFirst() {
+        answers = {"Yes"};
+        click(button("ScratchButton1"));
+    }
+
     // Walking the races
     void mainScreen() {
         startInWindow();
@@ -549,6 +583,10 @@ constexpr std::array drives{
     Drive{"PrintCondensedProgram", &EveryCommandTest::printProgram},
     Drive{"Exit_QL",               &EveryCommandTest::exitByKeys},
     Drive{"CloseWindow",           &EveryCommandTest::closeWindow},
+    Drive{"Undo",                  &EveryCommandTest::undo},
+    Drive{"Redo",                  &EveryCommandTest::redo},
+    Drive{"UndoTo",                &EveryCommandTest::undoTo},
+    Drive{"TakeAllIn",             &EveryCommandTest::takeAllIn},
     Drive{"MainScreen",            &EveryCommandTest::mainScreen},
     Drive{"RaceButton",            &EveryCommandTest::raceButton},
     Drive{"Next",                  &EveryCommandTest::next},
