@@ -63,7 +63,8 @@ void RacePanel::buildTable() {
     table_ = new CellTableView{appearance_, tr("Entries of the race"), this};
     table_->setObjectName("RaceView");
     table_->setProperty("command", nameOf(CommandId::Cell) + "," + nameOf(CommandId::DriverColumn));
-    table_->setStatusTip(tr("A double click or F2 edits a cell. A click on a driver lists the drivers. "
+    table_->setStatusTip(tr("A double click or F2 edits a cell from Class to F. A click on a driver lists the "
+                            "drivers. "
                             "Enter on a name shows the past lines."));
     table_->setFonts(headPoints, bodyPoints, true);
     table_->setViewLayout(raceLayout());

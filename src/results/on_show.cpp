@@ -33,7 +33,8 @@ Text horseIn(int race, int row) {
 }
 
 bool mayTypeCell(int race, int row, int column) {
-    return column != RaceColumn::driver && !horseIn(race, row).empty();
+    const bool isKept = column >= RaceColumn::classText && column <= RaceColumn::favourite;
+    return isKept && !horseIn(race, row).empty();
 }
 
 std::optional<DriverChange> driverChange() {

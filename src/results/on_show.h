@@ -18,7 +18,8 @@ int raceLinesOnShow();
 /// The name of the horse in a row of a race view; empty where the row only holds its place.
 Text horseIn(int race, int row);
 
-/// Whether a cell of a race view may be typed in. Drivers are picked from their list.
+/// Whether a cell of a race view may be typed in: one that a save takes back and no rating hangs on, from Class
+/// to F.
 bool mayTypeCell(int race, int row, int column);
 
 /// The entry that the driver list was opened for, as the race on show has it: a change goes to that race.

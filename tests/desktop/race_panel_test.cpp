@@ -205,6 +205,20 @@ TEST_F(RacePanelTest, ACellIsEditedInItsPlaceAndTheKeyboardStaysThere) {
     EXPECT_EQ(cell(2, 6), table().currentIndex());
 }
 
+TEST_F(RacePanelTest, CellsThatWouldComeBackAsTheyWereAreNotTypedIn) {
+    startSampleCard();
+    for (const int column : {RaceColumn::horseName, RaceColumn::morningOdds, RaceColumn::programNumber,
+                             RaceColumn::post, RaceColumn::track, RaceColumn::purse, RaceColumn::driver,
+                             RaceColumn::udr, RaceColumn::rating}) {
+        EXPECT_FALSE(cell(2, column).flags() & Qt::ItemIsEditable) << column;
+        table().setCurrentIndex(cell(2, column));
+        QTest::keyClick(&table(), Qt::Key_F2);
+        EXPECT_FALSE(table().indexWidget(cell(2, column))) << column;
+    }
+    EXPECT_TRUE(cell(2, RaceColumn::classText).flags() & Qt::ItemIsEditable);
+    EXPECT_TRUE(cell(2, RaceColumn::favourite).flags() & Qt::ItemIsEditable);
+}
+
 TEST_F(RacePanelTest, ADoubleClickEditsAndEscapeLeavesTheCellAsItWas) {
     startSampleCard();
     const Text before = screen.raceView[1].text(1, 7);
