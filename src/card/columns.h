@@ -10,11 +10,13 @@ namespace quillon {
 
 enum class Align { left, right, centre };
 
-/// A column of a view: its head, its width in twips (0 hides it), and where its texts stand.
+/// A column of a view: its head, its width in twips (0 hides it), where its texts stand, and what they are in
+/// plain words.
 struct ViewColumn {
     TextView head{};
     int width = 0;
     Align align = Align::left;
+    TextView hint{};
 };
 
 /// Columns of a race's data view (a row a past line), and of the card's kept line cells.

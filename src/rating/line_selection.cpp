@@ -208,6 +208,8 @@ Text tableCell(int row, int field) {
     return value;
 }
 
+Text loadedCell(int row, int column, int field) { return shownInRaceView(column, tableCell(row, field)); }
+
 void writeRow(int race, int index, const std::vector<ShownField>& fields) {
     Grid& view = raceViewOf(race);
     RaceEntry& entry = card.entry[{race, index}];
@@ -217,7 +219,7 @@ void writeRow(int race, int index, const std::vector<ShownField>& fields) {
     view(index, RaceColumn::post).text = std::to_string(index);
     for (const auto& [column, number] : fields)
         attempt([&, column = column, number = number] {
-            view(index, column).text = shownInRaceView(column, tableCell(entry.chosenLineNumber, number));
+            view(index, column).text = loadedCell(entry.chosenLineNumber, column, number);
         });
     entry.chosenDriver = entry.driverName;
     view(index, RaceColumn::driver).text = entry.driverName;
@@ -237,6 +239,15 @@ void selectLine(const std::vector<ShownField>& fields) {
 }
 
 } // namespace
+
+std::vector<LoadedCell> loadedCells(int line) {
+    std::vector<LoadedCell> cells;
+    for (const auto& [column, number] : shownFields())
+        attempt([&, column = column, number = number] {
+            cells.push_back({column, loadedCell(line, column, number)});
+        });
+    return cells;
+}
 
 void SelectLines() {
     const Step step{"SelectLines"};

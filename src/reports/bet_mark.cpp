@@ -1,5 +1,7 @@
 #include "reports/bet_mark.h"
 
+#include "card/race_card.h"
+#include "core/formats.h"
 #include "core/numbers.h"
 #include "reports/ranked_row.h"
 
@@ -49,6 +51,13 @@ TextView betMark(double margin) {
     return std::find_if(betMarks.begin(), betMarks.end(),
                         [&](const BetMark& row) { return margin < row.below; })
         ->text;
+}
+
+ShownMargin shownMargin(int race) {
+    if (race < 1 || race >= raceExtent || trimmed(rankedRow(race, 1).pr).empty()) return {};
+    const Text text = marginOf(race);
+    const double points = lenientNumber(text);
+    return {points, formatted("#0.0", text), Text{trimmed(betMark(points))}};
 }
 
 } // namespace quillon

@@ -18,4 +18,12 @@ Text marginOf(int race);
 /// The mark of a margin, filled with blanks to nine characters.
 TextView betMark(double margin);
 
+/// S1's margin as it is printed beside the bet mark; both empty where a race has no rated S1.
+struct ShownMargin {
+    double points = 0;
+    Text margin{};
+    Text mark{};
+};
+ShownMargin shownMargin(int race);
+
 } // namespace quillon

@@ -1,7 +1,6 @@
 #include "reports/card_overview.h"
 
 #include "card/race_card.h"
-#include "core/formats.h"
 #include "reports/bet_mark.h"
 #include "reports/ranked_row.h"
 
@@ -12,22 +11,23 @@
 namespace quillon {
 namespace {
 
+constexpr auto left = Align::left;
 constexpr auto right = Align::right;
 
 // clang-format off
 constexpr std::array columns{
-    ViewColumn{"Race",       600},
-    ViewColumn{"Post Time",  960},
-    ViewColumn{"Gait",       600},
-    ViewColumn{"Dis",        540, right},
-    ViewColumn{"CR",         480, right},
-    ViewColumn{"Purse",      840, right},
-    ViewColumn{"S1",        2400},
-    ViewColumn{"S2",        2400},
-    ViewColumn{"S3",        2400},
-    ViewColumn{"S4",        2400},
-    ViewColumn{"Margin",     700, right},
-    ViewColumn{"Bet",       1050},
+    ViewColumn{"Race",       600,         left,  "The race, by its number or letter"},
+    ViewColumn{"Post Time",  960,         left,  "When the race starts"},
+    ViewColumn{"Gait",       600,         left,  "Trot or pace"},
+    ViewColumn{"Dis",        540,         right, "The distance in miles"},
+    ViewColumn{"CR",         480,         right, "Today's class rating: what the class of the race is worth"},
+    ViewColumn{"Purse",      840,         right, "What the race pays in all, in dollars"},
+    ViewColumn{"S1",         2400,        left,  "The first selection: the lowest rating"},
+    ViewColumn{"S2",         2400,        left,  "The second selection"},
+    ViewColumn{"S3",         2400,        left,  "The third selection"},
+    ViewColumn{"S4",         2400,        left,  "The fourth selection"},
+    ViewColumn{"Margin",     700,         right, "How far the rating of S1 is below that of S2, in points"},
+    ViewColumn{"Bet",        1050,        left,  "The bet mark of the margin: $ to $$$$$ by whole points from 1, VDH below a point, DEAD HEAT for a tenth or less"},
 };
 // clang-format on
 static_assert(columns.size() == OverviewColumn::count);
@@ -57,15 +57,12 @@ void fillSelections(std::span<Cell> cells, int race) {
     for (int place = 1; place <= selections; ++place)
         cells[static_cast<std::size_t>(OverviewColumn::s1 + place - 1)].text =
             numberAndName(rankedRow(race, place));
-    if (trimmed(rankedRow(race, 1).pr).empty()) return;
-
+    const ShownMargin shown = shownMargin(race);
     Cell& margin = cells[OverviewColumn::margin];
     Cell& mark = cells[OverviewColumn::betMark];
-    const Text text = marginOf(race);
-    const double points = lenientNumber(text);
-    margin.text = formatted("#0.0", text);
-    mark.text = withoutBlanks(betMark(points));
-    margin.bold = mark.bold = points >= clearMargin;
+    margin.text = shown.margin;
+    mark.text = shown.mark;
+    margin.bold = mark.bold = shown.points >= clearMargin;
 }
 
 } // namespace

@@ -1,9 +1,12 @@
 #include "results/on_show.h"
 
 #include "card/columns.h"
+#include "card/line_fields.h"
 #include "card/race_card.h"
 #include "results/board.h"
 #include "screen/race_views.h"
+
+#include <algorithm>
 
 namespace quillon {
 namespace {
@@ -15,6 +18,11 @@ bool isShown(int race) { return hasView(race) && screen.raceViewVisible.at(stati
 bool isBelowHead(const Grid& view, int row) { return row >= Grid::firstRow && row < view.rows(); }
 
 Text plainText(const Grid& view, int row, int column) { return Text{trimmed(view.text(row, column))}; }
+
+// Their cells show the table's text as it stands, and no line has such a time.
+bool isTimeOfLeader(int column) {
+    return column >= RaceColumn::leaderQuarter && column <= RaceColumn::leaderFinish;
+}
 
 } // namespace
 
@@ -34,7 +42,15 @@ Text horseIn(int race, int row) {
 
 bool mayTypeCell(int race, int row, int column) {
     const bool isKept = column >= RaceColumn::classText && column <= RaceColumn::favourite;
-    return isKept && !horseIn(race, row).empty();
+    return isKept && !horseIn(race, row).empty() && !isFirstStart(race, row);
+}
+
+bool isFirstStart(int race, int row) {
+    if (horseIn(race, row).empty()) return false;
+    const Grid& view = raceViewOf(race);
+    return std::any_of(lineFields.begin(), lineFields.end(), [&](const LineField& field) {
+        return isTimeOfLeader(field.raceColumn) && trimmed(view.text(row, field.raceColumn)) == field.name;
+    });
 }
 
 std::optional<DriverChange> driverChange() {

@@ -19,8 +19,11 @@ int raceLinesOnShow();
 Text horseIn(int race, int row);
 
 /// Whether a cell of a race view may be typed in: one that a save takes back and no rating hangs on, from Class
-/// to F.
+/// to F, where the entry has a line.
 bool mayTypeCell(int race, int row, int column);
+
+/// Whether a row of a race view is that of an entry without a past line: its cells hold the fields' names.
+bool isFirstStart(int race, int row);
 
 /// The entry that the driver list was opened for, as the race on show has it: a change goes to that race.
 struct DriverChange {

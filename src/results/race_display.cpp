@@ -93,14 +93,14 @@ void fillPastPerformances(int race, int post) {
 constexpr std::array identifyingColumns{DataColumn::date, DataColumn::todaysRace, DataColumn::post,
                                         DataColumn::horse, DataColumn::lineNumber};
 
+} // namespace
+
 bool isKeptLine(const Grid& lines, int line, int keptLine) {
     if (keptLine < 1 || keptLine >= lineNumberExtent) return false;
     return std::all_of(identifyingColumns.begin(), identifyingColumns.end(), [&](int column) {
         return lines.text(line, column) == card.lineCells.read(keptLine, column);
     });
 }
-
-} // namespace
 
 void showRaceHeader(int race) {
     if (race < 1 || race >= raceExtent) return;

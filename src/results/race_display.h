@@ -5,6 +5,7 @@
 #pragma once
 
 #include "core/text.h"
+#include "screen/screen.h"
 
 namespace quillon {
 
@@ -58,6 +59,9 @@ struct LineInUse {
 
 /// A recalled card does not know which lines the program chose.
 LineInUse lineInUse();
+
+/// Whether a row of a race's past lines is the line of the card with this number.
+bool isKeptLine(const Grid& lines, int line, int keptLine);
 
 /// Closes the frame of past lines and takes the light off the entry's row.
 void ClosePastPerformances();

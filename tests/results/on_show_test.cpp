@@ -1,7 +1,9 @@
 #include "results/on_show.h"
 
 #include "card/columns.h"
+#include "reports/card_overview.h"
 #include "screen/race_views.h"
+#include "screen/view_layouts.h"
 #include "support/card_test.h"
 
 #include <gtest/gtest.h>
@@ -118,6 +120,20 @@ TEST_F(OnShowTest, LinesAreShadedWhereADateIs) {
     EXPECT_FALSE(hasShadedLines(lines)) << "the head counts for nothing";
     lines(2, DataColumn::date).background = olderCyan;
     EXPECT_TRUE(hasShadedLines(lines));
+}
+
+TEST(ViewHints, EveryHeadIsToldInPlainWords) {
+    const ViewLayout layouts[] = {raceLayout(),    raceLinesLayout(), summaryLayout(),
+                                  profileLayout(), tracksLayout(),    sizesLayout(),
+                                  picksLayout(),   starsLayout(),     overviewLayout()};
+    int heads = 0;
+    for (const ViewLayout& layout : layouts)
+        for (const ViewColumn& column : layout.columns) {
+            if (column.width == 0 || column.head.empty()) continue;
+            ++heads;
+            EXPECT_GT(column.hint.size(), column.head.size()) << column.head;
+        }
+    EXPECT_GT(heads, 100);
 }
 
 } // namespace

@@ -1,0 +1,23 @@
+// Looking for a horse, a driver or a trainer in all races of the card.
+#pragma once
+
+#include "core/text.h"
+
+#include <vector>
+
+namespace quillon {
+
+struct CardPlace {
+    enum class Kind { horse, driver, trainer };
+    int race = 0;
+    int row = 0; ///< of the race view
+    Kind kind = Kind::horse;
+    Text text{}; ///< the name that holds what was looked for
+    bool operator==(const CardPlace&) const = default;
+};
+
+/// Where names hold this text, whatever its case: race by race, row by row, in each the horse before its driver
+/// and its trainer. None for a text of blanks.
+std::vector<CardPlace> placesInCard(TextView text);
+
+} // namespace quillon
