@@ -130,7 +130,10 @@ void DesktopPorts::fillDialogs() {
 
 void DesktopPorts::fillOutside() {
     ports.view = [this](const FilePlace& file) { view(file); };
-    ports.browse = [](const Text& address) { openAddress(address); };
+    ports.browse = [this](const Text& address) {
+        if (!openAddress(address))
+            emit couldNot(tr("No browser opened the page: %1").arg(shown(address).simplified()));
+    };
     ports.run = [](const Text& program) { startProgram(program); };
     ports.hide = [](const FilePlace& file) { hideFile(file); };
 }
@@ -183,10 +186,16 @@ void DesktopPorts::openPreview() {
     auto* preview = new PrintPreview{std::exchange(printed_, {}), &window_};
     preview->setAttribute(Qt::WA_DeleteOnClose);
     preview->show();
+    preview_ = preview;
 }
 
 void DesktopPorts::commandEnded() {
     progress_.end();
+    if (preview_) {
+        preview_->raise(); // the command's last message brought the window below it to the front
+        preview_->activateWindow();
+    }
+    preview_.clear();
     printed_ = {}; // of a command that failed halfway
 }
 

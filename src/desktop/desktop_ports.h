@@ -63,6 +63,7 @@ public:
 signals:
     void aboutToTell();              ///< what a message speaks of should be in sight behind it
     void noted(const QString& text); ///< a word that asks for nothing
+    void couldNot(const QString& what); ///< a sentence for the user; the command goes on
 
 private:
     void fillDialogs();
@@ -76,7 +77,8 @@ private:
     QWidget& window_;
     Appearance& appearance_;
     std::vector<QPointer<TextViewer>> viewers_;
-    PrintDocument printed_; ///< what the running command has printed so far
+    QPointer<PrintPreview> preview_; ///< that the running command has opened
+    PrintDocument printed_;          ///< what the running command has printed so far
     WorkProgress progress_;
     bool builtInViewer_ = true;
     bool ended_ = false;

@@ -81,14 +81,18 @@ bool showInDesktopEditor(const FilePlace& file) {
 #endif
 }
 
-void openAddress(TextView address) {
+bool openAddress(TextView address) {
     QString text = shown(address).trimmed();
     if (text.startsWith("www.", Qt::CaseInsensitive)) text.prepend("https://");
     const QUrl url{text, QUrl::TolerantMode};
     const bool isPage = url.scheme() == "http" || url.scheme() == "https";
-    if (!url.isValid() || !(isPage ? !url.host().isEmpty() : url.isLocalFile()))
-        return reportFault("\"" + Text{address.substr(0, 200)} + "\" is no address of a page");
-    if (!QDesktopServices::openUrl(url)) reportFault("no browser opened " + Text{address.substr(0, 200)});
+    if (!url.isValid() || !(isPage ? !url.host().isEmpty() : url.isLocalFile())) {
+        reportFault("\"" + Text{address.substr(0, 200)} + "\" is no address of a page");
+        return false;
+    }
+    const bool opened = QDesktopServices::openUrl(url);
+    if (!opened) reportFault("no browser opened " + Text{address.substr(0, 200)});
+    return opened;
 }
 
 void startProgram(const Text& program) {

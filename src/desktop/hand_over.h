@@ -20,8 +20,9 @@ QString findDesktopEditor();
 /// where there is none; then nothing was started. Takes up to a second the first time.
 bool showInDesktopEditor(const FilePlace& file);
 
-/// Opens an address in the user's browser. Only pages and files are opened; "www." alone is an https page.
-void openAddress(TextView address);
+/// Opens an address in the user's browser. Only pages and files are opened; "www." alone is an https page. False where
+/// nothing opened it.
+bool openAddress(TextView address);
 
 /// Starts a program of the working folder.
 void startProgram(const Text& program);

@@ -4,12 +4,17 @@
 
 #include <QActionGroup>
 #include <QFileDialog>
+#include <QGraphicsItem>
+#include <QGraphicsView>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrintPreviewWidget>
+#include <QPrinterInfo>
+#include <QScrollBar>
 #include <QStandardPaths>
+#include <QStatusBar>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -93,6 +98,34 @@ void paintFoot(QPainter& painter, const PageLayout& layout, const QRectF& page, 
     painter.drawText(foot, Qt::AlignRight | Qt::TextSingleLine, place);
 }
 
+using Lines = std::vector<PrintedLine>;
+
+// What belongs together, such as an entry with its lines, begins after a plain line with a bold or an empty one.
+Lines::const_iterator endOfBlock(Lines::const_iterator line, Lines::const_iterator end) {
+    const auto begins = [](const PrintedLine& next) {
+        return next.emphasised || next.text.trimmed().isEmpty();
+    };
+    bool anyPlain = !begins(*line);
+    for (++line; line != end; ++line) {
+        if (anyPlain && begins(*line)) return line;
+        anyPlain = anyPlain || !begins(*line);
+    }
+    return end;
+}
+
+// Lines that are too long go on in the next row.
+Lines brokenLines(Lines::const_iterator line, Lines::const_iterator end, int columns) {
+    Lines rows;
+    for (; line != end; ++line) {
+        qsizetype at = 0;
+        do {
+            rows.push_back({line->text.mid(at, columns), line->emphasised});
+            at += columns;
+        } while (at < line->text.size());
+    }
+    return rows;
+}
+
 } // namespace
 
 void PrintDocument::addLine(const QString& text, bool emphasised) {
@@ -114,16 +147,24 @@ std::vector<std::vector<PrintedLine>> pagesOf(const PrintDocument& document, int
     for (const auto& section : document.sections) {
         if (isEmpty(section)) continue;
         pages.emplace_back();
-        for (const PrintedLine& line : section) {
-            qsizetype at = 0;
-            do {
+        for (auto line = section.begin(); line != section.end();) {
+            const auto end = endOfBlock(line, section.end());
+            const std::vector<PrintedLine> block = brokenLines(line, end, columns);
+            const bool keptTogether = 2 * block.size() <= fullPage;
+            if (keptTogether && pages.back().size() + block.size() > fullPage) pages.emplace_back();
+            for (const PrintedLine& row : block) {
                 if (pages.back().size() == fullPage) pages.emplace_back();
-                pages.back().push_back({line.text.mid(at, columns), line.emphasised});
-                at += columns;
-            } while (at < line.text.size());
+                pages.back().push_back(row);
+            }
+            line = end;
         }
     }
     return pages;
+}
+
+int pageCount(const QPrinter& printer, const PrintDocument& document) {
+    const PageLayout layout = layoutOf(document, printer);
+    return static_cast<int>(pagesOf(document, layout.columns, layout.rows).size());
 }
 
 bool print(QPrinter& printer, const PrintDocument& document) {
@@ -149,7 +190,7 @@ PrintPreview::PrintPreview(PrintDocument document, QWidget* parent)
     setWindowTitle(tr("Print - %1").arg(document_.name));
     printer_.setDocName(document_.name);
     printer_.setCreator("Quillon");
-    printer_.setPageOrientation(wantsLandscape(document_) ? QPageLayout::Landscape : QPageLayout::Portrait);
+    chooseOrientation();
     preview_ = new QPrintPreviewWidget{&printer_, this};
     preview_->setAccessibleName(tr("Pages as they will be printed"));
     connect(preview_, &QPrintPreviewWidget::paintRequested, this,
@@ -161,7 +202,36 @@ PrintPreview::PrintPreview(PrintDocument document, QWidget* parent)
     column->addWidget(preview_, 1);
     preview_->fitToWidth();
     preview_->updatePreview();
+    if (const auto* view = preview_->findChild<QGraphicsView*>())
+        connect(view->verticalScrollBar(), &QScrollBar::valueChanged, this, &PrintPreview::showPlace);
+    status_ = new QStatusBar{this};
+    column->addWidget(status_);
     resize(900, 700);
+}
+
+// Long lines lie across the page, unless upright pages with smaller letters save half of the paper.
+void PrintPreview::chooseOrientation() {
+    const auto pagesAs = [this](QPageLayout::Orientation orientation) {
+        printer_.setPageOrientation(orientation);
+        return quillon::pageCount(printer_, document_);
+    };
+    const int upright = pagesAs(QPageLayout::Portrait);
+    if (!wantsLandscape(document_)) return;
+    const int across = pagesAs(QPageLayout::Landscape);
+    if (2 * upright <= across) printer_.setPageOrientation(QPageLayout::Portrait);
+}
+
+// The page in the middle of the view, which is scrolled past the ends of pages.
+int PrintPreview::pageOnShow() const {
+    const auto* view = preview_->findChild<QGraphicsView*>();
+    if (!view || !view->scene()) return preview_->currentPage();
+    std::vector<qreal> tops;
+    const auto items = view->scene()->items();
+    for (const QGraphicsItem* item : items)
+        if (!item->parentItem()) tops.push_back(item->sceneBoundingRect().top());
+    const qreal middle = view->mapToScene(view->viewport()->rect().center()).y();
+    const auto page = std::count_if(tops.begin(), tops.end(), [&](qreal top) { return top <= middle; });
+    return std::max(1, static_cast<int>(page));
 }
 
 void PrintPreview::buildBar() {
@@ -191,12 +261,12 @@ void PrintPreview::buildBar() {
     }
     bar->addSeparator();
     add("PreviousPage", tr("P&revious"), QKeySequence{"Ctrl+PgUp"}, tr("The page before"),
-        [this] { preview_->setCurrentPage(preview_->currentPage() - 1); });
+        [this] { preview_->setCurrentPage(pageOnShow() - 1); });
     place_ = new QLabel{bar};
     place_->setObjectName("PagePlace");
     bar->addWidget(place_);
     add("NextPage", tr("&Next"), QKeySequence{"Ctrl+PgDown"}, tr("The next page"),
-        [this] { preview_->setCurrentPage(preview_->currentPage() + 1); });
+        [this] { preview_->setCurrentPage(pageOnShow() + 1); });
     bar->addSeparator();
     add("ZoomIn", tr("Zoom &In"), QKeySequence{"Ctrl++"}, tr("Larger"), [this] { preview_->zoomIn(); });
     add("ZoomOut", tr("Zoom O&ut"), QKeySequence{"Ctrl+-"}, tr("Smaller"), [this] { preview_->zoomOut(); });
@@ -217,11 +287,15 @@ void PrintPreview::setLandscape(bool landscape) {
 }
 
 void PrintPreview::showPlace() {
-    place_->setText(tr(" Page %1 of %2 ").arg(preview_->currentPage()).arg(preview_->pageCount()));
+    place_->setText(tr(" Page %1 of %2 ").arg(pageOnShow()).arg(preview_->pageCount()));
     (isLandscape() ? landscape_ : portrait_)->setChecked(true);
 }
 
 void PrintPreview::askAndPrint() {
+    if (QPrinterInfo::availablePrinterNames().isEmpty()) {
+        status_->showMessage(tr("There is no printer here. Save the pages as a PDF file instead."));
+        return;
+    }
     QPrintDialog dialog{&printer_, this};
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange);
     dialog.setMinMax(1, std::max(1, pageCount()));

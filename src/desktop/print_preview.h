@@ -10,6 +10,7 @@
 class QAction;
 class QLabel;
 class QPrintPreviewWidget;
+class QStatusBar;
 
 namespace quillon {
 
@@ -34,8 +35,12 @@ int widestLine(const PrintDocument& document);
 bool wantsLandscape(const PrintDocument& document);
 
 /// The lines of each page, `rows` at most, a longer line than `columns` going on in the next row. Sections
-/// without a text make no page.
+/// without a text make no page. A bold or empty line and the plain ones after it stand on one page, where they
+/// are no more than half of one.
 std::vector<std::vector<PrintedLine>> pagesOf(const PrintDocument& document, int columns, int rows);
+
+/// Pages of the document on the printer's paper.
+int pageCount(const QPrinter& printer, const PrintDocument& document);
 
 /// Prints the document on the printer's paper: fixed pitch, as large as the widest line allows, at most 10
 /// points. False where the printer can't begin, or its file not be written.
@@ -55,6 +60,8 @@ public:
     bool savePdf(const QString& path);
 
 private:
+    void chooseOrientation();
+    int pageOnShow() const;
     void buildBar();
     void showPlace();
     void askAndPrint();
@@ -66,6 +73,7 @@ private:
     QAction* landscape_ = nullptr;
     QAction* portrait_ = nullptr;
     QLabel* place_ = nullptr;
+    QStatusBar* status_ = nullptr;
 };
 
 } // namespace quillon

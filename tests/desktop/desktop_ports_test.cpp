@@ -317,7 +317,8 @@ TEST_F(PortsOfTheWindowTest, TheCondensedProgramPrintsAPageARace) {
     ASSERT_EQ(1U, openWindows<PrintPreview>().size());
     PrintPreview& preview = *openWindows<PrintPreview>().front();
     EXPECT_GE(preview.pageCount(), static_cast<int>(card.raceCount));
-    EXPECT_TRUE(preview.isLandscape());
+    EXPECT_FALSE(preview.isLandscape()) << "upright pages are half as many";
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&preview)) << "it stands in front";
     EXPECT_TRUE(preview.windowTitle().contains(cardName())) << preview.windowTitle().toStdString();
 }
 

@@ -3,7 +3,12 @@
 #include "desktop/window_test.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QGraphicsView>
 #include <QLabel>
+#include <QPrinterInfo>
+#include <QScrollBar>
+#include <QStatusBar>
 
 namespace quillon {
 namespace {
@@ -63,6 +68,30 @@ TEST(PrintedPages, MoreThanAHundredCharactersLieAcrossThePage) {
     EXPECT_TRUE(wantsLandscape(documentOf(1, QString(101, 'x'))));
 }
 
+TEST(PrintedPages, AnEntryIsNotSplit) {
+    PrintDocument document;
+    for (const char* head : {"A", "B", "C"}) {
+        document.addLine(head, true);
+        document.addLine("line 1");
+        document.addLine("line 2");
+    }
+    // Three rows each on pages of eight: the third would begin on row 7.
+    const Page entry{{"C", true}, {"line 1"}, {"line 2"}};
+    const auto pages = pagesOf(document, 80, 8);
+    ASSERT_EQ(2U, pages.size());
+    EXPECT_EQ(6U, pages[0].size());
+    EXPECT_EQ(entry, pages[1]);
+}
+
+TEST(PrintedPages, AParagraphOfMoreThanHalfAPageIsSplitWhereThePageEnds) {
+    PrintDocument document;
+    document.addLine("head", true);
+    for (int line = 0; line < 9; ++line) document.addLine("line");
+    const auto pages = pagesOf(document, 80, 8);
+    ASSERT_EQ(2U, pages.size());
+    EXPECT_EQ(8U, pages[0].size());
+}
+
 struct PrintPreviewTest : WindowTest {};
 
 TEST_F(PrintPreviewTest, APdfHasAPageForEachSection) {
@@ -87,14 +116,53 @@ TEST_F(PrintPreviewTest, FullPagesBreak) {
 }
 
 TEST_F(PrintPreviewTest, LongLinesLieAcrossAndTheUserMayTurnThem) {
-    PrintPreview preview{documentOf(60, QString(129, '-') + "x")};
+    PrintPreview preview{documentOf(30, QString(129, '-') + "x")}; // a page either way
     preview.show();
     EXPECT_TRUE(preview.isLandscape());
     EXPECT_TRUE(child<QAction>(preview, "Landscape").isChecked());
     child<QAction>(preview, "Portrait").trigger();
     EXPECT_FALSE(preview.isLandscape());
-    EXPECT_EQ(1, preview.pageCount()); // smaller letters: 60 rows stand on an upright page
+    EXPECT_EQ(1, preview.pageCount());
     EXPECT_EQ(" Page 1 of 1 ", child<QLabel>(preview, "PagePlace").text());
+}
+
+// 60 rows of 10 points don't stand on a page of 595 points, but do on 842, in smaller letters.
+TEST_F(PrintPreviewTest, UprightPagesAreTakenWhereTheyAreHalfAsMany) {
+    const PrintPreview preview{documentOf(60, QString(129, '-') + "x")};
+    EXPECT_FALSE(preview.isLandscape());
+    EXPECT_EQ(1, preview.pageCount());
+}
+
+TEST_F(PrintPreviewTest, ThePageInTheMiddleOfTheViewIsToldWhileItIsScrolled) {
+    PrintDocument document = documentOf(1, "RACE 1");
+    for (int race = 2; race <= 5; ++race) {
+        document.beginPage();
+        document.addLine("RACE");
+    }
+    PrintPreview preview{document};
+    preview.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&preview));
+    QApplication::processEvents();
+    auto& place = child<QLabel>(preview, "PagePlace");
+    EXPECT_EQ(" Page 1 of 5 ", place.text());
+    auto* view = preview.findChild<QGraphicsView*>();
+    ASSERT_TRUE(view);
+    QScrollBar& bar = *view->verticalScrollBar();
+    ASSERT_GT(bar.maximum(), 0);
+    bar.setValue(bar.maximum());
+    EXPECT_EQ(" Page 5 of 5 ", place.text());
+    bar.setValue(bar.maximum() / 2); // five pages of the same size: the third is in the middle
+    EXPECT_EQ(" Page 3 of 5 ", place.text());
+    child<QAction>(preview, "NextPage").trigger();
+    EXPECT_EQ(" Page 4 of 5 ", place.text());
+}
+
+TEST_F(PrintPreviewTest, WithoutAPrinterASentenceSaysWhatToDo) {
+    if (!QPrinterInfo::availablePrinterNames().isEmpty()) GTEST_SKIP() << "there is a printer";
+    PrintPreview preview{documentOf(1, "x")};
+    preview.show();
+    child<QAction>(preview, "Print").trigger();
+    EXPECT_TRUE(preview.findChild<QStatusBar*>()->currentMessage().contains("no printer"));
 }
 
 TEST_F(PrintPreviewTest, AFileThatCantBeWrittenIsTold) {
