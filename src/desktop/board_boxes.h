@@ -15,6 +15,7 @@ struct BoardColumn {
         second,
         third,
         fourth,
+        standing, ///< S1's margin above the bet mark
         afterRunners,
         toteCaptions,
         firstPays,

@@ -3,6 +3,7 @@
 #include "desktop/board_boxes.h"
 #include "desktop/command_texts.h"
 #include "desktop/shown_text.h"
+#include "reports/bet_mark.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -51,6 +52,7 @@ BoardPanel::BoardPanel(CommandRunner& runner, Appearance& appearance, QWidget* p
     grid_->setHorizontalSpacing(5);
     grid_->setVerticalSpacing(2);
     buildRunners();
+    buildStanding();
     buildTote();
     buildWideBoxes();
     for (const int column : {BoardColumn::afterRunners, BoardColumn::afterPayoffs, BoardColumn::afterExotics})
@@ -106,6 +108,22 @@ void BoardPanel::buildRunners() {
         caption->setBuddy(boxes_[i]);
         grid_->addWidget(boxes_[i], place.row, place.column);
     }
+}
+
+void BoardPanel::buildStanding() {
+    addLabel(tr("Margin"), BoardRow::heads, BoardColumn::standing)
+        ->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+    margin_ = addLabel({}, BoardRow::win, BoardColumn::standing);
+    margin_->setObjectName("Margin");
+    margin_->setToolTip(tr("How far the rating of S1 is below that of S2, in points"));
+    addLabel(tr("Bet"), BoardRow::place, BoardColumn::standing)
+        ->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+    betMark_ = addLabel({}, BoardRow::show, BoardColumn::standing);
+    betMark_->setObjectName("BetMark");
+    betMark_->setToolTip(
+        tr("The bet mark of this margin: $ to $$$$$ by whole points from 1, VDH below a point, "
+           "DEAD HEAT for a tenth or less"));
+    for (QLabel* label : {margin_, betMark_}) label->setAlignment(Qt::AlignCenter);
 }
 
 void BoardPanel::buildTote() {
@@ -175,7 +193,8 @@ void BoardPanel::lay() {
     const QFont plain = appearance_.viewFont(10, false);
     const QFont bold = appearance_.viewFont(10, true);
     for (QLabel* caption : captions_) caption->setFont(plain);
-    heading_->setFont(bold);
+    for (QLabel* label : {heading_, margin_, betMark_}) label->setFont(bold);
+    betMark_->setMinimumWidth(QFontMetrics{bold}.horizontalAdvance("DEAD HEAT"));
     for (QLabel* label : finishLabels_) label->setFont(bold);
     for (const Entry& entry : entries_) entry.edit->setFont(plain);
     for (QLineEdit* box : boxes_) {
@@ -226,6 +245,13 @@ void BoardPanel::placeBoxTen() {
     box.setVisible(wanted > 0);
 }
 
+// Of the race as it is ranked, whatever was typed into the boxes.
+void BoardPanel::refreshStanding() {
+    const ShownMargin now = cardIsOpen() ? shownMargin(raceOnShow()) : ShownMargin{};
+    margin_->setText(shown(now.margin));
+    betMark_->setText(shown(now.mark));
+}
+
 void BoardPanel::tint() {
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         const Colour colour = theScreen.boxes[i].colour;
@@ -238,6 +264,7 @@ void BoardPanel::tint() {
 void BoardPanel::refresh() {
     for (std::size_t i = 0; i < boxes_.size(); ++i) put(*boxes_[i], theScreen.boxes[i].text);
     tint();
+    refreshStanding();
     heading_->setText(shown(theScreen.tote[ToteBox::heading]));
     for (std::size_t box = ToteBox::win; box < tote_.size(); ++box) put(*tote_[box], theScreen.tote[box]);
     for (std::size_t i = 0; i < finishLabels_.size(); ++i)

@@ -38,6 +38,7 @@ private:
     };
 
     void buildRunners();
+    void buildStanding();
     void buildTote();
     void buildPayoffHeads();
     void buildWideBoxes();
@@ -49,6 +50,7 @@ private:
     void handIn();
     void takeUp(CommandId id);
     void placeBoxTen();
+    void refreshStanding();
     void tint();
 
     CommandRunner& runner_;
@@ -60,6 +62,8 @@ private:
     std::array<QLineEdit*, 12> tote_{}; ///< boxes 1 to 11; 0 is the heading
     std::array<QLabel*, 4> finishLabels_{};
     std::array<Colour, 8> painted_; ///< tints of the boxes as they are drawn
+    QLabel* margin_ = nullptr;
+    QLabel* betMark_ = nullptr;
     QLabel* heading_ = nullptr;
     QLineEdit* refunds_ = nullptr;
     int boxTenColumn_ = 0; ///< where box 10 stands now; 0 nowhere

@@ -30,17 +30,11 @@ QVariant foreground(const Cell& cell) {
     return {};
 }
 
-QVariant boldFont() {
-    QFont bold;
-    bold.setBold(true);
-    return bold;
-}
-
 // A program number in the colours of its saddle cloth.
 bool isSaddleCloth(const Cell& cell) { return cell.bold && cell.background && cell.foreground; }
 
 // Size and the like are the view's.
-QVariant saddleClothFont() {
+QFont saddleClothFont() {
     QFont font;
     font.setFamilies({"Bookman Old Style", "URW Bookman", "Bookman", font.family()});
     font.setBold(true);
@@ -83,6 +77,21 @@ bool CellTableModel::isEmptyRow(int row) const {
     return true;
 }
 
+bool CellTableModel::setRowMarks(std::vector<RowMark> marks) {
+    if (marks == marks_) return false;
+    marks_ = std::move(marks);
+    if (rows_ == 0) return true;
+    emit dataChanged(index(0, 0), index(rows_ - 1, columnCount() - 1));
+    emit headerDataChanged(Qt::Vertical, 0, rows_ - 1);
+    return true;
+}
+
+const RowMark& CellTableModel::markOf(int tableRow) const {
+    static const RowMark none;
+    const auto at = static_cast<std::size_t>(tableRow);
+    return at < marks_.size() ? marks_[at] : none;
+}
+
 void CellTableModel::setEditing(std::function<bool(int, int)> mayEdit,
                                 std::function<void(int, int, const Text&)> edit) {
     mayEdit_ = std::move(mayEdit);
@@ -116,6 +125,9 @@ int CellTableModel::rowsOnShow() const {
 // The blanks that texts are padded with would keep digits from standing below digits, and a number from the
 // middle.
 QString CellTableModel::shownText(int row, int column) const {
+    const RowMark& mark = markOf(row);
+    const int afterNote = column - layout_.firstColumn - mark.noteFrom;
+    if (afterNote >= 0 && afterNote < mark.noteColumns) return afterNote == 0 ? mark.note : QString{};
     const Text text = grid_->text(row, column);
     return shown(alignOf(column) == Align::left ? TextView{text} : trimmed(text));
 }
@@ -140,17 +152,44 @@ QVariant CellTableModel::data(const QModelIndex& index, int role) const {
     case Qt::EditRole: return shown(grid_->text(row, column)); // as stored
     case Qt::BackgroundRole:
         return isShaded(cell()) ? QVariant{QBrush{shown(*cell().background)}} : QVariant{};
-    case Qt::ForegroundRole: return foreground(cell());
-    case Qt::FontRole:
-        if (isSaddleCloth(cell())) return saddleClothFont();
-        return isBold(row, cell()) ? boldFont() : QVariant{};
+    case Qt::ForegroundRole:
+        return markOf(row).isOut && !isShaded(cell())
+                   ? QVariant{QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text)}
+                   : foreground(cell());
+    case Qt::FontRole: return font(row, cell());
+    case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
+        return index.column() == 0 && !markOf(row).words.isEmpty() ? QVariant{markOf(row).words} : QVariant{};
     case Qt::TextAlignmentRole: return alignment(alignOf(column));
     default: return {};
     }
 }
 
+QVariant CellTableModel::font(int row, const Cell& cell) const {
+    const bool isCloth = isSaddleCloth(cell);
+    const bool isOut = markOf(row).isOut;
+    if (!isCloth && !isOut && !isBold(row, cell)) return {};
+    QFont face = isCloth ? saddleClothFont() : QFont{};
+    if (isBold(row, cell)) face.setBold(true);
+    if (isOut) face.setStrikeOut(true);
+    return face;
+}
+
+QVariant CellTableModel::signOfRow(int row, int role) const {
+    const RowMark& mark = markOf(tableRow(row));
+    switch (role) {
+    case Qt::DisplayRole: return mark.sign;
+    case Qt::ToolTipRole:
+    case Qt::AccessibleTextRole:
+    case Qt::AccessibleDescriptionRole: return mark.words.isEmpty() ? QVariant{} : QVariant{mark.words};
+    case Qt::TextAlignmentRole: return alignment(Align::left);
+    default: return {};
+    }
+}
+
 QVariant CellTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (!grid_ || orientation != Qt::Horizontal) return {};
+    if (!grid_) return {};
+    if (orientation == Qt::Vertical) return signOfRow(section, role);
     const int column = tableColumn(section);
     if (column >= grid_->columns() || grid_->rows() == 0) return {};
     const Cell& head = grid_->read(Grid::headRow, column);
@@ -161,6 +200,9 @@ QVariant CellTableModel::headerData(int section, Qt::Orientation orientation, in
     case Qt::ForegroundRole:
         return head.foreground ? QVariant{QBrush{readableHead(*head.foreground)}} : QVariant{};
     case Qt::TextAlignmentRole: return alignment(alignOf(column));
+    case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
+        return described && !described->hint.empty() ? QVariant{shown(described->hint)} : QVariant{};
     default: return {};
     }
 }

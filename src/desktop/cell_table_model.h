@@ -7,8 +7,20 @@
 #include <QAbstractTableModel>
 
 #include <functional>
+#include <vector>
 
 namespace quillon {
+
+/// What stands at a row besides its cells.
+struct RowMark {
+    QString sign{};     ///< at the row's start
+    QString words{};    ///< what the sign means
+    bool isOut = false; ///< the row counts no more: faint, and struck through
+    QString note{};     ///< in place of the texts of some columns of the view
+    int noteFrom = 0;
+    int noteColumns = 0;
+    bool operator==(const RowMark&) const = default;
+};
 
 class CellTableModel : public QAbstractTableModel {
     Q_OBJECT
@@ -34,6 +46,10 @@ public:
     int tableRow(const QModelIndex& index) const { return tableRow(index.row()); }
     int tableColumn(const QModelIndex& index) const { return tableColumn(index.column()); }
 
+    /// Marks of the table's rows, by their numbers. True where one is another than before.
+    bool setRowMarks(std::vector<RowMark> marks);
+    const std::vector<RowMark>& rowMarks() const { return marks_; }
+
     /// The width in twips that a column of the view is described with; 0 hides it.
     int widthOf(int column) const;
 
@@ -51,9 +67,13 @@ private:
     const ViewColumn* described(int tableColumn) const;
     Align alignOf(int tableColumn) const;
     QString shownText(int row, int column) const;
+    const RowMark& markOf(int tableRow) const;
+    QVariant signOfRow(int row, int role) const;
+    QVariant font(int row, const Cell& cell) const;
     bool isBold(int row, const Cell& cell) const { return cell.bold || layout_.boldRows.contains(row); }
 
     const Grid* grid_ = nullptr;
+    std::vector<RowMark> marks_;
     ViewLayout layout_{};
     std::uint64_t version_ = 0;
     int rows_ = 0;

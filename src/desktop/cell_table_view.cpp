@@ -99,6 +99,40 @@ void CellTableView::makeSortable() {
     sorted_.sort(unsorted);
 }
 
+void CellTableView::showRowMarks(const QString& longestSign) {
+    longestSign_ = longestSign;
+    setCornerButtonEnabled(false);
+    verticalHeader()->setSectionsClickable(false);
+    verticalHeader()->show();
+    lay();
+}
+
+void CellTableView::setRowMarks(std::vector<RowMark> marks) {
+    if (model_.setRowMarks(std::move(marks))) lay();
+}
+
+void CellTableView::layMarks() {
+    if (longestSign_.isEmpty()) return;
+    constexpr int besideSign = 10; // pixels
+    verticalHeader()->setFont(appearance_.viewFont(headPoints_, true));
+    verticalHeader()->setFixedWidth(QFontMetrics{verticalHeader()->font()}.horizontalAdvance(longestSign_) +
+                                    besideSign);
+}
+
+// A note goes over its columns as one text, and so makes none of them wider.
+void CellTableView::layNotes() {
+    const std::vector<RowMark>& marks = model_.rowMarks();
+    if (marks.empty()) return;
+    clearSpans();
+    for (int row = 0; row < model_.rowCount(); ++row) {
+        const auto at = static_cast<std::size_t>(model_.tableRow(model_.index(row, 0)));
+        if (at >= marks.size()) return;
+        const RowMark& mark = marks[at];
+        if (mark.noteColumns > 1 && mark.noteFrom + mark.noteColumns <= model_.columnCount())
+            setSpan(row, mark.noteFrom, 1, mark.noteColumns);
+    }
+}
+
 int CellTableView::tableRow(const QModelIndex& index) const {
     if (!index.isValid()) return -1;
     return model_.tableRow(index.model() == &sorted_ ? sorted_.mapToSource(index) : index);
@@ -120,12 +154,33 @@ void CellTableView::keepDragged(int column, int pixels) {
     dragged_[at] = pixels * twipsPerInch / inch;
 }
 
+QStringList CellTableView::draggedWidths() const {
+    QStringList widths;
+    bool any = false;
+    for (const auto& twips : dragged_) {
+        any = any || twips;
+        widths += QString::number(twips.value_or(0));
+    }
+    return any ? widths : QStringList{};
+}
+
+void CellTableView::setDraggedWidths(const QStringList& widths) {
+    constexpr int widest = 20000; // twips: wider than any screen, and a damaged setting must not go further
+    dragged_.assign(static_cast<std::size_t>(widths.size()), std::nullopt);
+    for (qsizetype at = 0; at < widths.size(); ++at)
+        if (const int twips = widths[at].toInt(); twips > 0)
+            dragged_[static_cast<std::size_t>(at)] = std::min(twips, widest);
+    lay();
+}
+
 void CellTableView::lay() {
     laying_ = true;
     setFont(appearance_.viewFont(bodyPoints_, bodyBold_));
     horizontalHeader()->setFont(appearance_.viewFont(headPoints_, true));
     verticalHeader()->setMinimumSectionSize(1);
     verticalHeader()->setDefaultSectionSize(rowPixels());
+    layMarks();
+    layNotes();
     layColumns();
     if (layout_.emptyRows == EmptyRows::hidden) hideEmptyRows();
     if (frozen_) frozen_->takeUp(rowPixels());
@@ -142,7 +197,7 @@ void CellTableView::hideEmptyRows() {
 
 void CellTableView::layColumns() {
     const std::vector<int> texts = textWidths(*this, layout_.roomForBold);
-    dragged_.resize(texts.size());
+    dragged_.resize(std::max(dragged_.size(), texts.size())); // a table that shows nothing has no columns
     std::vector<ColumnWidth> widths(texts.size());
     for (std::size_t at = 0; at < widths.size(); ++at) {
         const auto column = static_cast<int>(at);
@@ -207,8 +262,10 @@ void CellTableView::contextMenuEvent(QContextMenuEvent* event) {
     QMenu menu{this};
     QAction* copy = menu.addAction(tr("&Copy"), this, &CellTableView::copySelection);
     copy->setShortcut(QKeySequence::Copy);
-    copy->setEnabled(selectionModel() && selectionModel()->hasSelection());
+    copy->setEnabled(model()->rowCount() > 0);
     menu.addAction(tr("Select &All"), this, &QTableView::selectAll);
+    QAction* designed = menu.addAction(tr("Designed &Widths"), this, [this] { setDraggedWidths({}); });
+    designed->setEnabled(!draggedWidths().isEmpty());
     menu.exec(event->globalPos());
 }
 

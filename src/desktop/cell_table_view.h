@@ -38,8 +38,16 @@ public:
     /// fit, and keeps what the user drags it to. A click on a head sorts where the layout lets it.
     void setViewLayout(const ViewLayout& layout);
 
+    /// Shows marks at the start of the rows, in a column with room for this text whatever stands there.
+    void showRowMarks(const QString& longestSign);
+    void setRowMarks(std::vector<RowMark> marks);
+
     /// The table's row of a cell of the view, sorted or not; -1 of none.
     int tableRow(const QModelIndex& index) const;
+
+    /// The widths that the user dragged columns to, for another run; empty where he dragged none.
+    QStringList draggedWidths() const;
+    void setDraggedWidths(const QStringList& widths);
 
     /// Takes up what has changed in the table on show.
     void refresh();
@@ -48,7 +56,8 @@ public:
     /// Takes up the text of a cell that is still being typed in.
     void takeUpEdit();
 
-    /// The selected cells, a line a row, a tab between two cells. Whole rows, until about `mostCopied` cells.
+    /// The selected cells, all where none is selected, below their heads: a line a row, a tab between two
+    /// cells. Whole rows, until about `mostCopied` cells.
     QString selectionText() const;
     /// Puts them on the clipboard, and tells where they are not all.
     void copySelection();
@@ -71,6 +80,8 @@ private:
     void lay();
     void layColumns();
     void hideEmptyRows();
+    void layMarks();
+    void layNotes();
 
     Appearance& appearance_;
     CellTableModel model_;
@@ -81,6 +92,7 @@ private:
     int bodyPoints_ = 9;
     bool bodyBold_ = false;
     int rowTwips_ = 285;
+    QString longestSign_;                     ///< empty: no column of marks
     std::vector<std::optional<int>> dragged_; ///< in twips, by view column
     bool laying_ = false;
 };

@@ -62,7 +62,7 @@ std::vector<int> textWidths(const QTableView& view, bool asBold) {
         for (int column = 0; column < columns; ++column) {
             const QModelIndex index = cells.index(row, column);
             const QString text = index.data().toString();
-            if (text.isEmpty()) continue;
+            if (text.isEmpty() || view.columnSpan(row, column) > 1) continue;
             int& width = widths[static_cast<std::size_t>(column)];
             width = std::max(width, measure.width(text, fontOf(index, view, asBold)) + besideText);
         }

@@ -61,8 +61,8 @@ public:
     void commandEnded();
 
 signals:
-    void aboutToTell();              ///< what a message speaks of should be in sight behind it
-    void noted(const QString& text); ///< a word that asks for nothing
+    void aboutToTell();                 ///< what a message speaks of should be in sight behind it
+    void noted(const QString& text);    ///< a word that asks for nothing
     void couldNot(const QString& what); ///< a sentence for the user; the command goes on
 
 private:

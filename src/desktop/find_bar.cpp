@@ -109,6 +109,7 @@ void FindBar::open() {
 void FindBar::findNext(bool backwards) {
     if (field_->text().isEmpty()) return open();
     stop({}, false);
+    if (findWider(backwards)) return;
     QWidget* place = target();
     if (auto* table = qobject_cast<CellTableView*>(place)) {
         search_.emplace(*table, field_->text(), backwards, isNewText_);
@@ -119,6 +120,13 @@ void FindBar::findNext(bool backwards) {
     } else {
         stop(tr("nothing to search here"), true);
     }
+}
+
+bool FindBar::findWider(bool backwards) {
+    if (!wider_.isThere || !wider_.isThere()) return false;
+    const QString place = wider_.find(field_->text(), backwards);
+    if (!place.isEmpty()) words_->setText(place);
+    return !place.isEmpty();
 }
 
 void FindBar::lookOn() {

@@ -8,7 +8,9 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 class QLabel;
 class QLineEdit;
@@ -28,6 +30,13 @@ public:
     void open();
     void findNext(bool backwards = false);
 
+    /// Something wider to look through before the table on show, such as the whole card.
+    struct WiderSearch {
+        std::function<bool()> isThere;
+        std::function<QString(const QString& text, bool backwards)> find; ///< where it went; empty: nowhere
+    };
+    void searchFirst(WiderSearch wider) { wider_ = std::move(wider); }
+
     bool isSearching() const { return search_.has_value(); }
 
 protected:
@@ -41,9 +50,11 @@ private:
     void lookOn();
     void stop(const QString& words, bool isBad);
     void closeBar();
+    bool findWider(bool backwards);
 
     QLineEdit* field_ = nullptr;
     QLabel* words_ = nullptr;
+    WiderSearch wider_;
     QPointer<QWidget> last_; ///< the table or text that had the focus last
     std::optional<CellSearch> search_;
     bool isNewText_ = true; ///< not searched yet, so that the current cell counts too

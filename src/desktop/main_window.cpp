@@ -4,6 +4,7 @@
 #include "day/changes.h"
 #include "desktop/analysis_panel.h"
 #include "desktop/board_panel.h"
+#include "desktop/card_finder.h"
 #include "desktop/cell_table_view.h"
 #include "desktop/changes_panel.h"
 #include "desktop/choice_dialog.h"
@@ -11,12 +12,15 @@
 #include "desktop/empty_panel.h"
 #include "desktop/fault_journal_dialog.h"
 #include "desktop/find_bar.h"
+#include "desktop/guide_window.h"
 #include "desktop/header_panel.h"
+#include "desktop/keys_dialog.h"
 #include "desktop/menus.h"
 #include "desktop/overview_panel.h"
 #include "desktop/past_lines_panel.h"
 #include "desktop/race_bar.h"
 #include "desktop/race_list_panel.h"
+#include "desktop/race_page.h"
 #include "desktop/race_panel.h"
 #include "desktop/shown_text.h"
 #include "desktop/stars_window.h"
@@ -24,14 +28,31 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDockWidget>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <array>
 
 namespace quillon {
+namespace {
+
+// What the desktop puts round a window, as far as it can be told before the window is shown.
+QSize frameSizeOf(const QWidget& window) {
+    constexpr int border = 4; // pixels at each side
+    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
+    return {2 * border, title + 2 * border};
+}
+
+QString widthsOf(const CellTableView& table) { return "widths/" + table.objectName(); }
+
+} // namespace
+
+QSize firstSize(QSize designed, QSize room) { return designed.boundedTo(room); }
 
 MainWindow::MainWindow(Appearance& appearance, QWidget* parent)
     : QMainWindow{parent}, appearance_{appearance}, ports_{new DesktopPorts{*this, appearance}} {
@@ -40,17 +61,21 @@ MainWindow::MainWindow(Appearance& appearance, QWidget* parent)
     buildDocks();
     buildMenus();
     connectPanels();
+    connectFinder();
     stars_ = new StarsWindow{runner_, appearance_, this};
     choices_ = new ChoiceDialog{runner_, appearance_, this};
     connect(&runner_, &CommandRunner::aboutToRun, ports_, &DesktopPorts::commandBegins);
     connect(&runner_, &CommandRunner::ran, ports_, &DesktopPorts::commandEnded);
+    connect(ports_, &DesktopPorts::couldNot, this,
+            [this](const QString& what) { statusBar()->showMessage(what); });
     connect(ports_, &DesktopPorts::aboutToTell, this, &MainWindow::refresh);
     connect(ports_, &DesktopPorts::noted, this, &MainWindow::tell);
     connect(&runner_, &CommandRunner::ran, this, &MainWindow::tellSaved);
     connect(&runner_, &CommandRunner::ran, this, &MainWindow::tellRecorded);
     connect(&runner_, &CommandRunner::ran, this, &MainWindow::refresh);
     connect(&runner_, &CommandRunner::ran, this, &MainWindow::takeUpEnd, Qt::QueuedConnection);
-    resize(appearance_.pixels(theScreen.width), appearance_.pixels(theScreen.height));
+    resize(firstSize({appearance_.pixels(theScreen.width), appearance_.pixels(theScreen.height)},
+                     screen()->availableGeometry().size() - frameSizeOf(*this)));
     restoreLook();
     refresh();
 }
@@ -73,25 +98,12 @@ void MainWindow::buildPages() {
     column->addWidget(pages_, 1);
     column->addWidget(find_);
 
-    auto* racePage = new QWidget{pages_};
-    auto* race = new QVBoxLayout{racePage};
-    race->setContentsMargins(0, 0, 0, 0);
-    race->setSpacing(4);
-    header_ = new HeaderPanel{appearance_, racePage};
-    race_ = new RacePanel{runner_, appearance_, racePage};
-    board_ = new BoardPanel{runner_, appearance_, racePage};
-    pastLines_ = new PastLinesPanel{runner_, appearance_, racePage};
-    race->addWidget(header_);
-    race->addWidget(race_);
-    race->addWidget(board_);
-    race->addWidget(pastLines_, 1);
-    // On a small screen, or much enlarged, the page scrolls.
-    racePage_ = new QScrollArea{pages_};
-    racePage_->setObjectName("RacePage");
-    racePage_->setWidget(racePage);
-    racePage_->setWidgetResizable(true);
-    racePage_->setFrameShape(QFrame::NoFrame);
-    racePage_->setFocusPolicy(Qt::NoFocus);
+    racePage_ = new RacePage{appearance_, pages_};
+    header_ = new HeaderPanel{appearance_, racePage_->inside()};
+    race_ = new RacePanel{runner_, appearance_, racePage_->inside()};
+    board_ = new BoardPanel{runner_, appearance_, racePage_->inside()};
+    pastLines_ = new PastLinesPanel{runner_, appearance_, racePage_->inside()};
+    racePage_->arrange({header_, race_, board_, pastLines_});
 
     analysis_ = new AnalysisPanel{runner_, appearance_, pages_};
     overview_ = new OverviewPanel{runner_, appearance_, pages_};
@@ -149,6 +161,19 @@ void MainWindow::connectPanels() {
         tell(
             tr("What was typed for race %1 was not kept: leave a race with the arrows to keep it").arg(race));
     });
+}
+
+// The card is looked through from its race and from its overview; the analysis has tables of its own.
+void MainWindow::connectFinder() {
+    finder_ = new CardFinder{runner_, this};
+    connect(finder_, &CardFinder::reached, this, [this](int row, int column) {
+        showOverview(false);
+        race_->goTo(row, column);
+        racePage_->ensureWidgetVisible(race_);
+    });
+    find_->searchFirst(
+        {[this] { return pages_->currentWidget() == racePage_ || pages_->currentWidget() == overview_; },
+         [this](const QString& text, bool backwards) { return finder_->find(text, backwards); }});
 }
 
 void MainWindow::buildMenus() {
@@ -237,6 +262,18 @@ void MainWindow::buildViewMenu() {
 
 void MainWindow::buildHelpMenu() {
     QMenu* help = menus_->menu(Menu::help);
+    QAction* guide = help->addAction(tr("User's &Guide"), this, &MainWindow::openGuide);
+    guide->setObjectName("UsersGuide");
+    guide->setShortcut(QKeySequence{Qt::Key_F1});
+    guide->setStatusTip(tr("The guide, open at what is on show"));
+    QAction* keys = help->addAction(tr("&Keys..."), this, [this] {
+        auto* dialog = new KeysDialog{*menuBar(), this};
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        dialog->show();
+    });
+    keys->setObjectName("KeysOfTheWindow");
+    keys->setStatusTip(tr("All keys, and what they do"));
+    help->insertActions(help->actions().front(), {guide, keys});
     help->addSeparator();
     QAction* journal = help->addAction(tr("&Fault Journal..."));
     journal->setObjectName("FaultJournal");
@@ -248,6 +285,25 @@ void MainWindow::buildHelpMenu() {
         journal_->raise();
         journal_->activateWindow();
     });
+}
+
+// By the headings of the guide, which a test looks up.
+QString MainWindow::guidesPlace() const {
+    if (theScreen.summaryVisible) return "What the card earned";
+    if (theScreen.profileVisible) return "Betting profiles";
+    if (theScreen.tracksVisible || theScreen.picksVisible) return "Tracks and picks";
+    if (!cardIsOpen()) return "Start Quillon";
+    if (board_->isAncestorOf(QApplication::focusWidget())) return "Record the results";
+    if (theScreen.pastPerformanceOpen && !overviewWanted_) return "Past lines, and taking another one";
+    return "Read the races";
+}
+
+void MainWindow::openGuide() {
+    if (!guide_) guide_ = new GuideWindow{appearance_, this};
+    guide_->openAt(guidesPlace());
+    guide_->show();
+    guide_->raise();
+    guide_->activateWindow();
 }
 
 QWidget* MainWindow::pageWanted() const {
@@ -328,12 +384,23 @@ void MainWindow::restoreLook() {
     appearance_.setZoom(settings.value("zoom", appearance_.zoom()).toInt());
     restoreGeometry(settings.value("geometry").toByteArray());
     restoreState(settings.value("state").toByteArray());
+    const auto tables = findChildren<CellTableView*>();
+    for (CellTableView* table : tables)
+        table->setDraggedWidths(settings.value(widthsOf(*table)).toStringList());
 }
 
 void MainWindow::keepLook() const {
     QSettings settings;
     settings.setValue("geometry", saveGeometry());
     settings.setValue("state", saveState());
+    const auto tables = findChildren<CellTableView*>();
+    for (const CellTableView* table : tables) {
+        const QStringList widths = table->draggedWidths();
+        if (widths.isEmpty())
+            settings.remove(widthsOf(*table));
+        else
+            settings.setValue(widthsOf(*table), widths);
+    }
     settings.setValue("zoom", appearance_.zoom());
     settings.setValue("theme", static_cast<int>(appearance_.theme()));
 }

@@ -6,7 +6,6 @@
 
 #include <QDockWidget>
 #include <QMainWindow>
-#include <QScrollArea>
 #include <QStackedWidget>
 
 namespace quillon {
@@ -14,19 +13,25 @@ namespace quillon {
 class AnalysisPanel;
 class BoardPanel;
 class ChangesPanel;
+class CardFinder;
 class ChoiceDialog;
 class DesktopPorts;
 class EmptyPanel;
 class FaultJournalDialog;
 class FindBar;
+class GuideWindow;
 class HeaderPanel;
 class Menus;
 class OverviewPanel;
 class PastLinesPanel;
 class RaceBar;
 class RaceListPanel;
+class RacePage;
 class RacePanel;
 class StarsWindow;
+
+/// The window's size at its first start: as designed, or as much as there is room for.
+QSize firstSize(QSize designed, QSize room);
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -59,8 +64,11 @@ private:
     void tellRecorded(CommandId id);
     void buildMenus();
     void connectPanels();
+    void connectFinder();
     void buildViewMenu();
     void buildHelpMenu();
+    void openGuide();
+    QString guidesPlace() const;
     void restoreLook();
     void keepLook() const;
     void takeUpEnd();
@@ -85,9 +93,11 @@ private:
     StarsWindow* stars_ = nullptr;
     ChoiceDialog* choices_ = nullptr;
     FaultJournalDialog* journal_ = nullptr;
+    GuideWindow* guide_ = nullptr;
     FindBar* find_ = nullptr;
+    CardFinder* finder_ = nullptr;
     QStackedWidget* pages_ = nullptr;
-    QScrollArea* racePage_ = nullptr;
+    RacePage* racePage_ = nullptr;
     QAction* overviewAction_ = nullptr;
     QDockWidget* changesDock_ = nullptr;
     bool overviewWanted_ = false;

@@ -20,6 +20,7 @@ namespace quillon {
 namespace {
 
 constexpr int rowTwips = 360;
+constexpr QChar changedSign{0x2022}; // a dot
 
 bool same(const Grid& left, const Grid& right) {
     if (left.rows() != right.rows() || left.columns() != right.columns()) return false;
@@ -68,6 +69,7 @@ OverviewPanel::OverviewPanel(CommandRunner& runner, Appearance& appearance, QWid
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
     table_->setAlternatingRowColors(true);
     table_->setViewLayout(overviewLayout());
+    table_->showRowMarks(changedSign);
     table_->viewport()->setCursor(Qt::PointingHandCursor);
     table_->installEventFilter(this);
     connect(table_, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) {
@@ -88,11 +90,23 @@ void OverviewPanel::lay() {
 }
 
 void OverviewPanel::refresh() {
+    refreshMarks();
     Grid races = cardOverview();
     heading_->setText(headingOf(races.rows() - 1));
     if (same(races, races_)) return;
     races_ = std::move(races);
     table_->show(&races_);
+}
+
+void OverviewPanel::refreshMarks() {
+    std::vector<RowMark> marks(1); // the head's
+    for (int race = 1; race <= ratedRaces; ++race) {
+        RowMark& mark = marks.emplace_back();
+        if (!cardIsOpen() || !changed_.isChanged(race)) continue;
+        mark.sign = changedSign;
+        mark.words = tr("You changed this race");
+    }
+    table_->setRowMarks(std::move(marks));
 }
 
 void OverviewPanel::open(const QModelIndex& index) {

@@ -4,6 +4,7 @@
 #include "desktop/appearance.h"
 #include "desktop/cell_table_view.h"
 #include "desktop/command_runner.h"
+#include "desktop/mark_texts.h"
 #include "screen/screen.h"
 
 #include <QLabel>
@@ -32,9 +33,11 @@ private:
     void open(const QModelIndex& index);
     void goToRaceOnShow();
     void lay();
+    void refreshMarks();
 
     CommandRunner& runner_;
     Appearance& appearance_;
+    ChangedRaces changed_;
     Grid races_;
     QLabel* heading_;
     QLabel* hint_;

@@ -5,6 +5,8 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QPainter>
+#include <QPixmap>
 
 #include <algorithm>
 
@@ -18,6 +20,22 @@ const char* const currentStyle =
     "QPushButton { background-color: #ff0000; color: white; border: 1px solid #900000; border-radius: 3px;"
     " padding: 3px; }"
     "QPushButton:focus { border: 2px solid black; }";
+
+// Of a race that the user changed.
+constexpr int dotPixels = 6;
+constexpr int besideDot = 6; ///< pixels that a style leaves between it and the caption
+
+QIcon dot(const QColor& colour) {
+    constexpr int finer = 4; // for screens with small pixels
+    QPixmap picture{dotPixels * finer, dotPixels * finer};
+    picture.fill(Qt::transparent);
+    QPainter painter{&picture};
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawEllipse(picture.rect());
+    return QIcon{picture};
+}
 
 } // namespace
 
@@ -62,8 +80,8 @@ void RaceBar::buildRaces() {
     for (int n = 1; n < static_cast<int>(theScreen.raceButtons.size()); ++n) {
         auto* button = new QPushButton{strip_};
         button->setObjectName(QString{"RaceButton%1"}.arg(n));
+        button->setIconSize({dotPixels, dotPixels});
         setCommand(*button, CommandId::RaceButton);
-        button->setToolTip(tipOf(CommandId::RaceButton, QString::number(n)));
         connect(button, &QPushButton::clicked, this,
                 [this, n] { runner_.run(CommandId::RaceButton, numberArgument(n)); });
         races_.push_back(button);
@@ -83,7 +101,8 @@ int RaceBar::widthOfRaces(const std::vector<QPushButton*>& races) const {
     int narrowest = 1;
     for (const QPushButton* button : races)
         narrowest =
-            std::max(narrowest, button->fontMetrics().horizontalAdvance(button->text()) + captionMargin);
+            std::max(narrowest, button->fontMetrics().horizontalAdvance(button->text()) + captionMargin +
+                                    (button->icon().isNull() ? 0 : dotPixels + besideDot));
     const int inOneRow = (strip_->width() + spacing) / static_cast<int>(races.size()) - spacing;
     const int designed = appearance_.pixels(raceButtonTwips) + captionMargin;
     return std::max(narrowest, std::min(designed, inOneRow));
@@ -123,8 +142,15 @@ void RaceBar::refresh() {
         const bool visible = button.visible && cardIsOpen(); // a closed card leaves them as they were
         anyRace = anyRace || visible;
         race.setVisible(visible);
-        race.setText(shown(button.caption));
-        race.setAccessibleName(tr("Race %1").arg(shown(button.caption)));
+        const QString caption = shown(button.caption);
+        const bool changed = visible && changed_.isChanged(static_cast<int>(i) + 1);
+        race.setText(caption);
+        race.setIcon(changed ? dot(button.current ? QColor{Qt::white} : palette().color(QPalette::ButtonText))
+                             : QIcon{});
+        race.setAccessibleName(changed ? tr("Race %1, changed by you").arg(caption)
+                                       : tr("Race %1").arg(caption));
+        const QString tip = tipOf(CommandId::RaceButton, QString::number(i + 1));
+        race.setToolTip(changed ? tr("%1. You changed this race.").arg(tip) : tip);
         race.setStyleSheet(button.current ? currentStyle : "");
     }
     previous_->setEnabled(anyRace);

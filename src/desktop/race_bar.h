@@ -3,6 +3,7 @@
 
 #include "desktop/appearance.h"
 #include "desktop/command_runner.h"
+#include "desktop/mark_texts.h"
 
 #include <QPushButton>
 #include <QToolButton>
@@ -34,6 +35,7 @@ private:
     QPushButton* start_;
     QToolButton* previous_;
     QToolButton* next_;
+    ChangedRaces changed_;
     QWidget* strip_;
     std::vector<QPushButton*> races_; ///< race n at n - 1, in the strip
 };

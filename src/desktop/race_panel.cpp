@@ -4,6 +4,7 @@
 #include "card/race_card.h"
 #include "desktop/cell_table_view.h"
 #include "desktop/command_texts.h"
+#include "desktop/mark_texts.h"
 #include "desktop/row_buttons.h"
 #include "desktop/shown_text.h"
 #include "results/on_show.h"
@@ -63,12 +64,14 @@ void RacePanel::buildTable() {
     table_ = new CellTableView{appearance_, tr("Entries of the race"), this};
     table_->setObjectName("RaceView");
     table_->setProperty("command", nameOf(CommandId::Cell) + "," + nameOf(CommandId::DriverColumn));
-    table_->setStatusTip(tr("A double click or F2 edits a cell from Class to F. A click on a driver lists the "
-                            "drivers. "
-                            "Enter on a name shows the past lines."));
+    table_->setStatusTip(
+        tr("A double click or F2 edits a cell from Class to F. A click on a driver lists the "
+           "drivers. "
+           "Enter on a name shows the past lines."));
     table_->setFonts(headPoints, bodyPoints, true);
     table_->setViewLayout(raceLayout());
     table_->setRowHeight(rowTwips);
+    table_->showRowMarks(longestSign());
     table_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table_->installEventFilter(this);
     table_->cells().setEditing([this](int row, int column) { return mayTypeCell(race_, row, column); },
@@ -123,6 +126,7 @@ void RacePanel::refresh() {
 void RacePanel::refreshTable() {
     const QModelIndex before = table_->currentIndex();
     const int race = raceViewOnShow();
+    refreshMarks();
     if (race == race_)
         table_->refresh();
     else
@@ -131,6 +135,22 @@ void RacePanel::refreshTable() {
     if (before.isValid() && !table_->currentIndex().isValid())
         table_->selectionModel()->setCurrentIndex(table_->model()->index(before.row(), before.column()),
                                                   QItemSelectionModel::ClearAndSelect);
+}
+
+void RacePanel::refreshMarks() {
+    const int race = raceViewOnShow();
+    marks_.assign(1, {}); // the head's
+    std::vector<RowMark> rows(1);
+    for (int row = Grid::firstRow; row <= ratedEntries; ++row) {
+        const EntryMarks& marks = marks_.emplace_back(entryMarks(race, row));
+        RowMark& mark = rows.emplace_back();
+        mark = {.sign = signOf(marks), .words = wordsOf(marks), .isOut = marks.isOut()};
+        if (!isFirstStart(race, row)) continue;
+        mark.note = tr("first start");
+        mark.noteFrom = RaceColumn::track;
+        mark.noteColumns = RaceColumn::driver - RaceColumn::track;
+    }
+    table_->setRowMarks(std::move(rows));
 }
 
 void RacePanel::refreshButtons() {
@@ -158,10 +178,12 @@ void RacePanel::refreshButtons() {
         const Text& caption = buttonOf(theScreen.scratchButtons, row).caption;
         const bool removes = caption == "X";
         scratch.setText(shown(caption));
-        scratch.setEnabled(runner_.canRun(CommandId::Command4, entry));
+        const bool isOut = marks_[at].isOut();
+        scratch.setEnabled(!isOut && runner_.canRun(CommandId::Command4, entry));
         scratch.setAccessibleName((removes ? tr("Remove %1") : tr("Scratch %1")).arg(horse));
-        scratch.setToolTip(removes ? tr("Take %1 out, without a refund").arg(horse)
-                                   : tipOf(CommandId::Command4, horse));
+        scratch.setToolTip(isOut     ? tr("%1 is out already").arg(horse)
+                           : removes ? tr("Take %1 out, without a refund").arg(horse)
+                                     : tipOf(CommandId::Command4, horse));
 
         QPushButton& heat = *heats_[at - 1];
         anyHeat = anyHeat || buttonOf(theScreen.heatButtons, row).visible;
@@ -176,7 +198,8 @@ void RacePanel::refreshButtons() {
 // Exactly the head and twelve rows, and a scroll bar where the columns need one.
 void RacePanel::holdHeight() {
     const int frame = 2 * table_->frameWidth();
-    const bool scrolls = table_->horizontalHeader()->length() > width() - buttons_->width() - frame;
+    const bool scrolls = table_->horizontalHeader()->length() >
+                         width() - buttons_->width() - table_->verticalHeader()->width() - frame;
     const int bar = scrolls ? table_->horizontalScrollBar()->sizeHint().height() : 0;
     setFixedHeight(table_->horizontalHeader()->sizeHint().height() + ratedEntries * table_->rowPixels() +
                    frame + bar);
@@ -185,6 +208,12 @@ void RacePanel::holdHeight() {
 void RacePanel::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     holdHeight();
+}
+
+void RacePanel::goTo(int row, int column) {
+    const QModelIndex cell = table_->model()->index(row - Grid::firstRow, column);
+    table_->setCurrentIndex(cell);
+    table_->scrollTo(cell);
 }
 
 void RacePanel::edit(int row, int column, const Text& text) {

@@ -3,6 +3,7 @@
 
 #include "desktop/appearance.h"
 #include "desktop/command_runner.h"
+#include "results/entry_marks.h"
 
 #include <QPushButton>
 #include <QWidget>
@@ -23,6 +24,9 @@ public:
     /// Draws what the screen holds now.
     void refresh();
 
+    /// Makes a cell of the table the current one, and brings it into sight.
+    void goTo(int row, int column);
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -35,6 +39,7 @@ private:
     QPushButton* rowButton(int column, int row, CommandId id);
 
     void refreshTable();
+    void refreshMarks();
     void refreshButtons();
     void holdHeight();
 
@@ -50,8 +55,9 @@ private:
     std::vector<QPushButton*> scratches_; ///< of row i at i, of the head at 0
     std::vector<QPushButton*> heats_;     ///< of row i at i - 1
     int heatColumn_ = 0;
-    int race_ = 0;           ///< whose view is shown
-    bool handingIn_ = false; ///< an edited cell is on its way
+    int race_ = 0;                  ///< whose view is shown
+    std::vector<EntryMarks> marks_; ///< of row i at i
+    bool handingIn_ = false;        ///< an edited cell is on its way
 };
 
 } // namespace quillon

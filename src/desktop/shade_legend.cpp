@@ -40,22 +40,29 @@ ShadeLegend::ShadeLegend(QWidget* parent) : QWidget{parent} {
     older_ = swatch("OlderLines", olderCyan, this);
     older_->setToolTip(tr("The lines after them that are at most 50 days old. The shade may take in one "
                           "line more."));
+    latest_ = new QLabel{this};
+    latest_->setObjectName("LatestLines");
+    latest_->setTextFormat(Qt::PlainText);
+    latest_->setToolTip(recent_->toolTip());
     auto* row = new QHBoxLayout{this};
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(4);
     row->addWidget(recent_);
     row->addWidget(older_);
+    row->addWidget(latest_);
 }
 
 void ShadeLegend::showFor(const Grid& lines) {
     recent_->setText(withLimit(tr("33 days"), recentDays));
     older_->setText(withLimit(tr("50 days"), olderDays));
+    latest_->setText(tr("latest line: always shaded"));
     setVisible(hasShadedLines(lines));
 }
 
 void ShadeLegend::setTextFont(const QFont& font) {
     recent_->setFont(font);
     older_->setFont(font);
+    latest_->setFont(font);
 }
 
 } // namespace quillon

@@ -8,7 +8,8 @@
 
 namespace quillon {
 
-/// The two shades of past lines, and the days that they reach back to.
+/// The two shades of past lines, the days that they reach back to, and that an entry's latest line has one
+/// whatever its age.
 class ShadeLegend : public QWidget {
     Q_OBJECT
 
@@ -21,6 +22,7 @@ public:
 private:
     QLabel* recent_;
     QLabel* older_;
+    QLabel* latest_;
 };
 
 } // namespace quillon

@@ -52,6 +52,21 @@ TEST_F(BoardPanelTest, ARaceShowsItsSelectionsAndItsHeading) {
     expectTheScreensTexts();
 }
 
+TEST_F(BoardPanelTest, TheMarginOfS1AndItsBetMarkStandBesideTheSelections) {
+    card.selection(1, 1).selectionRating = "61.5";
+    card.selection(1, 2).selectionRating = "64.9";
+    panel.refresh();
+    EXPECT_EQ("3.4", child<QLabel>(panel, "Margin").text());  // 64.9 - 61.5
+    EXPECT_EQ("$$$", child<QLabel>(panel, "BetMark").text()); // from 3, below 4
+    card.selection(1, 2).selectionRating = "61.5";
+    panel.refresh();
+    EXPECT_EQ("DEAD HEAT", child<QLabel>(panel, "BetMark").text());
+    card.selection(1, 1).selectionRating.clear();
+    panel.refresh();
+    EXPECT_EQ("", child<QLabel>(panel, "Margin").text());
+    EXPECT_EQ("", child<QLabel>(panel, "BetMark").text());
+}
+
 TEST_F(BoardPanelTest, EachBoxHandsInWhatIsTypedAndEnterGoesOn) {
     for (int n = 0; n < 8; ++n) {
         type(box(n), QString::number(n + 1));

@@ -156,7 +156,7 @@ TEST_F(CellTableTest, PaddedTextsLoseTheirBlanksInTheMiddleAndAtTheRightAndAreSt
     for (int column = 0; column < 3; ++column)
         EXPECT_EQ("  77.0 ", of(0, column, Qt::EditRole).toString()) << column;
     view.selectRow(0);
-    EXPECT_EQ("  77.0 \t  77.0 \t  77.0 ", view.selectionText());
+    EXPECT_EQ("77.0\t77.0\t77.0", view.selectionText().section('\n', 1)) << "copied without the blanks";
 }
 
 TEST_F(CellTableTest, ColumnsAndRowsBeyondTheLayoutAreNotShown) {
@@ -232,7 +232,44 @@ TEST_F(CellTableTest, ASelectionIsCopiedWithATabBetweenCellsAndALineARow) {
     setWidths({3000, 900, 0});
     view.selectAll();
     QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ("Blue Ribbon Bess\t9.5\nCorner Boy\t10\n\t\n\t\n\t", QApplication::clipboard()->text());
+    EXPECT_EQ("ENTRY\t\nBlue Ribbon Bess\t9.5\nCorner Boy\t10\n\t\n\t\n\t",
+              QApplication::clipboard()->text());
+}
+
+TEST_F(CellTableTest, WhereNothingIsSelectedTheWholeTableIsCopied) {
+    setWidths({3000, 900, 0});
+    view.clearSelection();
+    QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ("ENTRY\t\nBlue Ribbon Bess\t9.5\nCorner Boy\t10\n\t\n\t\n\t",
+              QApplication::clipboard()->text());
+}
+
+TEST_F(CellTableTest, AMarkedRowHasItsSignItsWordsAndItsNote) {
+    columns = {ViewColumn{"Name", 900}, ViewColumn{"A", 900}, ViewColumn{"B", 900}};
+    view.setViewLayout({.columns = columns});
+    view.showRowMarks("S1 X");
+    std::vector<RowMark> marks(3);
+    marks[1] = {.sign = "S1 X", .words = "out", .isOut = true};
+    marks[2] = {.note = "a note far wider than its column", .noteFrom = 1, .noteColumns = 2};
+    view.setRowMarks(marks);
+    EXPECT_EQ("S1 X", view.model()->headerData(0, Qt::Vertical).toString());
+    EXPECT_EQ("out", view.model()->headerData(0, Qt::Vertical, Qt::ToolTipRole).toString());
+    EXPECT_EQ("out", of(0, 0, Qt::ToolTipRole).toString());
+    EXPECT_TRUE(of(0, 1, Qt::FontRole).value<QFont>().strikeOut());
+    EXPECT_FALSE(of(1, 1, Qt::FontRole).value<QFont>().strikeOut());
+    EXPECT_EQ(marks[2].note, of(1, 1, Qt::DisplayRole).toString());
+    EXPECT_EQ("", of(1, 2, Qt::DisplayRole).toString());
+    EXPECT_EQ(2, view.columnSpan(1, 1));
+    EXPECT_LT(view.columnWidth(1), QFontMetrics{view.font()}.horizontalAdvance(marks[2].note));
+    view.setRowMarks(std::vector<RowMark>(3));
+    EXPECT_EQ(1, view.columnSpan(1, 1));
+}
+
+TEST_F(CellTableTest, AHeadTellsInWordsWhatStandsBelowIt) {
+    columns = {ViewColumn{"Name", 900, Align::left, "The horse"}, ViewColumn{"PR", 900}};
+    view.setViewLayout({.columns = columns});
+    EXPECT_EQ("The horse", view.model()->headerData(0, Qt::Horizontal, Qt::ToolTipRole).toString());
+    EXPECT_FALSE(view.model()->headerData(1, Qt::Horizontal, Qt::ToolTipRole).isValid());
 }
 
 TEST_F(CellTableTest, RowsApartAreCopiedWithoutThoseBetweenThem) {
@@ -240,7 +277,7 @@ TEST_F(CellTableTest, RowsApartAreCopiedWithoutThoseBetweenThem) {
     view.selectionModel()->select(view.model()->index(0, 1), QItemSelectionModel::Select);
     view.selectionModel()->select(view.model()->index(1, 0), QItemSelectionModel::Select);
     view.selectionModel()->select(view.model()->index(4, 0), QItemSelectionModel::Select);
-    EXPECT_EQ("\t9.5\nCorner Boy\n", view.selectionText());
+    EXPECT_EQ("ENTRY\t\n\t9.5\nCorner Boy\t\n\t", view.selectionText());
 }
 
 TEST_F(CellTableTest, OfAMillionSelectedRowsTheFirstAreCopiedAndTheUserIsTold) {
@@ -252,8 +289,8 @@ TEST_F(CellTableTest, OfAMillionSelectedRowsTheFirstAreCopiedAndTheUserIsTold) {
     view.selectAll();
     QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
     const QString copied = QApplication::clipboard()->text();
-    EXPECT_EQ(100000, copied.count('\n') + 1); // 200,000 cells, two a row
-    EXPECT_TRUE(copied.startsWith("card 1\t\ncard 2\t\n"));
+    EXPECT_EQ(100000, copied.count('\n')); // 200,000 cells, two a row, below the heads
+    EXPECT_TRUE(copied.startsWith("ENTRY\t\ncard 1\t\ncard 2\t\n"));
     EXPECT_TRUE(copied.endsWith("card 100000\t"));
     EXPECT_TRUE(QToolTip::text().contains("100000 rows were copied")) << QToolTip::text().toStdString();
     QToolTip::hideText();

@@ -63,7 +63,7 @@ TEST_F(FaultJournalTest, CopyTakesAllLinesOrTheSelectedOnes) {
     EXPECT_EQ("WPS\tline 1\nWPS\tline 2\n", QApplication::clipboard()->text());
     tableOf(dialog).selectRow(1);
     click(child<QPushButton>(dialog, "CopyFaults"));
-    EXPECT_EQ("WPS\tline 2", QApplication::clipboard()->text());
+    EXPECT_EQ("Step\tWhat\nWPS\tline 2", QApplication::clipboard()->text());
 }
 
 TEST_F(FaultJournalTest, ItIsSavedAsText) {

@@ -1,16 +1,24 @@
 #include "desktop/main_window_test.h"
 
 #include "card/race_card.h"
+#include "desktop/cell_table_view.h"
 #include "desktop/dialog_answers.h"
+#include "desktop/guide_window.h"
 #include "desktop/shown_text.h"
+#include "results/card_search.h"
 
 #include <QAction>
+#include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTableView>
+#include <QTableWidget>
+#include <QTextBrowser>
 
 #include <set>
 
@@ -100,6 +108,7 @@ TEST_F(MainWindowTest, OnASmallScreenAndEnlargedEveryRaceButtonStaysInTheWindow)
 }
 
 TEST_F(MainWindowTest, InTheDefaultWindowTheRatingsAreInSight) {
+    window->resize(appearance.pixels(screen.width), appearance.pixels(screen.height));
     startInWindow();
     QTest::qWait(50);
     const auto& table = child<QTableView>(*window, "RaceView");
@@ -286,6 +295,162 @@ TEST_F(MainWindowTest, StartWithoutTablesChangesNothingAndSaysWhereTheyGo) {
     EXPECT_EQ(0, card.raceCount);
     EXPECT_TRUE(child<QAbstractButton>(*window, "Start").isEnabled());
     EXPECT_TRUE(shown.empty());
+}
+
+TEST_F(MainWindowTest, TheButtonOfAChangedRaceHasADotAndSaysSo) {
+    startInWindow();
+    auto& third = child<QPushButton>(*window, "RaceButton3");
+    EXPECT_TRUE(third.icon().isNull());
+    window->runner().run(CommandId::Cell, {.numbers = {3, 1, 6}, .text = "OPEN 5"});
+    EXPECT_FALSE(third.icon().isNull());
+    EXPECT_TRUE(third.accessibleName().contains("changed"));
+    EXPECT_TRUE(third.toolTip().contains("You changed this race"));
+    EXPECT_TRUE(child<QPushButton>(*window, "RaceButton4").icon().isNull());
+}
+
+TEST_F(MainWindowTest, TheFirstSizeIsTheDesignedOneOrWhatTheScreenHasRoomFor) {
+    EXPECT_EQ((QSize{1083, 747}), firstSize({1083, 747}, {1920, 1040}));
+    EXPECT_EQ((QSize{1016, 730}), firstSize({1083, 747}, {1016, 730}));
+    EXPECT_EQ((QSize{952, 500}), firstSize({1083, 747}, {952, 500})); // 1920 by 1080 at 200%
+    EXPECT_TRUE(window->size().boundedTo(window->screen()->availableGeometry().size()) == window->size());
+}
+
+TEST_F(MainWindowTest, OnASmallScreenItCanBeAsSmallAsTheScreen) {
+    startInWindow();
+    for (const char* page : {"", "Overview", "ShowSummary"}) {
+        if (*page != '\0' && QByteArray{page} == "Overview") window->showOverview(true);
+        if (QByteArray{page} == "ShowSummary") pressKeys("F12");
+        const QSize least = window->minimumSizeHint();
+        EXPECT_LE(least.width(), 900) << page << " " << least.width();
+        EXPECT_LE(least.height(), 500) << page << " " << least.height();
+    }
+}
+
+TEST_F(MainWindowTest, OnAWideWindowThePastLinesStandBesideTheRace) {
+    startInWindow();
+    auto& race = child<QWidget>(*window, "RaceView");
+    auto& lines = child<QWidget>(*window, "RaceLines");
+    const auto placeOf = [this](QWidget& widget) { return widget.mapTo(&*window, QPoint{}); };
+    window->resize(1083, 747);
+    QApplication::processEvents();
+    EXPECT_GT(placeOf(lines).y(), placeOf(race).y() + race.height());
+    window->resize(appearance.pixels(28800), appearance.pixels(15600)); // 1920 by 1040 at 96 dots an inch
+    QApplication::processEvents();
+    EXPECT_GT(placeOf(lines).x(), placeOf(race).x() + race.width());
+    EXPECT_LT(placeOf(lines).y(), placeOf(race).y() + race.height() / 2);
+    EXPECT_GT(placeOf(lines).x() + lines.width(), window->width() - 30);
+}
+
+TEST_F(MainWindowTest, WidthsThatAreDraggedAreThereInTheNextRun) {
+    startInWindow();
+    const auto table = [this]() -> CellTableView& { return child<CellTableView>(*window, "RaceView"); };
+    table().horizontalHeader()->resizeSection(RaceColumn::classText, 155);
+    const int other = table().columnWidth(RaceColumn::udr);
+    answers.push_back("Yes");
+    window->close();
+    window.reset();
+    window.emplace(appearance);
+    window->show();
+    QApplication::processEvents();
+    EXPECT_NEAR(155, table().columnWidth(RaceColumn::classText), 1);
+    EXPECT_NEAR(other, table().columnWidth(RaceColumn::udr), 12);
+    table().setDraggedWidths({});
+    EXPECT_LT(table().columnWidth(RaceColumn::classText), 150);
+    QSettings{}.clear();
+}
+
+TEST_F(MainWindowTest, FindLooksThroughAllRacesAndEnterGoesThere) {
+    startInWindow();
+    // A name of another race than the one on show.
+    const Text horse{trimmed(card.entry(5, 2).horseName)};
+    const Text trainer{trimmed(card.entry(5, 2).trainerName)};
+    ASSERT_FALSE(horse.empty());
+    ASSERT_FALSE(trainer.empty());
+    pressKeys("Ctrl+F");
+    auto& field = child<QLineEdit>(*window, "FindField");
+    QTest::keyClicks(&field, quillon::shown(horse).toLower());
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_EQ("5", screen.header.race);
+    auto& table = child<QTableView>(*window, "RaceView");
+    EXPECT_EQ(1, table.currentIndex().row());
+    EXPECT_EQ(RaceColumn::horseName, table.currentIndex().column());
+    auto& words = child<QLabel>(*window, "FindWords");
+    EXPECT_TRUE(words.text().startsWith("Race 5, ")) << words.text().toStdString();
+    EXPECT_TRUE(field.hasFocus()) << "Enter again goes on";
+
+    field.setText(quillon::shown(trainer));
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_TRUE(words.text().contains("trainer " + quillon::shown(trainer))) << words.text().toStdString();
+    field.setText("no such horse");
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_EQ("not found", words.text());
+}
+
+TEST_F(MainWindowTest, FindGoesOnToTheNextPlaceAndRoundTheEnd) {
+    startInWindow();
+    const Text driver{trimmed(screen.raceView[1].text(1, RaceColumn::driver))};
+    const auto places = placesInCard(driver);
+    ASSERT_GT(places.size(), 1U);
+    pressKeys("Ctrl+F");
+    auto& field = child<QLineEdit>(*window, "FindField");
+    field.setText(quillon::shown(driver));
+    for (const CardPlace& place : places) {
+        QTest::keyClick(&field, Qt::Key_Return);
+        EXPECT_EQ(std::to_string(place.race), screen.header.race);
+    }
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_EQ(std::to_string(places.front().race), screen.header.race);
+    QTest::keyClick(&field, Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(std::to_string(places.back().race), screen.header.race);
+}
+
+TEST_F(MainWindowTest, F1OpensTheGuideAtWhatIsOnShow) {
+    const auto place = [this] {
+        pressKeys("F1");
+        const QString heading = child<GuideWindow>(*window, "Guide").heading();
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&*window));
+        return heading.toStdString();
+    };
+    EXPECT_EQ("Start Quillon", place());
+    startInWindow();
+    EXPECT_EQ("Read the races", place());
+    window->runner().run(CommandId::EntryButton, numberArgument(2));
+    EXPECT_EQ("Past lines, and taking another one", place());
+    child<QLineEdit>(*window, "Box4").setFocus();
+    EXPECT_EQ("Record the results", place());
+    pressKeys("F12");
+    EXPECT_EQ("What the card earned", place());
+    for (const bool Screen::*visible :
+         {&Screen::profileVisible, &Screen::tracksVisible, &Screen::picksVisible}) {
+        screen.summaryVisible = screen.profileVisible = screen.tracksVisible = screen.picksVisible = false;
+        const_cast<bool&>(screen.*visible) = true;
+        EXPECT_FALSE(place().empty()) << "the guide has no such heading";
+    }
+}
+
+TEST_F(MainWindowTest, LinksOfTheGuideLeadToItsHeadingsAndPages) {
+    pressKeys("F1");
+    auto& guide = child<GuideWindow>(*window, "Guide");
+    auto& text = child<QTextBrowser>(guide, "GuideText");
+    EXPECT_FALSE(text.toPlainText().contains("pictures/")) << "pictures are left out";
+    emit text.anchorClicked(QUrl{"#dead-heats"});
+    EXPECT_EQ("Dead heats", guide.heading());
+    emit text.anchorClicked(QUrl{"glossary.md"});
+    EXPECT_TRUE(text.toPlainText().startsWith("Words of the track"));
+    guide.openAt("Scratches");
+    EXPECT_EQ("Scratches", guide.heading());
+}
+
+TEST_F(MainWindowTest, KeysListsThoseOfAllCommands) {
+    window->findChild<QAction*>("KeysOfTheWindow")->trigger();
+    auto& table = child<QTableWidget>(*window, "KeysTable");
+    QStringList keys;
+    for (int row = 0; row < table.rowCount(); ++row) keys += table.item(row, 0)->text();
+    for (const Command& command : commandTable())
+        for (const QKeySequence& key : QKeySequence::listFromString(command.item.keys))
+            EXPECT_TRUE(keys.join(' ').contains(key.toString(QKeySequence::NativeText))) << command.name;
+    for (const char* own : {"F1", "F3", "F4", "Ctrl+F"}) EXPECT_TRUE(keys.contains(own)) << own;
 }
 
 } // namespace

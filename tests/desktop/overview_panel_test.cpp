@@ -46,6 +46,19 @@ TEST_F(OverviewPanelTest, ShowsARowARace) {
     EXPECT_TRUE(side & Qt::AlignRight);
 }
 
+TEST_F(OverviewPanelTest, ARaceThatTheUserChangedHasADot) {
+    const auto sign = [this](int row) {
+        return table().model()->headerData(row, Qt::Vertical).toString().toStdString();
+    };
+    for (int row = 0; row < card.raceCount; ++row) EXPECT_EQ("", sign(row)) << row;
+    runner.run(CommandId::Cell, {.numbers = {3, 1, 6}, .text = "OPEN 5"});
+    panel.refresh();
+    EXPECT_EQ(QString{QChar{0x2022}}.toStdString(), sign(2));
+    EXPECT_EQ("", sign(0));
+    table().sortByColumn(OverviewColumn::race, Qt::DescendingOrder);
+    EXPECT_EQ(QString{QChar{0x2022}}.toStdString(), sign(card.raceCount - 3)) << "it goes with its race";
+}
+
 TEST_F(OverviewPanelTest, TheHeadingTellsTheCard) {
     card.raceInfo(1).trackInfo = "Miami Valley   5/8";
     card.cardDate = "20260314";

@@ -124,6 +124,7 @@ TEST_F(PastLinesTest, TheLegendNamesTheDaysThatTheShadesReachBackTo) {
     openEntry();
     auto& frame = child<QWidget>(panel, "PastPerformances");
     EXPECT_EQ("33 days: since 20260209", child<QLabel>(frame, "RecentLines").text().toStdString());
+    EXPECT_EQ("latest line: always shaded", child<QLabel>(frame, "LatestLines").text().toStdString());
     EXPECT_EQ("50 days: since 20260123", child<QLabel>(frame, "OlderLines").text().toStdString());
 }
 

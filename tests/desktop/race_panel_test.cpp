@@ -5,9 +5,12 @@
 #include "desktop/shown_text.h"
 #include "desktop/window_test.h"
 #include "rating/rating_display.h"
+#include "results/entry_marks.h"
+#include "results/on_show.h"
 #include "screen/race_views.h"
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -32,6 +35,11 @@ struct RacePanelTest : WindowTest {
     }
     QModelIndex cell(int row, int column) { return table().model()->index(row - 1, column); }
     std::string textOf(int row, int column) { return cell(row, column).data().toString().toStdString(); }
+
+    std::string signOf(int row) {
+        return table().model()->headerData(row - 1, Qt::Vertical).toString().toStdString();
+    }
+    QFont faceOf(int row, int column) { return cell(row, column).data(Qt::FontRole).value<QFont>(); }
 
     void clickCell(int row, int column) {
         table().scrollTo(cell(row, column));
@@ -176,6 +184,108 @@ TEST_F(RacePanelTest, WhereNoHorseIsNothingCanBePressed) {
     EXPECT_FALSE(screen.driverList.visible);
 }
 
+TEST_F(RacePanelTest, SelectionsAreMarkedAtTheStartOfTheirRows) {
+    startSampleCard();
+    const char* signs[] = {"", "S1", "S2", "S3", "S4", "S5"};
+    const int cells[] = {0, 1, 2, 3, 4, 9};
+    for (int race = 1; race <= card.raceCount; ++race) {
+        runner.run(CommandId::RaceButton, numberArgument(race));
+        for (int place = 1; place <= 5; ++place)
+            for (int row = 1; row <= 12; ++row) {
+                const Text number{trimmed(screen.raceView[static_cast<std::size_t>(race)].text(row, 2))};
+                const bool has = !number.empty() && number == trimmed(card.raceOutcome(race, cells[place]));
+                EXPECT_EQ(has, signOf(row) == signs[place]) << race << ", " << row << ": " << signOf(row);
+            }
+    }
+}
+
+TEST_F(RacePanelTest, ACardAsLoadedHasNoMarkOfTheUsers) {
+    startSampleCard();
+    for (int race = 1; race <= card.raceCount; ++race)
+        for (int row = 1; row <= 12; ++row) {
+            EntryMarks marks = entryMarks(race, row);
+            EXPECT_FALSE(marks.isChanged()) << race << ", " << row;
+        }
+}
+
+TEST_F(RacePanelTest, AScratchedEntryIsStruckThroughAndNotOfferedAgain) {
+    startSampleCard();
+    answers = {"Yes"};
+    click(button("ScratchButton", 3));
+    EXPECT_TRUE(QString::fromStdString(signOf(3)).contains("Scr")) << signOf(3);
+    EXPECT_FALSE(button("ScratchButton", 3).isEnabled());
+    EXPECT_TRUE(button("ScratchButton", 4).isEnabled());
+    for (const int column : {0, 2, 31}) EXPECT_TRUE(faceOf(3, column).strikeOut()) << column;
+    EXPECT_FALSE(faceOf(4, 0).strikeOut());
+    EXPECT_EQ(QGuiApplication::palette().color(QPalette::Disabled, QPalette::Text),
+              cell(3, 0).data(Qt::ForegroundRole).value<QBrush>().color());
+    EXPECT_TRUE(cell(3, 0).data(Qt::ToolTipRole).toString().contains("Scratched"));
+    EXPECT_TRUE(runner.canRun(CommandId::Command4, numberArgument(3))) << "the command itself stays";
+
+    click(button("ScratchButton", 0)); // from Scr to X
+    EXPECT_FALSE(button("ScratchButton", 3).isEnabled());
+    answers = {"Yes"};
+    click(button("ScratchButton", 4));
+    EXPECT_TRUE(QString::fromStdString(signOf(4)).contains("X")) << signOf(4);
+    EXPECT_FALSE(button("ScratchButton", 4).isEnabled());
+    EXPECT_TRUE(cell(4, 0).data(Qt::ToolTipRole).toString().contains("Removed"));
+}
+
+TEST_F(RacePanelTest, ALineADriverAndTypedCellsEachLeaveTheirSign) {
+    startSampleCard();
+    const QString before = QString::fromStdString(signOf(2));
+    runner.run(CommandId::Cell, {.numbers = {1, 2, RaceColumn::classText}, .text = "OPEN 5"});
+    EXPECT_EQ((before + " *").trimmed().toStdString(), signOf(2));
+    EXPECT_TRUE(cell(2, 0).data(Qt::ToolTipRole).toString().contains("Typed by you: Class"));
+
+    runner.run(CommandId::DriverColumn, numberArgument(5));
+    for (const Text& line : screen.driverList.lines)
+        if (!trimmed(line).starts_with(trimmed(card.entry(1, 5).driverName))) {
+            runner.run(CommandId::DriverChoice, textArgument(line));
+            break;
+        }
+    EXPECT_TRUE(QString::fromStdString(signOf(5)).endsWith("D")) << signOf(5);
+
+    runner.run(CommandId::EntryButton, numberArgument(1));
+    const int other = lineInUse().row == 1 ? 2 : 1;
+    runner.run(CommandId::Command3, numberArgument(other));
+    EXPECT_TRUE(QString::fromStdString(signOf(1)).endsWith(QChar{0x25B6})) << signOf(1);
+}
+
+TEST_F(RacePanelTest, TheColumnOfSignsIsAsWideWhateverStandsThere) {
+    startSampleCard();
+    const int width = table().verticalHeader()->width();
+    runner.run(CommandId::Cell, {.numbers = {1, 1, RaceColumn::classText}, .text = "OPEN 5"});
+    answers = {"Yes"};
+    click(button("ScratchButton", 3));
+    EXPECT_EQ(width, table().verticalHeader()->width());
+    const QFontMetrics metrics{table().verticalHeader()->font()};
+    for (int row = 1; row <= 12; ++row)
+        EXPECT_LT(metrics.horizontalAdvance(QString::fromStdString(signOf(row))), width) << signOf(row);
+}
+
+TEST_F(RacePanelTest, AFirstStartReadsSoAndWidensNoColumn) {
+    startSampleCard();
+    int found = 0;
+    for (int race = 1; race <= card.raceCount; ++race) {
+        runner.run(CommandId::RaceButton, numberArgument(race));
+        for (int row = 1; row <= 12; ++row) {
+            if (!isFirstStart(race, row)) continue;
+            ++found;
+            EXPECT_EQ("first start", textOf(row, RaceColumn::track));
+            EXPECT_EQ("", textOf(row, RaceColumn::leaderQuarter));
+            EXPECT_EQ(26, table().columnSpan(row - 1, RaceColumn::track)); // 4 to 29
+            EXPECT_EQ("LEAD_TM_1Q", screen.raceView[static_cast<std::size_t>(race)].text(row, 8));
+            EXPECT_FALSE(cell(row, 8).flags() & Qt::ItemIsEditable);
+            const int asHigh = QFontMetrics{faceOf(row, 8)}.horizontalAdvance("LEAD_TM_1Q");
+            EXPECT_LT(table().columnWidth(RaceColumn::leaderQuarter), asHigh);
+            EXPECT_FALSE(textOf(row, RaceColumn::driver).empty());
+        }
+        expectRace(race);
+    }
+    EXPECT_GT(found, 0) << "the sample has a first-time starter";
+}
+
 TEST_F(RacePanelTest, HeatButtonsComeAndGoWithTheirMark) {
     startSampleCard();
     EXPECT_FALSE(button("HeatButton", 1).isVisible());
@@ -207,9 +317,9 @@ TEST_F(RacePanelTest, ACellIsEditedInItsPlaceAndTheKeyboardStaysThere) {
 
 TEST_F(RacePanelTest, CellsThatWouldComeBackAsTheyWereAreNotTypedIn) {
     startSampleCard();
-    for (const int column : {RaceColumn::horseName, RaceColumn::morningOdds, RaceColumn::programNumber,
-                             RaceColumn::post, RaceColumn::track, RaceColumn::purse, RaceColumn::driver,
-                             RaceColumn::udr, RaceColumn::rating}) {
+    for (const int column :
+         {RaceColumn::horseName, RaceColumn::morningOdds, RaceColumn::programNumber, RaceColumn::post,
+          RaceColumn::track, RaceColumn::purse, RaceColumn::driver, RaceColumn::udr, RaceColumn::rating}) {
         EXPECT_FALSE(cell(2, column).flags() & Qt::ItemIsEditable) << column;
         table().setCurrentIndex(cell(2, column));
         QTest::keyClick(&table(), Qt::Key_F2);

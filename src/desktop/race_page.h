@@ -1,0 +1,45 @@
+// The page of a race: its heading, its entries with the board, and past lines below them or, where the window is
+// wide enough, beside them.
+#pragma once
+
+#include "desktop/appearance.h"
+
+#include <QBoxLayout>
+#include <QScrollArea>
+
+namespace quillon {
+
+/// The parts of the page, from top to bottom.
+struct RacePageParts {
+    QWidget* header = nullptr;
+    QWidget* entries = nullptr;
+    QWidget* board = nullptr;
+    QWidget* lines = nullptr;
+};
+
+/// Scrolls where the window is too small for its parts.
+class RacePage : public QScrollArea {
+    Q_OBJECT
+
+public:
+    explicit RacePage(Appearance& appearance, QWidget* parent = nullptr);
+
+    /// The widget that the parts are made in.
+    QWidget* inside() { return inside_; }
+    void arrange(const RacePageParts& parts);
+
+    bool hasLinesBeside() const { return body_->direction() == QBoxLayout::LeftToRight; }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void turn();
+
+    Appearance& appearance_;
+    QWidget* inside_;
+    QBoxLayout* body_ = nullptr; ///< entries and board, then past lines
+    QWidget* left_ = nullptr;    ///< entries and board
+};
+
+} // namespace quillon
