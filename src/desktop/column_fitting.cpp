@@ -71,7 +71,12 @@ std::vector<int> textWidths(const QTableView& view, bool asBold) {
 
 int headWidth(const QTableView& view, int column) {
     const QString head = view.model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-    return QFontMetrics{view.horizontalHeader()->font()}.horizontalAdvance(head) + headMargin;
+    const QStyle& style = *view.style();
+    const int arrow = view.isSortingEnabled()
+                          ? style.pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, &view) +
+                                2 * style.pixelMetric(QStyle::PM_HeaderMargin, nullptr, &view)
+                          : 0;
+    return QFontMetrics{view.horizontalHeader()->font()}.horizontalAdvance(head) + headMargin + arrow;
 }
 
 // Each column gives its share. Where that is not enough, the view scrolls, and all keep their widths.

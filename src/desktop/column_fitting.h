@@ -15,7 +15,7 @@ struct ColumnWidth {
 /// The widths that the texts of the first rows need, column by column; as if all were bold where asked.
 std::vector<int> textWidths(const QTableView& view, bool asBold);
 
-/// The width that the head of a column needs.
+/// The width that the head of a column needs, with the arrow of a sorted one.
 int headWidth(const QTableView& view, int column);
 
 /// Takes what columns do not need, where they have together a little more than this room.

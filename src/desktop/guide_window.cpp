@@ -1,5 +1,6 @@
 #include "desktop/guide_window.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QFile>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -83,9 +84,9 @@ void GuideWindow::goTo(const QString& anchor) {
     for (QTextBlock block = browser_->document()->begin(); block.isValid(); block = block.next()) {
         if (block.blockFormat().headingLevel() == 0 || anchorOf(block.text()) != anchor) continue;
         heading_ = block.text();
-        // From the end back, so that the heading comes to stand at the top.
-        browser_->moveCursor(QTextCursor::End);
         browser_->setTextCursor(QTextCursor{block});
+        const QRectF place = browser_->document()->documentLayout()->blockBoundingRect(block);
+        browser_->verticalScrollBar()->setValue(static_cast<int>(place.top()));
         break;
     }
 }

@@ -14,7 +14,8 @@ class GuideWindow : public QDialog {
 public:
     explicit GuideWindow(Appearance& appearance, QWidget* parent = nullptr);
 
-    /// Shows the guide from this heading on, or from its beginning where it has no such heading.
+    /// Goes to this heading of the guide, or to its beginning where it has no such heading. The window must be
+    /// on the screen: before that a text has no height.
     void openAt(const QString& heading);
 
     /// The heading that the view begins with.

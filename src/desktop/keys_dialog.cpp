@@ -63,7 +63,7 @@ KeysDialog::KeysDialog(const QMenuBar& menus, QWidget* parent) : QDialog{parent}
     auto* column = new QVBoxLayout{this};
     column->addWidget(table, 1);
     column->addWidget(buttons);
-    resize(640, 480);
+    resize(820, 560);
 }
 
 } // namespace quillon

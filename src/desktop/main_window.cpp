@@ -300,8 +300,9 @@ QString MainWindow::guidesPlace() const {
 
 void MainWindow::openGuide() {
     if (!guide_) guide_ = new GuideWindow{appearance_, this};
-    guide_->openAt(guidesPlace());
+    const QString place = guidesPlace(); // by the widget that has the focus
     guide_->show();
+    guide_->openAt(place);
     guide_->raise();
     guide_->activateWindow();
 }

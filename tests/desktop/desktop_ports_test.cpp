@@ -13,6 +13,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QSettings>
+#include <QStatusBar>
 #include <QUrl>
 
 #include <filesystem>
@@ -320,6 +321,11 @@ TEST_F(PortsOfTheWindowTest, TheCondensedProgramPrintsAPageARace) {
     EXPECT_FALSE(preview.isLandscape()) << "upright pages are half as many";
     EXPECT_TRUE(QTest::qWaitForWindowActive(&preview)) << "it stands in front";
     EXPECT_TRUE(preview.windowTitle().contains(cardName())) << preview.windowTitle().toStdString();
+}
+
+TEST_F(PortsOfTheWindowTest, APageThatNothingOpensIsToldInTheStatusBar) {
+    ports.browse("hello");
+    EXPECT_EQ("No browser opened the page: hello", window.statusBar()->currentMessage());
 }
 
 TEST_F(PortsOfTheWindowTest, TheKeysOfFindOpenTheBar) {

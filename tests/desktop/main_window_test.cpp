@@ -440,6 +440,9 @@ TEST_F(MainWindowTest, LinksOfTheGuideLeadToItsHeadingsAndPages) {
     EXPECT_TRUE(text.toPlainText().startsWith("Words of the track"));
     guide.openAt("Scratches");
     EXPECT_EQ("Scratches", guide.heading());
+    const int top = text.cursorRect().top();
+    EXPECT_GE(top, 0);
+    EXPECT_LT(top, 40) << "the heading stands at the top";
 }
 
 TEST_F(MainWindowTest, KeysListsThoseOfAllCommands) {

@@ -59,6 +59,15 @@ TEST_F(OverviewPanelTest, ARaceThatTheUserChangedHasADot) {
     EXPECT_EQ(QString{QChar{0x2022}}.toStdString(), sign(card.raceCount - 3)) << "it goes with its race";
 }
 
+TEST_F(OverviewPanelTest, AHeadHasRoomForTheArrowOfASortedColumn) {
+    const QFontMetrics metrics{table().horizontalHeader()->font()};
+    const int arrow = table().style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, &table());
+    for (int column = 0; column < OverviewColumn::count; ++column) {
+        const QString head = table().model()->headerData(column, Qt::Horizontal).toString();
+        EXPECT_GT(table().columnWidth(column), metrics.horizontalAdvance(head) + arrow) << head.toStdString();
+    }
+}
+
 TEST_F(OverviewPanelTest, TheHeadingTellsTheCard) {
     card.raceInfo(1).trackInfo = "Miami Valley   5/8";
     card.cardDate = "20260314";
