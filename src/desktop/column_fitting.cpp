@@ -79,7 +79,7 @@ int headWidth(const QTableView& view, int column) {
     return QFontMetrics{view.horizontalHeader()->font()}.horizontalAdvance(head) + headMargin + arrow;
 }
 
-// Each column gives its share. Where that is not enough, the view scrolls, and all keep their widths.
+// Each column gives its share. Where that is not enough, each gives all that it can, and the view scrolls.
 void fitInto(int room, std::vector<ColumnWidth>& widths) {
     int tooWide = -room;
     int spare = 0;
@@ -87,7 +87,8 @@ void fitInto(int room, std::vector<ColumnWidth>& widths) {
         tooWide += column.wanted;
         spare += column.wanted - column.needed;
     }
-    if (tooWide <= 0 || tooWide > spare) return;
+    if (tooWide <= 0 || spare <= 0) return;
+    tooWide = std::min(tooWide, spare);
     int spareSoFar = 0;
     int given = 0;
     for (ColumnWidth& column : widths) {

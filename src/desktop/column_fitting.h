@@ -18,7 +18,7 @@ std::vector<int> textWidths(const QTableView& view, bool asBold);
 /// The width that the head of a column needs, with the arrow of a sorted one.
 int headWidth(const QTableView& view, int column);
 
-/// Takes what columns do not need, where they have together a little more than this room.
+/// Takes what columns do not need, where they have together more than this room.
 void fitInto(int room, std::vector<ColumnWidth>& widths);
 
 } // namespace quillon

@@ -32,7 +32,7 @@ struct ViewLayout {
     EmptyRows emptyRows = EmptyRows::shown;
     RowRange boldRows{};
     bool firstFrozen = false; ///< the first column stays in sight while the others are scrolled
-    bool fitted = false;      ///< columns give up spare room where the view is a little too narrow
+    bool fitted = false;      ///< columns give up spare room where the view is too narrow
     bool roomForBold = false; ///< columns have room for bold texts below the rows that are measured
     bool sortable = false;    ///< the order of the rows means nothing
     int rowOrderColumns = 0;  ///< the first columns sort by the order of the table's rows

@@ -80,7 +80,7 @@ TEST_F(CellTableTest, TheHeadRowHeadsTheColumnsAndTheCornerIsRed) {
 }
 
 // 6000 and twice 3000 twips: 400, 200 and 200 pixels at 96 dots an inch.
-TEST_F(CellTableTest, ColumnsGiveUpSpareRoomWhereTheViewIsALittleTooNarrow) {
+TEST_F(CellTableTest, ColumnsGiveUpSpareRoomWhereTheViewIsTooNarrow) {
     columns = {ViewColumn{"", 6000}, ViewColumn{"", 3000}, ViewColumn{"", 3000}};
     view.setViewLayout({.columns = columns, .fitted = true});
     view.resize(1000, 300);
@@ -91,8 +91,9 @@ TEST_F(CellTableTest, ColumnsGiveUpSpareRoomWhereTheViewIsALittleTooNarrow) {
     view.resize(700, 300);
     EXPECT_EQ(view.viewport()->width(), widths());
     EXPECT_GE(view.columnWidth(0), view.fontMetrics().horizontalAdvance("Blue Ribbon Bess"));
-    view.resize(100, 300); // too narrow for the texts: it scrolls
-    EXPECT_EQ(designed, widths());
+    view.resize(100, 300); // too narrow for the texts: it scrolls, as little as it must
+    EXPECT_GE(view.columnWidth(0), view.fontMetrics().horizontalAdvance("Blue Ribbon Bess"));
+    EXPECT_LT(view.columnWidth(0), view.fontMetrics().horizontalAdvance("Blue Ribbon Bess") + 20);
 }
 
 TEST_F(CellTableTest, RowsBehindTheLastTextAreLeftAwayWhereAsked) {

@@ -151,7 +151,9 @@ private:
                     name + " " + std::to_string(tableRow) + ", " + std::to_string(column);
                 const int tableColumn = view.cells().tableColumn(index);
                 const Text stored = grid.text(tableRow, tableColumn);
-                same(place, shownOf(stored, index), index.data().toString());
+                // What goes over the cells of a first start is looked at by its own test.
+                if (view.columnSpan(row, column) == 1)
+                    same(place, shownOf(stored, index), index.data().toString());
                 same(place + " stored", stored, index.data(Qt::EditRole).toString());
                 const auto& background = grid.read(tableRow, tableColumn).background;
                 const QVariant painted = index.data(Qt::BackgroundRole);
