@@ -153,6 +153,9 @@ public:
     bool operator==(const PastLineTable& other) const { return lines_ == other.lines_; }
 
 private:
+    friend void pack(Packer& out, const PastLineTable& table);
+    friend bool unpack(Unpacker& in, PastLineTable& table);
+
     bool isFilled(int race, int entry, int line) const;
 
     PastLine blankLine_;
@@ -180,10 +183,15 @@ public:
     bool operator==(const LineCellTable& other) const { return lines_ == other.lines_; }
 
 private:
+    friend void pack(Packer& out, const LineCellTable& table);
+    friend bool unpack(Unpacker& in, LineCellTable& table);
+
     struct Line {
         Text joined;
         std::array<std::uint32_t, lineCellColumns> ends{}; ///< where each cell ends in it
     };
+    friend void pack(Packer& out, const Line& line);
+    friend bool unpack(Unpacker& in, Line& line);
 
     Table<std::shared_ptr<const Line>, lineNumberExtent> lines_;
 };

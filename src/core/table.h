@@ -12,6 +12,9 @@
 
 namespace quillon {
 
+class Packer;
+class Unpacker;
+
 /// A table of Extents... elements; each index runs from 0 to its extent less 1.
 ///
 /// table(r, e) is for indices that come from data: outside the bounds it fails by the failure policy, so a
@@ -58,6 +61,11 @@ public:
     }
 
 private:
+    template <class Kept, int... extents>
+    friend void pack(Packer& out, const Table<Kept, extents...>& table);
+    template <class Kept, int... extents>
+    friend bool unpack(Unpacker& in, Table<Kept, extents...>& table);
+
     static constexpr std::size_t elementCount = (static_cast<std::size_t>(Extents) * ...);
     static constexpr std::size_t rowCount = sizeof...(Extents) > 1 ? extents[0] : 1;
     static constexpr std::size_t rowLength = elementCount / rowCount;

@@ -12,6 +12,7 @@
 #include "rating/line_selection.h"
 #include "screen/screen.h"
 #include "tables/load_state.h"
+#include "tables/table_rows.h"
 #include "tables/track_table.h"
 
 #include <algorithm>
@@ -295,11 +296,7 @@ void ShowLineTable() {
     const int fields = load.lineRows.fieldCount();
     view.layOut(1, fields + 1);
     for (int field = 1; field <= fields; ++field) view(0, field).text = load.lineRows.fieldName(field);
-    const auto make = [table = load.lineRows](int row, std::span<Cell> cells) {
-        for (std::size_t field = 1; field < cells.size(); ++field)
-            cells[field].text = table.field(row, static_cast<int>(field));
-    };
-    view.showRows(1, {load.lineRows.rowCount(), make});
+    view.showRows(Grid::firstRow, rowsOf(load.lineRows));
 }
 
 } // namespace

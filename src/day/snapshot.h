@@ -27,6 +27,9 @@ public:
     /// content too.
     void shareWith(const Snapshot& earlier);
 
+    friend void pack(Packer& out, const Snapshot& state);
+    friend bool unpack(Unpacker& in, Snapshot& state);
+
 private:
     RaceCard card_;
     LineCursor cursor_;

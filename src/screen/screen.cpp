@@ -78,7 +78,9 @@ void Grid::shade(int row, int from, int to, std::optional<Colour> background) {
 }
 
 void Grid::showRows(int first, RowSource source) {
-    writtenRows().resize(static_cast<std::size_t>(first));
+    if (rows_->size() != static_cast<std::size_t>(first))
+        writtenRows().resize(static_cast<std::size_t>(first));
+    change();
     rowCount_ = first + source.count;
     source_ = std::make_shared<const RowSource>(std::move(source));
     lookedAt_ = 0;
@@ -124,11 +126,6 @@ bool Grid::sameTexts(const Grid& other) const {
             if ((left ? (*left)[column] : none).text != (right ? (*right)[column] : none).text) return false;
     }
     return true;
-}
-
-Screen::Screen() {
-    dataView.fill(Grid{dataViewRows, dataViewColumns});
-    raceView.fill(Grid{raceViewRows, raceViewColumns});
 }
 
 void Screen::offer(StartOffer what) {

@@ -97,6 +97,13 @@ public:
     /// Whether both show the same texts in the rows that they hold.
     bool sameTexts(const Grid& other) const;
 
+    /// Whether some rows are made when they are looked at.
+    bool hasMadeRows() const { return source_ != nullptr; }
+
+    // All but made rows.
+    friend void pack(Packer& out, const Grid& grid);
+    friend bool unpack(Unpacker& in, Grid& grid);
+
 private:
     using Row = std::vector<Cell>;
     using Rows = std::vector<std::shared_ptr<Row>>; ///< none: a row that was never written
@@ -158,6 +165,13 @@ constexpr int raceViewColumns = 40;
 
 constexpr int boardRaces = 31; ///< as many as the store has races
 
+template <std::size_t count>
+std::array<Grid, count> emptyViews(int rows, int columns) {
+    std::array<Grid, count> views;
+    views.fill(Grid{rows, columns});
+    return views;
+}
+
 /// What stands in `Screen::lineTaken` besides the row of a line.
 constexpr Integer noLineTaken = 0; ///< the program's choice stands
 constexpr Integer takenOut = -1;   ///< scratched or removed: no line speaks for the entry
@@ -190,8 +204,6 @@ struct RaceHeader {
 };
 
 struct Screen {
-    Screen(); ///< all views in their fixed sizes, empty
-
     Text caption{};
     int width = 16250; ///< twips
     int height = 11200;
@@ -217,9 +229,9 @@ struct Screen {
     /// By race: 1 where a results pass has read results and the board was not taken into the store since.
     Table<Integer, boardRaces> boardsToTakeIn{};
 
-    std::array<Grid, dataViews> dataView{};
+    std::array<Grid, dataViews> dataView = emptyViews<dataViews>(dataViewRows, dataViewColumns);
     std::array<bool, dataViews> dataViewVisible{};
-    std::array<Grid, raceViews> raceView{};
+    std::array<Grid, raceViews> raceView = emptyViews<raceViews>(raceViewRows, raceViewColumns);
     std::array<bool, raceViews> raceViewVisible{};
 
     bool pastPerformanceOpen = false;

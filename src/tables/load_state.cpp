@@ -13,33 +13,6 @@ LoadState load;
 
 namespace {
 
-template <class Record>
-struct SourceField {
-    const char* name;
-    Text Record::*cell;
-};
-
-constexpr std::array horseFields{
-    SourceField<SourceHorse>{"RACE", &SourceHorse::RACE},
-    SourceField<SourceHorse>{"HN", &SourceHorse::HN},
-    SourceField<SourceHorse>{"HORSE_NAME", &SourceHorse::HORSE_NAME},
-    SourceField<SourceHorse>{"PROGRAM", &SourceHorse::PROGRAM},
-    SourceField<SourceHorse>{"PP", &SourceHorse::PP},
-    SourceField<SourceHorse>{"MORN_ODDS", &SourceHorse::MORN_ODDS},
-    SourceField<SourceHorse>{"DN", &SourceHorse::DN},
-    SourceField<SourceHorse>{"TN", &SourceHorse::TN},
-};
-
-// What a line has beside the fields of a past line.
-constexpr std::array furtherLineFields{
-    SourceField<SourceLine>{"TODAYSRACE", &SourceLine::TODAYSRACE},
-    SourceField<SourceLine>{"HN", &SourceLine::HN},
-    SourceField<SourceLine>{"TRACKSIZE", &SourceLine::TRACKSIZE},
-    SourceField<SourceLine>{"FAV", &SourceLine::FAV},
-    SourceField<SourceLine>{"ODDS", &SourceLine::ODDS},
-    SourceField<SourceLine>{"DN", &SourceLine::DN},
-};
-
 // Reads the fields of a list from rows of a table. Names are looked up once a table, not once a row.
 template <class List>
 class RowReader {

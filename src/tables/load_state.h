@@ -2,8 +2,8 @@
 // cursors, the rows they stand on, the track table, and the log. Steps read and write it through `load`.
 #pragma once
 
-#include "card/race_card.h"
 #include "core/text.h"
+#include "tables/source_rows.h"
 #include "tables/table_cursor.h"
 #include "tables/track_table.h"
 
@@ -12,29 +12,6 @@
 #include <vector>
 
 namespace quillon {
-
-/// The row of the running-line table that the line cursor is on, without trailing blanks, read once a line:
-/// the fields of a past line as the vendor has them, and what the store doesn't keep.
-struct SourceLine : PastLine {
-    Text TODAYSRACE{};
-    Text HN{};
-    Text TRACKSIZE{};
-    Text FAV{};
-    Text ODDS{};
-    Text DN{};
-};
-
-/// The row of the horse table that the horse cursor is on, without trailing blanks, read once a horse.
-struct SourceHorse {
-    Text RACE{};
-    Text HN{};
-    Text HORSE_NAME{};
-    Text PROGRAM{};
-    Text PP{}; ///< post position; 99 for none
-    Text MORN_ODDS{};
-    Text DN{};
-    Text TN{};
-};
 
 struct LoadState {
     TableCursor raceRows;    ///< RACESHR: one row per race of today's card

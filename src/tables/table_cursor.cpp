@@ -30,20 +30,23 @@ void TableCursor::open(TextView fileName) {
 }
 
 void TableCursor::openContent(Text content, TextView fileName) {
-    static std::uint64_t opened = 0;
     auto table = std::make_shared<OpenedTable>();
-    table->serial = ++opened;
     table->fileName = fileName;
-    table->content = std::move(content);
-    table->format = tableFormat(table->content);
+    table->read(std::move(content));
     for (const Text& damage : table->format.damage) table->tell(damage);
-
-    const auto& fields = table->format.fields;
-    for (std::size_t i = 0; i < fields.size(); ++i)
-        table->numbers.try_emplace(fields[i].name, static_cast<int>(i) + 1); // of two the first wins
-    table->findRows();
     table_ = std::move(table);
     row_ = 1;
+}
+
+void TableCursor::OpenedTable::read(Text bytes) {
+    static std::uint64_t opened = 0;
+    serial = ++opened;
+    content = std::move(bytes);
+    format = tableFormat(content);
+    const auto& fields = format.fields;
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        numbers.try_emplace(fields[i].name, static_cast<int>(i) + 1); // of two the first wins
+    findRows();
 }
 
 // Notes where the rows lie that are not deleted.
@@ -52,7 +55,7 @@ void TableCursor::OpenedTable::findRows() {
     for (std::size_t i = 0; i < format.rows; ++i) {
         const std::size_t start = format.firstRow + i * format.rowLength;
         if (content[start] == endOfTable) {
-            tell("the end mark stands in front of row " + std::to_string(i + 1));
+            format.damage.push_back("the end mark stands in front of row " + std::to_string(i + 1));
             return;
         }
         if (content[start] != deletedFlag) rows.push_back(start);

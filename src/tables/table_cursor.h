@@ -18,6 +18,9 @@
 
 namespace quillon {
 
+class Packer;
+class Unpacker;
+
 class TableCursor {
 public:
     /// Opens a table of the source folder by its bare name ("RACESHR.DBF") on its first row.
@@ -57,6 +60,9 @@ public:
     /// Tells one opened table from another, so that field numbers can be kept; 0 for no table.
     std::uint64_t serial() const { return table_ ? table_->serial : 0; }
 
+    friend void pack(Packer& out, const TableCursor& cursor);
+    friend bool unpack(Unpacker& in, TableCursor& cursor);
+
 private:
     struct NameHash {
         using is_transparent = void;
@@ -77,9 +83,12 @@ private:
         std::uint64_t serial = 0;
         mutable std::vector<Text> missing{}; ///< names told as missing
 
+        void read(Text bytes); ///< all that is known of a table by its content
         void findRows();
         void tell(TextView damage) const;
     };
+    friend void pack(Packer& out, const OpenedTable& table);
+    friend bool unpack(Unpacker& in, OpenedTable& table);
 
     struct StoredField {
         FieldForm form = FieldForm::unread;

@@ -1,4 +1,4 @@
-#include "card/fields.h"
+#include "card/race_card.h"
 #include "support/card_test.h"
 
 #include <array>
@@ -119,17 +119,6 @@ TEST_F(CardTest, ATextCellKnowsWhetherItWasEverGivenAValue) {
     entry.horseName = "";
     EXPECT_TRUE(entry.horseName.given());
     EXPECT_TRUE(entry.horseName.empty());
-}
-
-TEST_F(CardTest, FieldListsNameEveryField) {
-    std::size_t texts = 0;
-    PastLine line;
-    forEachField(pastLineFields, line, [&](TextView, auto& value) {
-        using Value = std::decay_t<decltype(value)>;
-        if constexpr (std::is_same_v<Value, Text>) ++texts;
-    });
-    // A past line is its texts and one number, which takes no more room than a text would.
-    EXPECT_LE(sizeof(PastLine), (texts + 1) * sizeof(Text));
 }
 
 } // namespace quillon

@@ -1,4 +1,5 @@
 // A snapshot put back is the state as it stood, whatever came between, and costs next to nothing.
+#include "everything_shown.h"
 #include "random_night.h"
 
 #include "app/start_up.h"

@@ -1,0 +1,91 @@
+#include "day/packing.h"
+
+#include "analysis/analysis_view.h"
+#include "card/card_packing.h"
+#include "screen/screen_fields.h"
+#include "screen/screen_packing.h"
+#include "tables/load_fields.h"
+#include "tables/load_packing.h"
+#include "tables/table_rows.h"
+
+#include <functional>
+
+namespace quillon {
+namespace {
+
+// Tells a program with other fields, or with tables of another size, from this one.
+std::uint64_t formOfState() {
+    Text form;
+    const auto add = [&](const auto& list) {
+        std::apply([&](const auto&... field) { ((form += field.name, form += ' '), ...); }, list);
+    };
+    const auto addAll = [&](const auto&... lists) { (add(lists), ...); };
+    addAll(cardScalars, furtherScalars, cardTables, raceInfoFields, raceEntryFields, lineFields, driverFields,
+           selectionFields, lineCursorFields);
+    addAll(colourFields, buttonFields, boxFields, labelFields, choiceListFields, menuStateFields,
+           raceHeaderFields, screenFields);
+    addAll(horseFields, furtherLineFields, trackRecordFields, trackTableFields, loadStateFields);
+    for (const std::size_t size : {sizeof(RaceCard), sizeof(LineCursor), sizeof(Screen), sizeof(LoadState)})
+        form += std::to_string(size) + ' ';
+    return std::hash<Text>{}(form);
+}
+
+// Which views have rows that are not packed.
+struct MadeRows {
+    bool lineTable = false;
+    bool profile = false;
+    bool stars = false;
+};
+
+MadeRows madeRowsOf(const Screen& state) {
+    return {.lineTable = state.dataView[lineTableView].hasMadeRows(),
+            .profile = state.profile.hasMadeRows(),
+            .stars = state.stars.hasMadeRows()};
+}
+
+// As if the user had gone back to the races before the state was taken.
+void showRaces(Snapshot& state) {
+    const Snapshot now = Snapshot::taken();
+    state.putBack();
+    attempt(MainScreen);
+    state = Snapshot::taken();
+    now.putBack();
+}
+
+} // namespace
+
+void pack(Packer& out, const Snapshot& state) {
+    static const std::uint64_t form = formOfState();
+    out.putNumber(form);
+    pack(out, state.card_);
+    pack(out, state.cursor_);
+    pack(out, state.screen_);
+    pack(out, state.load_);
+    const MadeRows made = madeRowsOf(state.screen_);
+    for (const bool view : {made.lineTable, made.profile, made.stars}) pack(out, view);
+}
+
+bool unpack(Unpacker& in, Snapshot& state) {
+    static const std::uint64_t form = formOfState();
+    std::uint64_t packedForm = 0;
+    MadeRows made;
+    if (!in.takeNumber(packedForm) || packedForm != form || !unpack(in, state.card_) ||
+        !unpack(in, state.cursor_) || !unpack(in, state.screen_) || !unpack(in, state.load_))
+        return false;
+    for (bool* const view : {&made.lineTable, &made.profile, &made.stars})
+        if (!unpack(in, *view)) return false;
+
+    Screen& screen = state.screen_;
+    if (made.lineTable) {
+        Grid& view = screen.dataView[lineTableView];
+        if (view.rows() != Grid::firstRow || view.columns() != state.load_.lineRows.fieldCount() + 1)
+            return false;
+        view.showRows(Grid::firstRow, rowsOf(state.load_.lineRows));
+    }
+    if (made.profile) screen.profile = Grid{0, 0};
+    if (made.stars) screen.stars = Grid{0, 0};
+    if ((made.profile && screen.profileVisible) || (made.stars && screen.starsVisible)) showRaces(state);
+    return true;
+}
+
+} // namespace quillon
