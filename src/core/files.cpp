@@ -32,6 +32,7 @@ constexpr std::array folderNames{
     FolderName{Folder::programs, "Programs"},
     FolderName{Folder::entries, "Entries"},
     FolderName{Folder::drivers, "Drivers"},
+    FolderName{Folder::recovery, "Recovery"},
 };
 
 TextView nameOf(Folder folder) {
@@ -276,6 +277,21 @@ void removeFile(const FilePlace& place) {
     disk::removeFile(path);
     if (disk::isThere(path)) fail(shownPath(place) + " can't be removed");
 }
+
+ClaimedFile::ClaimedFile(fs::path path, std::unique_ptr<DiskFile> file)
+    : path_(std::move(path)), file_(std::move(file)) {}
+
+std::unique_ptr<ClaimedFile> ClaimedFile::claim(const FilePlace& place) {
+    makeFolder(place.folder);
+    std::error_code error;
+    fs::path path = fs::absolute(pathOnDisk(place), error);
+    auto file = std::make_unique<DiskFile>(path, DiskFile::Mode::rewrite);
+    if (file->isTaken()) return nullptr;
+    if (!file->isOpen()) fail(shownPath(place) + " can't be made");
+    return std::unique_ptr<ClaimedFile>{new ClaimedFile{std::move(path), std::move(file)}};
+}
+
+ClaimedFile::~ClaimedFile() { disk::removeFile(path_); } // while it is still ours
 
 void writeFile(const FilePlace& place, TextView content) {
     makeFolder(place.folder);

@@ -30,6 +30,7 @@ enum class Folder {
     programs,
     entries,
     drivers,
+    recovery,
 };
 
 struct FilePlace {
@@ -133,6 +134,23 @@ void appendToFile(const FilePlace& place, TextView content);
 
 /// Takes the file away, if it is there. Fails when it can't be.
 void removeFile(const FilePlace& place);
+
+/// An empty file that tells other programs that this one lives: it is there until it is let go of, and is
+/// nobody's any more when the program ends in whatever way.
+class ClaimedFile {
+public:
+    /// Nothing where another program that lives has it. Fails when it can't be made.
+    static std::unique_ptr<ClaimedFile> claim(const FilePlace& place);
+    ~ClaimedFile();
+    ClaimedFile(const ClaimedFile&) = delete;
+    ClaimedFile& operator=(const ClaimedFile&) = delete;
+
+private:
+    ClaimedFile(std::filesystem::path path, std::unique_ptr<DiskFile> file);
+
+    std::filesystem::path path_; ///< whole, since the working folder may change
+    std::unique_ptr<DiskFile> file_;
+};
 
 /// Told of every file that is about to be written, made or replaced, before anything happens to it; none when
 /// nobody asks.
