@@ -6,12 +6,12 @@
 #include <utility>
 
 namespace quillon {
-namespace member_count {
+namespace counting {
 
 template <class Value>
-constexpr bool isOptional = false;
+inline constexpr bool isOptional = false;
 template <class Value>
-constexpr bool isOptional<std::optional<Value>> = true;
+inline constexpr bool isOptional<std::optional<Value>> = true;
 
 // Becomes any member. An optional takes anything by itself.
 struct Anything {
@@ -32,10 +32,10 @@ constexpr std::size_t count() {
         return count<Record, most - 1>();
 }
 
-} // namespace member_count
+} // namespace counting
 
 /// The members of a struct without constructors, of a hundred at most; a base counts as one.
 template <class Record>
-constexpr std::size_t memberCount = member_count::count<Record, 100>();
+constexpr std::size_t memberCount = counting::count<Record, 100>();
 
 } // namespace quillon
