@@ -69,6 +69,7 @@ inline constexpr std::tuple screenFields{
     Field{"boxTenVisible", &Screen::boxTenVisible},
     Field{"boxTenColumn", &Screen::boxTenColumn},
     Field{"refunds", &Screen::refunds},
+    Field{"boardsToTakeIn", &Screen::boardsToTakeIn},
     Field{"dataView", &Screen::dataView},
     Field{"dataViewVisible", &Screen::dataViewVisible},
     Field{"raceView", &Screen::raceView},

@@ -1,6 +1,7 @@
 // The list of changes, the way back, and the program's selections beside mine.
 #include "desktop/changes_panel.h"
 
+#include "card/columns.h"
 #include "day/changes.h"
 #include "desktop/main_window_test.h"
 
@@ -91,7 +92,7 @@ TEST_F(ChangesPanelTest, F2IsTheListButInACellItEdits) {
     auto& dock = child<QDockWidget>(*window, "ChangesDock");
     auto& table = child<QTableView>(*window, "RaceView");
     table.setFocus();
-    table.setCurrentIndex(table.model()->index(0, 2));
+    table.setCurrentIndex(table.model()->index(0, RaceColumn::classText));
     QTest::keyClick(&table, Qt::Key_F2);
     EXPECT_FALSE(dock.isVisible());
     EXPECT_TRUE(table.isPersistentEditorOpen(table.currentIndex()) || table.findChild<QLineEdit*>());
