@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <string>
+#include <system_error>
 
 namespace quillon {
 
@@ -34,6 +35,9 @@ private:
 };
 
 namespace disk {
+
+/// Why the last step that was not done was not.
+std::error_code lastError();
 
 /// The folder that "A Quillon PRO" lies in.
 std::filesystem::path root();

@@ -56,6 +56,8 @@ bool DiskFile::close() {
 
 namespace disk {
 
+std::error_code lastError() { return {errno, std::generic_category()}; }
+
 fs::path root() { return {}; }
 
 bool isReservedName(TextView) { return false; }

@@ -86,6 +86,19 @@ bool DiskFile::close() {
 
 namespace disk {
 
+// The common code where there is one: not every library knows the system's.
+std::error_code lastError() {
+    switch (const DWORD error = GetLastError()) {
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION: return make_error_code(std::errc::text_file_busy);
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL: return make_error_code(std::errc::no_space_on_device);
+    case ERROR_WRITE_PROTECT: return make_error_code(std::errc::read_only_file_system);
+    case ERROR_ACCESS_DENIED: return make_error_code(std::errc::permission_denied);
+    default: return {static_cast<int>(error), std::system_category()};
+    }
+}
+
 fs::path root() { return "C:\\"; }
 
 // "con", "COM1.txt" and "Lpt2 .x" are devices in every folder; blanks and points at the end of a name are

@@ -177,6 +177,16 @@ Text readFile(const FilePlace& place) {
 }
 
 FileWatch fileWatch;
+WriteFailureWatch writeFailureWatch;
+
+namespace {
+
+[[noreturn]] void failWriting(const FilePlace& place, std::error_code cause, TextView what) {
+    if (writeFailureWatch) writeFailureWatch({place, cause});
+    fail(what);
+}
+
+} // namespace
 
 FilePieces::FilePieces(const FilePlace& place) {
     const fs::path path = pathOnDisk(place);
@@ -201,14 +211,18 @@ void makeFolder(Folder folder) {
     if (path.empty()) return;
     std::error_code error;
     fs::create_directories(path, error);
-    if (!fs::is_directory(path, error)) fail("the folder " + shownPath({folder, ""}) + " can't be made");
+    const std::error_code cause = error;
+    if (!fs::is_directory(path, error))
+        failWriting({folder, ""}, cause, "the folder " + shownPath({folder, ""}) + " can't be made");
 }
 
 // Programs that replace the same file at the same time write each to a temporary file of its own.
-PreparedFile::PreparedFile(const FilePlace& place) : target_(pathOnDisk(place)) {
+PreparedFile::PreparedFile(const FilePlace& place) : place_(place), target_(pathOnDisk(place)) {
     constexpr int mostPrograms = 9;
     if (fileWatch) fileWatch(place);
-    if (disk::isWriteProtected(target_)) fail(shownPath(place) + " is write-protected");
+    if (disk::isWriteProtected(target_))
+        failWriting(place, make_error_code(std::errc::permission_denied),
+                    shownPath(place) + " is write-protected");
     for (int program = 1; program <= mostPrograms; ++program) {
         ending_ = program == 1 ? Text{} : std::to_string(program);
         temporary_ = target_;
@@ -216,7 +230,13 @@ PreparedFile::PreparedFile(const FilePlace& place) : target_(pathOnDisk(place)) 
         file_ = std::make_unique<DiskFile>(temporary_, DiskFile::Mode::rewrite);
         if (!file_->isTaken()) break;
     }
-    if (!file_->isOpen()) fail(shownPath(place) + " can't be written");
+    if (file_->isOpen()) return;
+    const auto cause = file_->isTaken() ? make_error_code(std::errc::text_file_busy) : disk::lastError();
+    failWriting(place, cause, shownPath(place) + " can't be written");
+}
+
+void PreparedFile::failToWrite() {
+    failWriting(place_, disk::lastError(), nameOn(target_) + " can't be written");
 }
 
 PreparedFile::PreparedFile(const FilePlace& place, TextView content) : PreparedFile(place) {
@@ -234,24 +254,25 @@ void PreparedFile::write(TextView piece) {
     if (piece.size() < mostGathered)
         gathered_ += piece;
     else if (!file_->write(piece))
-        fail(nameOn(target_) + " can't be written");
+        failToWrite();
 }
 
 void PreparedFile::writeGathered() {
-    if (!file_->write(gathered_)) fail(nameOn(target_) + " can't be written");
+    if (!file_->write(gathered_)) failToWrite();
     gathered_.clear();
 }
 
 void PreparedFile::finish() {
     if (finished_) return;
     writeGathered();
-    if (!file_->flush()) fail(nameOn(target_) + " can't be written");
+    if (!file_->flush()) failToWrite();
     finished_ = true;
 }
 
 void PreparedFile::putInPlace() {
     finish();
-    if (!disk::replaceFile(temporary_, target_)) fail(nameOn(target_) + " can't be replaced");
+    if (!disk::replaceFile(temporary_, target_))
+        failWriting(place_, disk::lastError(), nameOn(target_) + " can't be replaced");
     temporary_.clear();
     file_->close(); // or it could not be taken back: some systems replace no open file
 }
@@ -262,7 +283,8 @@ void putInPlaceTogether(PreparedFile& first, PreparedFile& second) {
     old += ".quillon-old" + second.ending_;
     disk::removeFile(old);
     const bool replaces = disk::isThere(target);
-    if (replaces && !disk::keepAs(target, old)) fail(nameOn(target) + " can't be kept while it is replaced");
+    if (replaces && !disk::keepAs(target, old))
+        failWriting(first.place_, disk::lastError(), nameOn(target) + " can't be kept while it is replaced");
     const bool bothInPlace = attempt([&] { first.putInPlace(); }) && attempt([&] { second.putInPlace(); });
     const bool firstAlone = !bothInPlace && first.temporary_.empty();
     if (firstAlone && replaces)
@@ -275,7 +297,8 @@ void putInPlaceTogether(PreparedFile& first, PreparedFile& second) {
 void removeFile(const FilePlace& place) {
     const fs::path path = pathOnDisk(place);
     disk::removeFile(path);
-    if (disk::isThere(path)) fail(shownPath(place) + " can't be removed");
+    const std::error_code cause = disk::lastError();
+    if (disk::isThere(path)) failWriting(place, cause, shownPath(place) + " can't be removed");
 }
 
 ClaimedFile::ClaimedFile(fs::path path, std::unique_ptr<DiskFile> file)
@@ -309,11 +332,12 @@ void appendToFile(const FilePlace& place, TextView content) {
     if (!content.empty() && endsWithoutLineEnd(path)) record += crLf;
     record += content;
     DiskFile file{path, DiskFile::Mode::append};
-    if (!file.isOpen()) fail(shownPath(place) + " can't be written");
+    if (!file.isOpen()) failWriting(place, disk::lastError(), shownPath(place) + " can't be written");
     if (file.write(record) && file.flush() && file.close()) return;
+    const std::error_code cause = disk::lastError();
     file.close();
     if (!error && isStartOf(record, path, size)) takeBack(path, isNew, size);
-    fail(shownPath(place) + " can't be written");
+    failWriting(place, cause, shownPath(place) + " can't be written");
 }
 
 std::optional<TextView> LineReader::next() {

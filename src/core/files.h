@@ -14,6 +14,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <system_error>
 #include <vector>
 
 namespace quillon {
@@ -114,6 +115,9 @@ private:
     void writeGathered();
     void finish(); ///< everything on the disk
 
+    [[noreturn]] void failToWrite();
+
+    FilePlace place_;
     std::filesystem::path target_;
     std::filesystem::path temporary_; ///< none once it is in place
     Text ending_;                     ///< of its name, where other programs replace the same file
@@ -156,6 +160,16 @@ private:
 /// nobody asks.
 using FileWatch = std::function<void(const FilePlace& place)>;
 extern FileWatch fileWatch;
+
+/// A file, or a folder where the name is empty, that could not be written, made, replaced or removed.
+struct WriteFailure {
+    FilePlace place{};
+    std::error_code cause{};
+};
+
+/// Told of every write that fails, once it has failed; none when nobody asks.
+using WriteFailureWatch = std::function<void(const WriteFailure& failure)>;
+extern WriteFailureWatch writeFailureWatch;
 
 /// Lines of a text, whether they end in LF or CR LF. A last line without an end counts; an end of the text
 /// after a line end does not start another line.

@@ -21,19 +21,6 @@ double lineInRow(int row) {
     return lenientNumber(screen.dataView[pastPerformanceView].text(row, DataColumn::lineNumber));
 }
 
-struct LineNumbers {
-    double first = 0;
-    double last = 0;
-};
-
-LineNumbers linesOnShow() {
-    int count = 0;
-    for (int row = 1; row <= numberedRows; ++row)
-        if (lineInRow(row) > 0) ++count;
-    const double first = lineInRow(1);
-    return {first, first + count - 1};
-}
-
 // Ranks the race on show again, and everything that follows from it.
 void rankAgain(int race, const Ranking& ranking, Posts posts) {
     attempt(RE_Calculate);
@@ -62,6 +49,14 @@ void takeLine(double row, const Ranking& ranking, Posts posts) {
 }
 
 } // namespace
+
+LineNumbers linesOnShow() {
+    int count = 0;
+    for (int row = 1; row <= numberedRows; ++row)
+        if (lineInRow(row) > 0) ++count;
+    const double first = lineInRow(1);
+    return {first, first + count - 1};
+}
 
 void CommandThree() {
     const Step step{"CommandThree"};

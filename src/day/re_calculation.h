@@ -9,6 +9,14 @@ namespace quillon {
 /// ranking is strict, and the posts of the selections stay as they were.
 void Command3(int button);
 
+/// The numbers that the race edit button takes: those of the lines of the past-performance view, from the
+/// first to the last. Before any was opened the last is below the first.
+struct LineNumbers {
+    double first = 0;
+    double last = 0;
+};
+LineNumbers linesOnShow();
+
 /// The race edit button: asks for the number of a line of the past-performance view and takes it.
 void Command7();
 

@@ -35,6 +35,14 @@ int raceViewOnShow() {
 
 int raceLinesOnShow() { return hasView(raceOnShow()) ? raceOnShow() : 0; }
 
+int horsesIn(int race) {
+    int horses = 0;
+    if (race < 1 || race >= raceExtent) return horses;
+    for (int index = 1; index < entryExtent; ++index)
+        if (!trimmed(card.entry[{race, index}].horseName).empty()) ++horses;
+    return horses;
+}
+
 Text horseIn(int race, int row) {
     if (!hasView(race) || !isBelowHead(raceViewOf(race), row)) return {};
     return plainText(raceViewOf(race), row, RaceColumn::horseName);

@@ -15,6 +15,9 @@ int raceViewOnShow();
 /// The race whose past lines are on show; 0 where the race on show has no view of them.
 int raceLinesOnShow();
 
+/// How many horses the card has in a race; only the first twelve are shown and rated.
+int horsesIn(int race);
+
 /// The name of the horse in a row of a race view; empty where the row only holds its place.
 Text horseIn(int race, int row);
 

@@ -22,6 +22,18 @@ std::optional<Text> resultsText() {
     return content;
 }
 
+ResultsLayout layoutOf(TextView content) {
+    bool hasColumns = false;
+    bool hasWords = false;
+    LineReader lines{content};
+    while (const auto line = lines.next()) {
+        hasColumns = hasColumns || line->starts_with("PRG");
+        hasWords = hasWords || line->starts_with("1st");
+    }
+    if (hasColumns == hasWords) return ResultsLayout::unknown;
+    return hasColumns ? ResultsLayout::columns : ResultsLayout::words;
+}
+
 Text resultsTrackKey() {
     const TextView track = trimmed(cardName().substr(0, cardName().find('_')));
     const auto settings = fileContent({Folder::working, "TrackEditor.ini"});

@@ -13,6 +13,14 @@ namespace quillon {
 /// The card's results file, ".pmr" in the results folder; nothing where there is none or no card is open.
 std::optional<Text> resultsText();
 
+/// What a results text is laid out as, by the lines that each pass looks for.
+enum class ResultsLayout {
+    unknown, ///< neither, or marks of both
+    columns, ///< a heading "PRG" above three finishers
+    words,   ///< lines that begin "1st", "2nd" ...
+};
+ResultsLayout layoutOf(TextView content);
+
 /// The track's key as the track table has it, looked up by the card's name up to its first "_": the first row
 /// that begins with that track gives its key column. A short code may so find a longer one's row. Empty
 /// without such a row.

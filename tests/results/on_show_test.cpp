@@ -136,5 +136,14 @@ TEST(ViewHints, EveryHeadIsToldInPlainWords) {
     EXPECT_GT(heads, 100);
 }
 
+// Thirteen horses, of which twelve have a row; an index without a horse holds its place only.
+TEST_F(OnShowTest, AllHorsesOfARaceAreCountedBeyondTheTwelfthToo) {
+    for (int index = 1; index <= 14; ++index) card.entry(4, index).horseName = index == 2 ? " " : "Horse";
+    EXPECT_EQ(13, horsesIn(4));
+    EXPECT_EQ(0, horsesIn(5));
+    EXPECT_EQ(0, horsesIn(0));
+    EXPECT_EQ(0, horsesIn(31));
+}
+
 } // namespace
 } // namespace quillon

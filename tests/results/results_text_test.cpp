@@ -259,5 +259,14 @@ TEST_F(PickPoolTest, APoolOfAnyLengthEnds) {
     EXPECT_EQ(8, cursor.race); // beyond any race: the cursor stays
 }
 
+TEST_F(ResultsTextTest, TheLayoutIsToldByTheLinesThatThePassesLookFor) {
+    EXPECT_EQ(ResultsLayout::columns, layoutOf("Results\r\nRace: 1\r\nPRG HORSE\r\n 1 ALPHA\r\n"));
+    EXPECT_EQ(ResultsLayout::words, layoutOf("Results\n1st 3 Alpha 4.20\n2nd 5 Beta\n"));
+    EXPECT_EQ(ResultsLayout::unknown, layoutOf("REFUNDS:   1  3\r\n"));
+    EXPECT_EQ(ResultsLayout::unknown, layoutOf("PRG\n1st\n"));
+    EXPECT_EQ(ResultsLayout::unknown, layoutOf(""));
+    EXPECT_EQ(ResultsLayout::unknown, layoutOf(" 1st after a blank is no finisher\n"));
+}
+
 } // namespace
 } // namespace quillon
