@@ -82,7 +82,8 @@ void ChoiceDialog::buildPages() {
     cards.view->sortByColumn(ChoiceModel::date, Qt::DescendingOrder); // the latest card is the likeliest
     cards.view->header()->setStretchLastSection(true);
     addPage(&Screen::trackList, CommandId::SelectTrack, tr("There is no track yet."));
-    addPage(&Screen::driverList, CommandId::DriverChoice, tr("There is no driver yet."));
+    Page& drivers = addPage(&Screen::driverList, CommandId::DriverChoice, tr("There is no driver yet."));
+    drivers.found->sort(ChoiceModel::fileName);
 }
 
 ChoiceDialog::Page& ChoiceDialog::addPage(ChoiceList Screen::*list, CommandId command, const QString& empty) {
@@ -183,6 +184,7 @@ void ChoiceDialog::openPage(Page& page) {
     stack_->setCurrentWidget(page.view);
     filter_->clear();
     find({});
+    goToTodaysDriver(page);
     show();
     raise();
     activateWindow();
@@ -232,6 +234,20 @@ void ChoiceDialog::selectFirst(Page& page) {
     if (!first.isValid()) return;
     page.view->setCurrentIndex(first);
     page.view->scrollToTop();
+}
+
+// The list of drivers opens at the one who stands in the entry's row.
+void ChoiceDialog::goToTodaysDriver(Page& page) {
+    const auto change = page.list == &Screen::driverList ? driverChange() : std::nullopt;
+    if (!change || change->driver.empty()) return;
+    const QString driver = shown(change->driver);
+    for (int row = 0; row < page.found->rowCount(); ++row) {
+        const QModelIndex index = page.found->index(row, ChoiceModel::fileName);
+        if (!index.data().toString().startsWith(driver, Qt::CaseInsensitive)) continue;
+        page.view->setCurrentIndex(index);
+        page.view->scrollTo(index, QAbstractItemView::PositionAtCenter);
+        return;
+    }
 }
 
 void ChoiceDialog::pick(Page& page, const QModelIndex& index) {

@@ -59,6 +59,7 @@ private:
     void pick(Page& page, const QModelIndex& index);
     void find(const QString& text);
     void selectFirst(Page& page);
+    void goToTodaysDriver(Page& page);
     void showWhose();
     void showState();
     void lay();

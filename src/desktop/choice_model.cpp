@@ -18,6 +18,12 @@ QString dateDigits(const QString& name) {
     return QDate::fromString(text, "yyyyMMdd").isValid() ? text : QString{};
 }
 
+/// By name, lines without one after all names, and the way out last.
+QString sortKey(const QString& name) {
+    if (name.trimmed() == "EXIT") return QChar{0xFFFD};
+    return name.trimmed().isEmpty() ? QString{QChar{0xFFFC}} : name;
+}
+
 } // namespace
 
 ChoiceModel::ChoiceModel(const ChoiceList& list, bool ofCards, QObject* parent)
@@ -52,6 +58,7 @@ QVariant ChoiceModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
     const Text& text = line(index.row());
     if (role == Qt::DisplayRole) return cell(text, index.column());
+    if (role == sortRole && !ofCards_) return sortKey(shown(text));
     if (role == sortRole)
         return index.column() == date ? dateDigits(shown(text)) : cell(text, index.column());
     return {};

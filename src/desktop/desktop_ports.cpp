@@ -46,6 +46,14 @@ std::optional<Text> askForText(QWidget* window, const Text& text, const Text& ti
     return typed(dialog.textValue());
 }
 
+std::optional<Text> askForLine(QWidget* window, const Text& text, const Text& title,
+                               const LineNumberAsked& line) {
+    LineNumberDialog dialog{shown(text), line, window};
+    dialog.setWindowTitle(titleOf(title));
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return typed(dialog.number());
+}
+
 QString cardName() {
     const QString name = shown(card.cardFileName);
     return name.section('.', 0, 0);
@@ -118,7 +126,10 @@ void DesktopPorts::fillDialogs() {
         return ask(front(), QMessageBox::Question, text, title, QMessageBox::Yes | QMessageBox::No,
                    QMessageBox::No) == QMessageBox::Yes;
     };
-    ports.input = [this](const Text& text, const Text& title) { return askForText(front(), text, title); };
+    ports.input = [this](const Text& text, const Text& title) {
+        if (const auto line = lineAsked_()) return askForLine(front(), text, title, *line);
+        return askForText(front(), text, title);
+    };
     ports.error = [this](const Text& text) {
         errorShown_ = true;
         ask(front(), QMessageBox::Critical, text, {}, QMessageBox::Ok, QMessageBox::Ok);

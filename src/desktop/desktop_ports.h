@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/appearance.h"
+#include "desktop/line_number_dialog.h"
 #include "desktop/print_preview.h"
 #include "desktop/text_viewer.h"
 #include "screen/ports.h"
@@ -12,7 +13,9 @@
 #include <QProgressDialog>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace quillon {
@@ -57,6 +60,10 @@ public:
     bool errorShown() const { return errorShown_; }
     void commandBegins() { errorShown_ = false; }
 
+    /// What a question for a text stands for, where that is the number of a past line.
+    using LineAsked = std::function<std::optional<LineNumberAsked>()>;
+    void setLineAsked(LineAsked asked) { lineAsked_ = std::move(asked); }
+
     /// The command that may have asked for progress or paper has ended.
     void commandEnded();
 
@@ -80,6 +87,7 @@ private:
     QPointer<PrintPreview> preview_; ///< that the running command has opened
     PrintDocument printed_;          ///< what the running command has printed so far
     WorkProgress progress_;
+    LineAsked lineAsked_ = [] { return std::optional<LineNumberAsked>{}; };
     bool builtInViewer_ = true;
     bool ended_ = false;
     bool errorShown_ = false;

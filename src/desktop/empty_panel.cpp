@@ -9,6 +9,7 @@
 
 #include <QDesktopServices>
 #include <QEvent>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QUrl>
@@ -34,6 +35,9 @@ constexpr std::array vendorTables{
 };
 constexpr int buttonMargins = 480;   ///< twips, left and right of a caption together
 constexpr std::size_t raceTable = 0; ///< there is no card without it
+
+// A program that had a card open loads no other one.
+bool canLoad() { return theScreen.start.enabled && theScreen.startOffer == StartOffer::load; }
 
 bool isThere(const char* file) {
     bool found = false;
@@ -71,6 +75,7 @@ EmptyPanel::EmptyPanel(CommandRunner& runner, Appearance& appearance, QWidget* p
     column->addWidget(notice_);
     column->addStretch(3);
     connect(&runner_, &CommandRunner::ran, this, &EmptyPanel::takeUp);
+    connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, &EmptyPanel::refresh);
     connect(&appearance_, &Appearance::changed, this, &EmptyPanel::lay);
     lay();
 }
@@ -133,6 +138,8 @@ void EmptyPanel::refresh() {
     if (cardIsOpen()) return; // another page is on show
     folder_->setText(sourceFolderOnDisk());
     lookForTables();
+    watchFolder();
+    start_->setVisible(canLoad());
     start_->setText(shown(theScreen.start.caption));
     start_->setAccessibleName(start_->text());
     start_->setEnabled(CommandRunner::canRun(CommandId::Start));
@@ -150,11 +157,21 @@ void EmptyPanel::lookForTables() {
     if (there != there_) notice_->clear(); // it spoke of the tables as they were
     there_ = there;
     const bool complete = std::all_of(there.begin(), there.end(), [](bool table) { return table; });
-    if (!theScreen.start.enabled)
+    if (!canLoad())
         return heading_->setText(
             tr("The card is closed. Recall a saved card, or start Quillon again for another day's tables"));
     heading_->setText(complete ? tr("The vendor's tables are here. Press Start.")
                                : tr("Put the vendor's tables into this folder, then press Start"));
+}
+
+// A folder that is made later is seen from the one that it is made in.
+void EmptyPanel::watchFolder() {
+    QString folder = sourceFolderOnDisk();
+    while (!QFileInfo{folder}.isDir() && QFileInfo{folder}.path() != folder)
+        folder = QFileInfo{folder}.path();
+    if (watcher_.directories() == QStringList{folder}) return;
+    if (!watcher_.directories().isEmpty()) watcher_.removePaths(watcher_.directories());
+    watcher_.addPath(folder);
 }
 
 void EmptyPanel::openFolder() {

@@ -4,6 +4,7 @@
 #include "desktop/appearance.h"
 #include "desktop/command_runner.h"
 
+#include <QFileSystemWatcher>
 #include <QLabel>
 #include <QPushButton>
 #include <QWidget>
@@ -33,11 +34,13 @@ private:
     void buildButtons();
     void lay();
     void lookForTables();
+    void watchFolder();
     void openFolder();
     void takeUp(CommandId id);
 
     CommandRunner& runner_;
     Appearance& appearance_;
+    QFileSystemWatcher watcher_; ///< of the source folder, or of the nearest one above it
     Tables there_{};
     QLabel* heading_;
     QLabel* folder_;

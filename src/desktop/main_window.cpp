@@ -2,9 +2,12 @@
 
 #include "card/race_card.h"
 #include "day/changes.h"
+#include "day/re_calculation.h"
 #include "desktop/analysis_panel.h"
+#include "desktop/before_commands.h"
 #include "desktop/board_panel.h"
 #include "desktop/card_finder.h"
+#include "desktop/card_texts.h"
 #include "desktop/cell_table_view.h"
 #include "desktop/changes_panel.h"
 #include "desktop/choice_dialog.h"
@@ -16,6 +19,7 @@
 #include "desktop/header_panel.h"
 #include "desktop/keys_dialog.h"
 #include "desktop/menus.h"
+#include "desktop/notice_bar.h"
 #include "desktop/overview_panel.h"
 #include "desktop/past_lines_panel.h"
 #include "desktop/race_bar.h"
@@ -24,6 +28,8 @@
 #include "desktop/race_panel.h"
 #include "desktop/shown_text.h"
 #include "desktop/stars_window.h"
+#include "desktop/window_notices.h"
+#include "results/on_show.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -31,6 +37,7 @@
 #include <QDockWidget>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QSessionManager>
 #include <QSettings>
 #include <QStatusBar>
 #include <QStyle>
@@ -64,6 +71,9 @@ MainWindow::MainWindow(Appearance& appearance, QWidget* parent)
     connectFinder();
     stars_ = new StarsWindow{runner_, appearance_, this};
     choices_ = new ChoiceDialog{runner_, appearance_, this};
+    buildNotices();
+    watchSession();
+    connect(&runner_, &CommandRunner::aboutToRun, this, [this] { cardName_ = card.cardFileName; });
     connect(&runner_, &CommandRunner::aboutToRun, ports_, &DesktopPorts::commandBegins);
     connect(&runner_, &CommandRunner::ran, ports_, &DesktopPorts::commandEnded);
     connect(ports_, &DesktopPorts::couldNot, this,
@@ -92,9 +102,11 @@ void MainWindow::buildPages() {
     column->setContentsMargins(6, 4, 6, 2);
     column->setSpacing(4);
     raceBar_ = new RaceBar{runner_, appearance_, centre};
+    bar_ = new NoticeBar{appearance_, centre};
     pages_ = new QStackedWidget{centre};
     find_ = new FindBar{centre};
     column->addWidget(raceBar_);
+    column->addWidget(bar_);
     column->addWidget(pages_, 1);
     column->addWidget(find_);
 
@@ -278,12 +290,29 @@ void MainWindow::buildHelpMenu() {
     QAction* journal = help->addAction(tr("&Fault Journal..."));
     journal->setObjectName("FaultJournal");
     journal->setStatusTip(tr("What was passed over in tables and files since the start"));
-    connect(journal, &QAction::triggered, this, [this] {
-        if (!journal_) journal_ = new FaultJournalDialog{appearance_, this};
-        journal_->refresh();
-        journal_->show();
-        journal_->raise();
-        journal_->activateWindow();
+    connect(journal, &QAction::triggered, this, &MainWindow::openJournal);
+}
+
+void MainWindow::openJournal() {
+    if (!journal_) journal_ = new FaultJournalDialog{appearance_, this};
+    journal_->refresh();
+    journal_->show();
+    journal_->raise();
+    journal_->activateWindow();
+}
+
+void MainWindow::buildNotices() {
+    auto* faults = new QPushButton{this};
+    statusBar()->addPermanentWidget(faults);
+    connect(faults, &QPushButton::clicked, this, &MainWindow::openJournal);
+    notices_ = new WindowNotices{runner_, *bar_, *faults};
+    before_ = new BeforeCommands{runner_, *this};
+    connect(before_, &BeforeCommands::refused, notices_, &WindowNotices::tellRefusal);
+    ports_->setLineAsked([this]() -> std::optional<LineNumberAsked> {
+        const LineNumbers numbers = linesOnShow();
+        if (runner_.running() != CommandId::Command7 || numbers.last < numbers.first) return std::nullopt;
+        return LineNumberAsked{shown(horseIn(raceViewOnShow(), theScreen.currentEntry)),
+                               static_cast<int>(numbers.first), static_cast<int>(numbers.last)};
     });
 }
 
@@ -307,6 +336,22 @@ void MainWindow::openGuide() {
     guide_->activateWindow();
 }
 
+// The desktop ends the session: the same question as at every other end.
+void MainWindow::watchSession() {
+    connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) {
+        if (!session.allowsInteraction()) return;
+        if (!before_->mayLoseCard()) session.cancel();
+        session.release();
+    });
+}
+
+// With Qt's mark of what is not saved.
+void MainWindow::titleWindow() {
+    const bool isCard = cardIsOpen() && !card.cardFileName.empty();
+    setWindowTitle(isCard ? cardTitle() + "[*]" : shown(theScreen.caption));
+    setWindowModified(isCard && changes.unsaved() > 0);
+}
+
 QWidget* MainWindow::pageWanted() const {
     const bool showsTable = theScreen.summaryVisible || theScreen.profileVisible || theScreen.tracksVisible ||
                             theScreen.picksVisible;
@@ -328,7 +373,8 @@ void MainWindow::leaveOverviewWithTheRace() {
 
 void MainWindow::refresh() {
     leaveOverviewWithTheRace();
-    setWindowTitle(shown(theScreen.caption));
+    titleWindow();
+    notices_->refresh();
     menus_->refresh();
     raceBar_->refresh();
     header_->refresh();
@@ -350,8 +396,11 @@ void MainWindow::refresh() {
 // A save that went well says nothing of its own.
 void MainWindow::tellSaved(CommandId id) {
     constexpr int aGlance = 8000; // milliseconds
-    if (id != CommandId::Save || !cardIsOpen() || ports_->errorShown()) return;
-    statusBar()->showMessage(tr("The card is saved as %1").arg(shown(card.cardFileName)), aGlance);
+    if (ports_->errorShown()) return;
+    if (id == CommandId::Save && cardIsOpen())
+        statusBar()->showMessage(tr("The card is saved as %1").arg(shown(card.cardFileName)), aGlance);
+    if (id == CommandId::CloseRC && !cardIsOpen() && !cardName_.empty())
+        tell(tr("%1 is saved, with its results and all changes, and closed").arg(shown(cardName_)));
 }
 
 void MainWindow::tell(const QString& text) {

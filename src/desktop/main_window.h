@@ -11,6 +11,7 @@
 namespace quillon {
 
 class AnalysisPanel;
+class BeforeCommands;
 class BoardPanel;
 class ChangesPanel;
 class CardFinder;
@@ -22,6 +23,7 @@ class FindBar;
 class GuideWindow;
 class HeaderPanel;
 class Menus;
+class NoticeBar;
 class OverviewPanel;
 class PastLinesPanel;
 class RaceBar;
@@ -29,6 +31,7 @@ class RaceListPanel;
 class RacePage;
 class RacePanel;
 class StarsWindow;
+class WindowNotices;
 
 /// The window's size at its first start: as designed, or as much as there is room for.
 QSize firstSize(QSize designed, QSize room);
@@ -43,6 +46,7 @@ public:
     CommandRunner& runner() { return runner_; }
     Menus& menus() { return *menus_; }
     DesktopPorts& outside() { return *ports_; }
+    BeforeCommands& before() { return *before_; }
 
     /// Draws everything that the screen holds now.
     void refresh();
@@ -62,6 +66,10 @@ private:
     void showChanges(bool wanted);
     void tell(const QString& text);
     void tellRecorded(CommandId id);
+    void buildNotices();
+    void watchSession();
+    void openJournal();
+    void titleWindow();
     void buildMenus();
     void connectPanels();
     void connectFinder();
@@ -79,6 +87,9 @@ private:
     Appearance& appearance_;
     CommandRunner runner_;
     DesktopPorts* ports_ = nullptr;
+    BeforeCommands* before_ = nullptr;
+    NoticeBar* bar_ = nullptr;
+    WindowNotices* notices_ = nullptr;
     Menus* menus_ = nullptr;
     RaceBar* raceBar_ = nullptr;
     HeaderPanel* header_ = nullptr;
@@ -102,6 +113,7 @@ private:
     QDockWidget* changesDock_ = nullptr;
     bool overviewWanted_ = false;
     Text raceShown_; ///< at the last refresh
+    Text cardName_;  ///< its file, before the command that runs
 };
 
 } // namespace quillon

@@ -1,6 +1,7 @@
 #include "desktop/board_panel.h"
 #include "screen/ports.h"
 
+#include "desktop/before_commands.h"
 #include "desktop/main_window.h"
 #include "desktop/shown_text.h"
 #include "desktop/window_test.h"
@@ -226,6 +227,7 @@ TEST_F(WindowTest, TheStatusBarTellsOfDroppedTyping) {
     startSampleCard();
     MainWindow window{appearance};
     ports.message = [](auto&, auto&) {}; // a load ends with one
+    window.before().ask = [](auto&) { return goOnAnswer; };
     window.show();
     auto& first = child<QLineEdit>(window, "Box4");
     QTest::keyClicks(&first, "7");

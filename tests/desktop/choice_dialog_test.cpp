@@ -9,6 +9,8 @@
 #include <QLocale>
 #include <QMainWindow>
 
+#include <set>
+
 namespace quillon {
 namespace {
 
@@ -193,8 +195,13 @@ TEST_F(ChoiceDialogTest, ADriverIsTypedForAndPicked) {
     EXPECT_EQ("Change Driver", dialog.windowTitle());
     QTreeView& drivers = list("DriverChoice");
     ASSERT_EQ(static_cast<int>(screen.driverList.lines.size()), drivers.model()->rowCount());
-    for (int row = 0; row < drivers.model()->rowCount(); ++row)
-        EXPECT_EQ(quillon::shown(screen.driverList.lines[static_cast<std::size_t>(row)]), at(drivers, row));
+    std::multiset<std::string> lines;
+    std::multiset<std::string> listed;
+    for (int row = 0; row < drivers.model()->rowCount(); ++row) {
+        lines.insert(quillon::shown(screen.driverList.lines[static_cast<std::size_t>(row)]).toStdString());
+        listed.insert(at(drivers, row).toStdString());
+    }
+    EXPECT_EQ(lines, listed);
     const QFontMetrics metrics{drivers.font()};
     EXPECT_EQ(metrics.horizontalAdvance("MMMM"), metrics.horizontalAdvance("ii.1")) << "fixed pitch";
     const QString whose = child<QLabel>(dialog, "ChoiceWhose").text();

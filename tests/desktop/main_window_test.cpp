@@ -181,7 +181,7 @@ TEST_F(MainWindowTest, StartLoadsTheCardAndEndsOnRaceOne) {
     EXPECT_EQ("Select Race", start.text());
     EXPECT_FALSE(start.isEnabled());
     EXPECT_EQ("RACE 1", child<QLabel>(*window, "race").text());
-    EXPECT_EQ(quillon::shown(screen.caption), window->windowTitle());
+    EXPECT_EQ("MVR, Saturday 14 March 2026[*]", window->windowTitle());
 }
 
 TEST_F(WindowTest, TheCardIsInSightBehindTheLoadsMessage) {

@@ -1,0 +1,52 @@
+// What the user has to know, in lines that stay above the races until they are read or have become untrue.
+#pragma once
+
+#include "desktop/appearance.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+namespace quillon {
+
+/// A line of the bar. One of the same key takes its place.
+struct Notice {
+    QString key{};
+    QString text{};
+    QString action{}; ///< caption of its button; none without one
+    std::function<void()> act{};
+};
+
+class NoticeBar : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit NoticeBar(Appearance& appearance, QWidget* parent = nullptr);
+
+    void put(const Notice& notice);
+    void take(const QString& key);
+    QString textOf(const QString& key) const; ///< empty where there is none
+
+private:
+    struct Line {
+        QString key;
+        QWidget* row;
+        QLabel* text;
+        QPushButton* action;
+        std::function<void()> act;
+    };
+
+    void addLine(const QString& key);
+    Line* find(const QString& key);
+    void lay();
+
+    Appearance& appearance_;
+    QVBoxLayout* column_;
+    std::vector<Line> lines_;
+};
+
+} // namespace quillon
