@@ -43,6 +43,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 
 namespace quillon {
@@ -148,10 +149,22 @@ void MainWindow::buildChangesDock() {
     race_->findChild<CellTableView*>()->installEventFilter(this);
 }
 
+// Right of the window where the desktop has room, else over its lower right corner, where the past lines are.
+void MainWindow::putChangesBeside() {
+    const QRect desktop = screen()->availableGeometry();
+    const QRect window = frameGeometry();
+    const QSize size = changesDock_->sizeHint();
+    const int right = std::min(window.right() + 1, desktop.right() - size.width());
+    const bool covers = right <= window.right();
+    const int top = covers ? window.bottom() - size.height() : window.top();
+    changesDock_->setGeometry(QRect{QPoint{right, std::max(top, desktop.top())}, size});
+}
+
 // Beside the race where there is room for both, else on its own.
 void MainWindow::showChanges(bool wanted) {
     constexpr int roomForBoth = 22000; // twips
     if (wanted) changesDock_->setFloating(width() < appearance_.pixels(roomForBoth));
+    if (wanted && changesDock_->isFloating()) putChangesBeside();
     changesDock_->setVisible(wanted);
     if (wanted) changes_->setFocus();
 }

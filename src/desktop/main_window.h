@@ -64,6 +64,7 @@ private:
     void buildChangesDock();
     void buildEditMenu();
     void showChanges(bool wanted);
+    void putChangesBeside();
     void tell(const QString& text);
     void tellRecorded(CommandId id);
     void buildNotices();

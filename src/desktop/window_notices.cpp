@@ -67,7 +67,7 @@ void WindowNotices::takeUp(CommandId id) {
 
 // The sums of a summary on show are those from before its boards were taken in.
 void WindowNotices::tellPending(const QString& text) {
-    bar_.put({pendingKey, text, tr("&Take All In"), [this] {
+    bar_.put({pendingKey, text, tr("Take All In"), [this] {
                   const bool isSummary = theScreen.summaryVisible;
                   runner_.run(CommandId::TakeAllIn);
                   if (isSummary) runner_.run(CommandId::SelectionResults);
