@@ -91,7 +91,8 @@ QWidget* EntryLinesFrame::buildHead() {
     close_->setObjectName("LineButton0");
     setCommand(*close_, CommandId::Command3);
     close_->setToolTip(tr("Close the past lines of this entry (Esc)"));
-    connect(close_, &QPushButton::clicked, this, [this] { runner_.run(CommandId::Command3, numberArgument(0)); });
+    connect(close_, &QPushButton::clicked, this,
+            [this] { runner_.run(CommandId::Command3, numberArgument(0)); });
     auto* row = new QHBoxLayout{head};
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(10);

@@ -2,7 +2,6 @@
 
 #include "app/start_up.h"
 #include "card_tables.h"
-#include "console/show.h"
 #include "file_bytes.h"
 #include "race_results.h"
 #include "results_text.h"
@@ -12,8 +11,6 @@
 #include <array>
 #include <cstdlib>
 #include <filesystem>
-#include <sstream>
-#include <vector>
 
 namespace quillon {
 
@@ -72,25 +69,6 @@ std::map<std::string, std::string> writtenFiles() {
         if (entry.is_regular_file() && entry.path().extension() != ".DBF")
             files[entry.path().string()] = samples::readFile(entry.path()).value_or("");
     return files;
-}
-
-std::string everythingShown() {
-    std::vector<std::string> parts{"header",    "board",    "buttons",     "menu",
-                                   "store",     "summary",  "profile",     "tracks",
-                                   "picks",     "stars",    "racelist",    "driverlist",
-                                   "tracklist", "filelist", "starsfields", "colours summary"};
-    for (int view = 0; view < dataViews; ++view) {
-        parts.push_back("dataview " + std::to_string(view));
-        parts.push_back("colours dataview " + std::to_string(view));
-    }
-    for (int view = 0; view < raceViews; ++view) {
-        parts.push_back("raceview " + std::to_string(view));
-        parts.push_back("colours raceview " + std::to_string(view));
-    }
-    std::ostringstream out;
-    Transcript transcript{out};
-    for (const std::string& part : parts) show(part, commandTable(), transcript);
-    return out.str();
 }
 
 RandomNightTest::RandomNightTest() { put("TrackEditor.ini", samples::trackEditorText()); }

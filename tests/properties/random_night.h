@@ -3,6 +3,7 @@
 
 #include "app/commands.h"
 #include "card_generator.h"
+#include "everything_shown.h"
 #include "support/card_test.h"
 
 #include <cstdint>
@@ -27,9 +28,6 @@ bool press(TextView name, const Arguments& arguments = {});
 
 /// Every file below the current folder by its path, with its bytes, but for the vendor's tables.
 std::map<std::string, std::string> writtenFiles();
-
-/// What every `show` of the card, the screen and the analysis prints.
-std::string everythingShown();
 
 class RandomNightTest : public CardTest {
 protected:
