@@ -4,6 +4,7 @@
 //     quillon_pictures FOLDER WIDTH HEIGHT light|dark
 #include "app/start_up.h"
 #include "core/files.h"
+#include "desktop/before_commands.h"
 #include "desktop/board_panel.h"
 #include "desktop/fault_journal_dialog.h"
 #include "desktop/main_window.h"
@@ -66,6 +67,7 @@ public:
         // Pictures take no answers: every question is answered Yes, every message is passed over.
         ports.message = [](auto&, auto&) {};
         ports.question = [](auto&, auto&) { return true; };
+        window_.before().ask = [](const WindowQuestion&) { return goOnAnswer; };
         appearance_.setTheme(theme);
         window_.resize(size);
         window_.show();
