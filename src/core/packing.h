@@ -137,7 +137,8 @@ void pack(Packer& out, Number number) {
         out.putNumber(number);
     } else {
         const auto wide = static_cast<std::int64_t>(number);
-        out.putNumber(static_cast<std::uint64_t>(wide) << 1 ^ static_cast<std::uint64_t>(wide >> 63));
+        out.putNumber(static_cast<std::uint64_t>(wide) << 1 ^
+                      (wide < 0 ? ~std::uint64_t{0} : std::uint64_t{0}));
     }
 }
 

@@ -10,6 +10,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <array>
+
 namespace quillon {
 namespace {
 
@@ -20,14 +22,14 @@ WindowAnswer askInBox(QWidget& window, const WindowQuestion& question) {
     box.setObjectName("WindowQuestion");
     box.setTextFormat(Qt::PlainText);
     box.setText(question.text);
-    QList<QPushButton*> buttons;
-    for (qsizetype at = 0; at < question.answers.size(); ++at)
-        buttons << box.addButton(question.answers[at], roles.at(static_cast<std::size_t>(at)));
+    std::array<QPushButton*, roles.size()> buttons{};
+    for (std::size_t at = 0; at < roles.size(); ++at)
+        buttons.at(at) = box.addButton(question.answers.value(static_cast<qsizetype>(at)), roles.at(at));
     box.setDefaultButton(buttons.front());
     box.setEscapeButton(buttons.back());
     box.exec();
-    for (int at = safeAnswer; at < cancelAnswer; ++at)
-        if (box.clickedButton() == buttons[at]) return static_cast<WindowAnswer>(at);
+    for (const WindowAnswer answer : {safeAnswer, goOnAnswer})
+        if (box.clickedButton() == buttons.at(answer)) return answer;
     return cancelAnswer;
 }
 

@@ -24,7 +24,7 @@ constexpr std::array placeCells{OutcomeCell::s1, OutcomeCell::s2, OutcomeCell::s
 int placeOf(int race, TextView number) {
     if (number.empty()) return 0;
     for (std::size_t at = 0; at < placeCells.size(); ++at)
-        if (trimmed(card.raceOutcome[{race, placeCells[at]}]) == number) return static_cast<int>(at) + 1;
+        if (trimmed(card.raceOutcome(race, placeCells[at])) == number) return static_cast<int>(at) + 1;
     return 0;
 }
 
