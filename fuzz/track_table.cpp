@@ -2,6 +2,7 @@
 #include "tables/track_table.h"
 #include "card/race_card.h"
 #include "core/failure.h"
+#include "day/card_frame.h"
 #include "rating/course_factors.h"
 #include "support/fuzz_target.h"
 #include "tables/load_state.h"
