@@ -186,6 +186,13 @@ namespace {
     fail(what);
 }
 
+// Why a file was not written, asked at once. Some systems call a folder of that name read-only.
+std::error_code causeAt(const fs::path& target) {
+    const std::error_code cause = disk::lastError();
+    std::error_code unknown;
+    return fs::is_directory(target, unknown) ? make_error_code(std::errc::is_a_directory) : cause;
+}
+
 } // namespace
 
 FilePieces::FilePieces(const FilePlace& place) {
@@ -231,7 +238,7 @@ PreparedFile::PreparedFile(const FilePlace& place) : place_(place), target_(path
         if (!file_->isTaken()) break;
     }
     if (file_->isOpen()) return;
-    const auto cause = file_->isTaken() ? make_error_code(std::errc::text_file_busy) : disk::lastError();
+    const auto cause = file_->isTaken() ? make_error_code(std::errc::text_file_busy) : causeAt(target_);
     failWriting(place, cause, shownPath(place) + " can't be written");
 }
 
@@ -272,7 +279,7 @@ void PreparedFile::finish() {
 void PreparedFile::putInPlace() {
     finish();
     if (!disk::replaceFile(temporary_, target_))
-        failWriting(place_, disk::lastError(), nameOn(target_) + " can't be replaced");
+        failWriting(place_, causeAt(target_), nameOn(target_) + " can't be replaced");
     temporary_.clear();
     file_->close(); // or it could not be taken back: some systems replace no open file
 }
@@ -297,7 +304,7 @@ void putInPlaceTogether(PreparedFile& first, PreparedFile& second) {
 void removeFile(const FilePlace& place) {
     const fs::path path = pathOnDisk(place);
     disk::removeFile(path);
-    const std::error_code cause = disk::lastError();
+    const std::error_code cause = causeAt(path);
     if (disk::isThere(path)) failWriting(place, cause, shownPath(place) + " can't be removed");
 }
 
@@ -332,7 +339,7 @@ void appendToFile(const FilePlace& place, TextView content) {
     if (!content.empty() && endsWithoutLineEnd(path)) record += crLf;
     record += content;
     DiskFile file{path, DiskFile::Mode::append};
-    if (!file.isOpen()) failWriting(place, disk::lastError(), shownPath(place) + " can't be written");
+    if (!file.isOpen()) failWriting(place, causeAt(path), shownPath(place) + " can't be written");
     if (file.write(record) && file.flush() && file.close()) return;
     const std::error_code cause = disk::lastError();
     file.close();
