@@ -15,6 +15,7 @@
 #include "day/card_load.h"
 #include "day/changes.h"
 #include "day/driver_change.h"
+#include "day/keeping.h"
 #include "day/re_calculation.h"
 #include "day/recall.h"
 #include "day/save.h"
@@ -110,6 +111,7 @@ bool canRedo(const Arguments&) { return changes.canRedo(); }
 bool canUndoTo(const Arguments& arguments) {
     return numberWithin(arguments, 0, static_cast<int>(changes.standing().size()) - 1);
 }
+bool isLeftBehind(const Arguments&) { return canRecover(); }
 bool cardIsOpen(const Arguments&) { return changes.isOpen(); }
 
 using enum Effect;
@@ -155,6 +157,12 @@ constexpr std::array commands{
     Command{Id::TakeAllIn, "TakeAllIn", run<TakeAllIn>, changesCard,
         {Menu::edit, 'T', "", "Take All Boards In", "Show every race once, so that every board is taken into the store"},
         Takes::nothing, "", cardIsOpen},
+    Command{Id::Recover, "Recover", run<Recover>, restoresCard,
+        {Menu::edit, 'e', "", "Restore Card Left Behind", "Restore the card that was open when Quillon ended without a close"},
+        Takes::nothing, "", isLeftBehind},
+    Command{Id::Forget, "Forget", run<Forget>, keepsCard,
+        {Menu::edit, 'F', "", "Put Away Card Left Behind", "Put away for good what was kept of the card"},
+        Takes::nothing, "", isLeftBehind},
 
     // Walking the races
     Command{Id::MainScreen, "MainScreen", run<MainScreen>, keepsCard,

@@ -3,6 +3,7 @@
 #include "app/change_words.h"
 #include "core/failure.h"
 #include "day/changes.h"
+#include "day/keeping.h"
 #include "screen/screen.h"
 
 #include <algorithm>
@@ -39,7 +40,13 @@ bool isAvailable(const Command& command, const Arguments& arguments) {
 
 namespace {
 
+// Much changes there at once: the card is kept as it stands before.
+bool readsResults(CommandId id) {
+    return id == CommandId::AutoRecord || id == CommandId::EBET || id == CommandId::HeatChoice;
+}
+
 void runAsChange(const Command& command, const Arguments& arguments) {
+    if (readsResults(command.id)) attempt(KeepCard);
     const int race = raceOfChange(command.id, arguments);
     changes.run({.run = [&] { command.run(arguments); },
                  .compared = command.effect == Effect::takesBoard ? Compared::store : Compared::everything,
@@ -55,13 +62,18 @@ void tellChanges(Effect effect) {
     if (effect == Effect::recordsCard) changes.recorded();
 }
 
+void runAndTell(const Command& command, const Arguments& arguments) {
+    if (mayChangeCard(command)) return runAsChange(command, arguments);
+    const bool nothingToLoad = command.id == CommandId::Start && screen.startOffer != StartOffer::load;
+    if (attempt([&] { command.run(arguments); }) && !nothingToLoad) tellChanges(command.effect);
+}
+
 } // namespace
 
 void runCommand(const Command& command, const Arguments& arguments) {
     const Step step{command.name};
-    if (mayChangeCard(command)) return runAsChange(command, arguments);
-    const bool nothingToLoad = command.id == CommandId::Start && screen.startOffer != StartOffer::load;
-    if (attempt([&] { command.run(arguments); }) && !nothingToLoad) tellChanges(command.effect);
+    runAndTell(command, arguments);
+    noticeChanges();
 }
 
 } // namespace quillon

@@ -12,11 +12,12 @@ namespace quillon {
 
 /// What becomes of the open card when the command is run.
 enum class Effect {
-    keepsCard,   ///< nothing: the user looks at it, or reports and sums are made of it
-    opensCard,   ///< another card takes its place
-    closesCard,  ///< saved and put away
-    savesCard,   ///< as it stands
-    recordsCard, ///< in the archive, which no step back takes back
+    keepsCard,    ///< nothing: the user looks at it, or reports and sums are made of it
+    opensCard,    ///< another card takes its place
+    restoresCard, ///< another card takes its place, with the changes that were made there
+    closesCard,   ///< saved and put away
+    savesCard,    ///< as it stands
+    recordsCard,  ///< in the archive, which no step back takes back
     /// The store, a view or box of a race, or a file of the card may differ afterwards: a step that can be
     /// taken back.
     changesCard,

@@ -46,6 +46,7 @@ constexpr std::array folderMeanings{
     FolderMeaning{Folder::programs,    "the condensed program on disk is older than the card"},
     FolderMeaning{Folder::entries,     "the entries list on disk is older than the card"},
     FolderMeaning{Folder::drivers,     "the drivers' ratings on disk are older than the card"},
+    FolderMeaning{Folder::recovery,    "a crash would lose the changes that are not saved"},
 };
 
 constexpr std::array fileMeanings{

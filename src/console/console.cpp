@@ -4,6 +4,7 @@
 #include "console/show.h"
 #include "console/words.h"
 #include "core/failure.h"
+#include "day/keeping.h"
 #include "screen/told_ports.h"
 
 #include <utility>
@@ -67,13 +68,22 @@ void Console::showEnd() {
 }
 
 void Console::run(std::istream& in) {
-    InputLines lines{in, transcript_};
+    InputLines lines{in, [this] { beforeWaiting(); }};
     while (!ended_) {
         const auto line = lines.next();
         if (!line) break;
         takeLine(*line);
+        attempt(KeepCardWhenDue);
     }
+    attempt(KeepCard);
     transcript_.flush();
+}
+
+// Whoever types at the other end has read what was printed so far, and may leave the card for long.
+void Console::beforeWaiting() {
+    transcript_.flush();
+    const auto due = keepingDueIn();
+    if (due && waitForInput && !waitForInput(*due)) attempt(KeepCardWhenDue);
 }
 
 void Console::takeLine(TextView line) {

@@ -10,7 +10,9 @@
 #include "console/transcript.h"
 #include "core/text.h"
 
+#include <chrono>
 #include <deque>
+#include <functional>
 #include <istream>
 #include <optional>
 #include <ostream>
@@ -31,13 +33,19 @@ public:
     Console(const Console&) = delete;
     Console& operator=(const Console&) = delete;
 
-    /// Runs the lines of the input to its end, or until a command has ended the system.
+    /// Runs the lines of the input to its end, or until a command has ended the system. A card with unsaved
+    /// changes is kept then.
     void run(std::istream& in);
+
+    /// Waits so long for input at most; true when some has come, or its end. An input without it is never
+    /// waited for.
+    std::function<bool(std::chrono::milliseconds)> waitForInput;
 
 private:
     void takePorts();
     std::optional<Text> nextAnswer();
     void showEnd();
+    void beforeWaiting();
 
     void takeLine(TextView line);
     void takeAnswer(std::optional<TextView> text);

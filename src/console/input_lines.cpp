@@ -11,7 +11,7 @@ std::optional<std::string> InputLines::nextBytes() {
     using Traits = std::streambuf::traits_type;
     std::string line;
     for (;;) {
-        if (in_.rdbuf()->in_avail() <= 0) transcript_.flush();
+        if (in_.rdbuf()->in_avail() <= 0) beforeWaiting_();
         const auto next = in_.get(); // an input that can't be read has ended
         const bool ended = Traits::eq_int_type(next, Traits::eof());
         if (ended && line.empty()) return std::nullopt;

@@ -1,11 +1,12 @@
 // The lines that come in, as long as they are there.
 #pragma once
 
-#include "console/transcript.h"
 #include "core/text.h"
 
+#include <functional>
 #include <istream>
 #include <optional>
+#include <utility>
 
 namespace quillon {
 
@@ -13,9 +14,9 @@ namespace quillon {
 /// of the first line is dropped.
 class InputLines {
 public:
-    /// What was printed so far goes out before the input is waited for, so that whoever types at the other
-    /// end has read it.
-    InputLines(std::istream& in, Transcript& transcript) : in_(in), transcript_(transcript) {}
+    /// `beforeWaiting` is called before the input is waited for.
+    InputLines(std::istream& in, std::function<void()> beforeWaiting)
+        : in_(in), beforeWaiting_(std::move(beforeWaiting)) {}
 
     /// The next line without its end, or nothing at the end of the input.
     std::optional<Text> next();
@@ -24,7 +25,7 @@ private:
     std::optional<std::string> nextBytes();
 
     std::istream& in_;
-    Transcript& transcript_;
+    std::function<void()> beforeWaiting_;
     bool atStart_ = true;
 };
 

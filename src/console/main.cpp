@@ -1,5 +1,6 @@
 #include "app/start_up.h"
 #include "console/console.h"
+#include "console/standard_input.h"
 
 #include <iostream>
 
@@ -53,6 +54,7 @@ int main() {
     setBinaryStreams();
     [[maybe_unused]] const WindowInUtf8 window;
     quillon::Console console{std::cout};
+    console.waitForInput = quillon::waitForStandardInput;
     quillon::StartUp();
     console.run(std::cin);
     return 0;

@@ -4,6 +4,7 @@
 #include "console/words.h"
 #include "core/journal.h"
 #include "day/changes.h"
+#include "day/recovery.h"
 #include "screen/screen.h"
 
 #include <array>
@@ -203,6 +204,20 @@ void showPending(Transcript& transcript) {
         if (std::as_const(screen).boardsToTakeIn[{race}] != 0) transcript.line(std::to_string(race));
 }
 
+// "20260314 20:14:05"
+Text timeOf(const RecoveryHeading& heading) {
+    const TextView time = heading.time;
+    return Text{leftOf(time, 9)} + Text{midOf(time, 10, 2)} + ":" + Text{midOf(time, 12, 2)} + ":" +
+           Text{midOf(time, 14, 2)};
+}
+
+void showRecovery(Transcript& transcript) {
+    const LeftBehind* const left = leftBehind();
+    if (!left) return;
+    const RecoveryHeading& heading = left->heading;
+    transcript.line(heading.cardName + "\t" + std::to_string(heading.changes) + "\t" + timeOf(heading));
+}
+
 struct Part {
     TextView name;
     void (*print)(Transcript&);
@@ -215,7 +230,7 @@ constexpr std::array parts{
     Part{"header", showHeader},       Part{"buttons", showButtons},
     Part{"faults", showFaults},       Part{"store", showStore},
     Part{"changes", showChanges},     Part{"unsaved", showUnsaved},
-    Part{"pending", showPending},
+    Part{"pending", showPending},     Part{"recovery", showRecovery},
 };
 
 } // namespace

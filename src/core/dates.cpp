@@ -3,8 +3,10 @@
 #include "core/failure.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <chrono>
+#include <ctime>
 
 namespace quillon {
 
@@ -30,6 +32,13 @@ Text dashedDate(TextView yyyymmdd) {
     dashed += rightOf(yyyymmdd, 2);
     dashed += '-';
     return dashed += leftOf(yyyymmdd, 4);
+}
+
+Text localTime() {
+    const std::time_t now = std::time(nullptr);
+    std::array<char, 32> text{};
+    const std::tm* const time = std::localtime(&now);
+    return {text.data(), time ? std::strftime(text.data(), text.size(), "%Y%m%d %H%M%S", time) : 0};
 }
 
 } // namespace quillon

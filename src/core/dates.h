@@ -12,4 +12,7 @@ int dayNumber(TextView yyyymmdd);
 /// mm-dd-yyyy by position: characters 5 and 6, the last two, the first four. Never fails.
 Text dashedDate(TextView yyyymmdd);
 
+/// The local time on this system's clock, "20260314 201405": a later one is a greater text.
+Text localTime();
+
 } // namespace quillon

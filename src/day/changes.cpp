@@ -104,7 +104,13 @@ void putBack(const FilePlace& place, const FileContent& left, const FileContent&
 
 } // namespace
 
+void ChangeList::touch() {
+    static std::uint64_t last = 0;
+    version_ = ++last;
+}
+
 void ChangeList::begin() {
+    touch();
     changes_.clear();
     states_.assign(1, Snapshot::taken());
     loaded_ = states_.front();
@@ -113,6 +119,7 @@ void ChangeList::begin() {
 }
 
 void ChangeList::end() {
+    touch();
     changes_.clear();
     states_.clear();
     loaded_.reset();
@@ -129,6 +136,7 @@ void ChangeList::run(const CardCommand& command) {
     Snapshot after = Snapshot::taken();
     after.shareWith(before);
     if (written.empty() && !differs(before, after, command.compared)) return;
+    touch();
 
     Change change{.race = command.race, .what = command.words(), .files = std::move(written)};
     change.before = topFourOf(before.card(), command.race);
@@ -157,12 +165,17 @@ void ChangeList::undoTo(std::size_t number) {
     if (number < position_) goTo(number, number == 0 ? *loaded_ : states_[number]);
 }
 
+void ChangeList::takeStateIn() {
+    Snapshot now = Snapshot::taken();
+    now.shareWith(states_[position_]);
+    states_[position_] = std::move(now);
+}
+
 // What the user looked at meanwhile belongs to the state that is left, so that the way back ends there.
 void ChangeList::goTo(std::size_t position, const Snapshot& state) {
+    touch();
     const Snapshot wanted = state;
-    Snapshot left = Snapshot::taken();
-    left.shareWith(states_[position_]);
-    states_[position_] = std::move(left);
+    takeStateIn();
     putFilesBack(position);
     const bool wasRecorded = recorded_;
     wanted.putBack();
@@ -191,6 +204,7 @@ void ChangeList::putFilesBack(std::size_t position) {
 }
 
 void ChangeList::saved() {
+    touch();
     savedAt_ = position_;
     lostSinceSave_ = 0;
 }

@@ -6,10 +6,12 @@
 #pragma once
 
 #include "core/files.h"
+#include "core/packing.h"
 #include "core/text.h"
 #include "day/snapshot.h"
 
 #include <array>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <span>
@@ -85,6 +87,14 @@ public:
     /// Changes that the card differs by from the last save, load or recall; 0 when there is nothing to save.
     std::size_t unsaved() const;
 
+    /// Another number whenever the list has changed.
+    std::uint64_t version() const { return version_; }
+
+    /// The state as it stands belongs to the changes that stand, with what was looked at since the last one.
+    void takeStateIn();
+    /// Puts back the state that belongs to the changes that stand.
+    void putStateBack() const { states_[position_].putBack(); }
+
     /// S1 to S5 of a race as loaded or recalled stand in this card. Only while a card is open.
     const RaceCard& cardAsLoaded() const { return loaded_->card(); }
 
@@ -92,7 +102,11 @@ public:
     void recorded() { recorded_ = true; }
     bool isRecorded() const { return recorded_; }
 
+    friend void pack(Packer& out, const ChangeList& list);
+    friend bool unpack(Unpacker& in, ChangeList& list);
+
 private:
+    void touch();
     void goTo(std::size_t position, const Snapshot& state);
     void putFilesBack(std::size_t position);
 
@@ -103,6 +117,7 @@ private:
     std::size_t savedAt_ = 0; ///< where it was when the card was saved, or where the way there branched off
     std::size_t lostSinceSave_ = 0; ///< changes of the saved card that no way leads back to
     bool recorded_ = false;
+    std::uint64_t version_ = 0;
 };
 
 extern ChangeList changes;

@@ -52,6 +52,41 @@ void showRaces(Snapshot& state) {
     now.putBack();
 }
 
+void pack(Packer& out, const FileChange& file) {
+    const auto& [place, before, after] = file;
+    pack(out, static_cast<unsigned>(place.folder));
+    pack(out, place.name);
+    pack(out, before);
+    pack(out, after);
+}
+
+bool unpack(Unpacker& in, FileChange& file) {
+    auto& [place, before, after] = file;
+    return unpackEnum(in, place.folder, Folder::recovery) && unpack(in, place.name) && unpack(in, before) &&
+           unpack(in, after);
+}
+
+void pack(Packer& out, const Change& change) {
+    const auto& [race, what, before, after, files] = change;
+    pack(out, race);
+    pack(out, what);
+    pack(out, before);
+    pack(out, after);
+    out.putNumber(files.size());
+    for (const FileChange& file : files) pack(out, file);
+}
+
+bool unpack(Unpacker& in, Change& change) {
+    auto& [race, what, before, after, files] = change;
+    std::size_t count = 0;
+    if (!unpack(in, race) || !unpack(in, what) || !unpack(in, before) || !unpack(in, after) ||
+        !in.takeCount(count))
+        return false;
+    for (; count > 0; --count)
+        if (!unpack(in, files.emplace_back())) return false;
+    return true;
+}
+
 } // namespace
 
 void pack(Packer& out, const Snapshot& state) {
@@ -86,6 +121,31 @@ bool unpack(Unpacker& in, Snapshot& state) {
     if (made.stars) screen.stars = Grid{0, 0};
     if ((made.profile && screen.profileVisible) || (made.stars && screen.starsVisible)) showRaces(state);
     return true;
+}
+
+void pack(Packer& out, const ChangeList& list) {
+    pack(out, list.loaded_);
+    out.putNumber(list.changes_.size());
+    for (const Change& change : list.changes_) pack(out, change);
+    for (const Snapshot& state : list.states_) pack(out, state);
+    pack(out, list.position_);
+    pack(out, list.savedAt_);
+    pack(out, list.lostSinceSave_);
+    pack(out, list.recorded_);
+}
+
+bool unpack(Unpacker& in, ChangeList& list) {
+    std::size_t count = 0;
+    if (!unpack(in, list.loaded_) || !list.loaded_ || !in.takeCount(count)) return false;
+    list.changes_.clear();
+    list.states_.clear();
+    for (std::size_t at = 0; at < count; ++at)
+        if (!unpack(in, list.changes_.emplace_back())) return false;
+    for (std::size_t at = 0; at <= count; ++at)
+        if (!unpack(in, list.states_.emplace_back())) return false;
+    list.touch();
+    return unpack(in, list.position_) && unpack(in, list.savedAt_) && unpack(in, list.lostSinceSave_) &&
+           unpack(in, list.recorded_) && list.position_ <= count && list.savedAt_ <= count;
 }
 
 } // namespace quillon

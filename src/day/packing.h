@@ -6,6 +6,7 @@
 #pragma once
 
 #include "core/packing.h"
+#include "day/changes.h"
 #include "day/snapshot.h"
 
 namespace quillon {
@@ -14,5 +15,11 @@ void pack(Packer& out, const Snapshot& state);
 
 /// False, with whatever in the state, for bytes that no program with the same store and screen has packed.
 bool unpack(Unpacker& in, Snapshot& state);
+
+/// With the states that the changes lead through. Only while a card is open.
+void pack(Packer& out, const ChangeList& list);
+
+/// False, with whatever in the list, for bytes that are no list of an open card.
+bool unpack(Unpacker& in, ChangeList& list);
 
 } // namespace quillon

@@ -36,7 +36,8 @@ WindowAnswer askInBox(QWidget& window, const WindowQuestion& question) {
 // The card goes with the program, or another takes its place.
 bool losesCard(CommandId id) {
     return id == CommandId::Exit_QL || id == CommandId::CloseWindow || id == CommandId::NewRC ||
-           (command(id).effect == Effect::opensCard && cardIsOpen());
+           ((command(id).effect == Effect::opensCard || command(id).effect == Effect::restoresCard) &&
+            cardIsOpen());
 }
 
 // Start over a recalled card shows its races and loads nothing.

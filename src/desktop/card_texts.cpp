@@ -10,9 +10,11 @@
 
 namespace quillon {
 
-QString cardTitle() {
+QString cardTitle() { return cardTitle(card.cardFileName); }
+
+QString cardTitle(TextView fileName) {
     constexpr int digits = 8;
-    const QString name = shown(card.cardFileName).section('.', 0, 0);
+    const QString name = shown(fileName).section('.', 0, 0);
     const auto underscore = name.indexOf('_');
     const QDate date = QDate::fromString(name.mid(underscore + 1, digits), "yyyyMMdd");
     if (underscore < 1 || !date.isValid()) return name;

@@ -7,6 +7,7 @@
 #include "desktop/before_commands.h"
 #include "desktop/board_panel.h"
 #include "desktop/card_finder.h"
+#include "desktop/card_keeping.h"
 #include "desktop/card_texts.h"
 #include "desktop/cell_table_view.h"
 #include "desktop/changes_panel.h"
@@ -319,6 +320,7 @@ void MainWindow::buildNotices() {
     statusBar()->addPermanentWidget(faults);
     connect(faults, &QPushButton::clicked, this, &MainWindow::openJournal);
     notices_ = new WindowNotices{runner_, *bar_, *faults};
+    new CardKeeping{runner_, *bar_};
     before_ = new BeforeCommands{runner_, *this};
     connect(before_, &BeforeCommands::refused, notices_, &WindowNotices::tellRefusal);
     ports_->setLineAsked([this]() -> std::optional<LineNumberAsked> {

@@ -1,6 +1,6 @@
 #include "desktop/notice_bar.h"
 
-#include <QHBoxLayout>
+#include <QPushButton>
 #include <QToolButton>
 
 #include <algorithm>
@@ -41,8 +41,7 @@ void NoticeBar::addLine(const QString& key) {
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    auto* action = new QPushButton{row};
-    action->setObjectName("NoticeAction." + key);
+    auto* buttons = new QHBoxLayout;
     auto* close = new QToolButton{row};
     close->setObjectName("NoticeClose." + key);
     close->setText(tr("OK"));
@@ -52,14 +51,29 @@ void NoticeBar::addLine(const QString& key) {
     auto* line = new QHBoxLayout{row};
     line->setContentsMargins(8, 3, 4, 3);
     line->addWidget(text, 1);
-    line->addWidget(action);
+    line->addLayout(buttons);
     line->addWidget(close);
     column_->addWidget(row);
-    lines_.push_back({key, row, text, action, {}});
+    lines_.push_back({key, row, text, buttons});
     connect(close, &QToolButton::clicked, this, [this, key] { take(key); });
-    connect(action, &QPushButton::clicked, this, [this, key] {
-        if (const Line* pressed = find(key); pressed && pressed->act) std::function{pressed->act}();
-    });
+}
+
+// "NoticeAction.pending", and "NoticeAction.pending.2" for a second one. Those of before go later: one of them
+// may be pressed just now.
+void NoticeBar::setActions(const Line& line, const std::vector<NoticeAction>& actions) {
+    while (QLayoutItem* const item = line.buttons->takeAt(0)) {
+        item->widget()->hide();
+        item->widget()->setObjectName({});
+        item->widget()->deleteLater();
+        delete item;
+    }
+    for (std::size_t at = 0; at < actions.size(); ++at) {
+        auto* button = new QPushButton{actions[at].caption, line.row};
+        button->setObjectName("NoticeAction." + line.key +
+                              (at == 0 ? QString{} : "." + QString::number(at + 1)));
+        connect(button, &QPushButton::clicked, this, [act = actions[at].act] { std::function{act}(); });
+        line.buttons->addWidget(button);
+    }
 }
 
 void NoticeBar::put(const Notice& notice) {
@@ -67,9 +81,7 @@ void NoticeBar::put(const Notice& notice) {
     Line& line = *find(notice.key);
     line.text->setText(QString{warning} + "  " + notice.text);
     line.text->setAccessibleName(notice.text);
-    line.action->setText(notice.action);
-    line.action->setVisible(!notice.action.isEmpty());
-    line.act = notice.act;
+    setActions(line, notice.actions);
     lay();
     show();
 }
@@ -95,7 +107,8 @@ QString NoticeBar::textOf(const QString& key) const {
 void NoticeBar::lay() {
     for (const Line& line : lines_) {
         line.text->setFont(appearance_.viewFont(10, true));
-        line.action->setFont(appearance_.viewFont(10, true));
+        for (int at = 0; at < line.buttons->count(); ++at)
+            line.buttons->itemAt(at)->widget()->setFont(appearance_.viewFont(10, true));
     }
 }
 

@@ -3,8 +3,8 @@
 
 #include "desktop/appearance.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 #include <QWidget>
 
@@ -13,12 +13,17 @@
 
 namespace quillon {
 
+/// A button of a line.
+struct NoticeAction {
+    QString caption{};
+    std::function<void()> act{};
+};
+
 /// A line of the bar. One of the same key takes its place.
 struct Notice {
     QString key{};
     QString text{};
-    QString action{}; ///< caption of its button; none without one
-    std::function<void()> act{};
+    std::vector<NoticeAction> actions{};
 };
 
 class NoticeBar : public QWidget {
@@ -36,11 +41,11 @@ private:
         QString key;
         QWidget* row;
         QLabel* text;
-        QPushButton* action;
-        std::function<void()> act;
+        QHBoxLayout* buttons; ///< of its actions
     };
 
     void addLine(const QString& key);
+    void setActions(const Line& line, const std::vector<NoticeAction>& actions);
     Line* find(const QString& key);
     void lay();
 

@@ -67,18 +67,18 @@ void WindowNotices::takeUp(CommandId id) {
 
 // The sums of a summary on show are those from before its boards were taken in.
 void WindowNotices::tellPending(const QString& text) {
-    bar_.put({pendingKey, text, tr("Take All In"), [this] {
-                  const bool isSummary = theScreen.summaryVisible;
-                  runner_.run(CommandId::TakeAllIn);
-                  if (isSummary) runner_.run(CommandId::SelectionResults);
-              }});
+    const auto takeAllIn = [this] {
+        const bool isSummary = theScreen.summaryVisible;
+        runner_.run(CommandId::TakeAllIn);
+        if (isSummary) runner_.run(CommandId::SelectionResults);
+    };
+    bar_.put({.key = pendingKey, .text = text, .actions = {{tr("Take All In"), takeAllIn}}});
 }
 
 void WindowNotices::tellRefusal(const QString& reason, CommandId instead) {
     Notice notice{.key = refusalKey, .text = reason};
     if (instead != CommandId::count) {
-        notice.action = buttonCaption(instead);
-        notice.act = [this, instead] { runner_.run(instead); };
+        notice.actions = {{buttonCaption(instead), [this, instead] { runner_.run(instead); }}};
     }
     bar_.put(notice);
 }

@@ -23,6 +23,8 @@ enum class CommandId {
     Redo,
     UndoTo,
     TakeAllIn,
+    Recover,
+    Forget,
 
     // Walking the races
     MainScreen,

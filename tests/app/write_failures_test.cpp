@@ -33,6 +33,8 @@ TEST_F(WriteFailuresTest, WhatAFailureMeansIsToldByItsFile) {
               meaningOf({Folder::selections, "MVR_20260314.pms"}));
     EXPECT_EQ("the card is not saved", meaningOf({Folder::archives, "MVR_20260314.pmx"}));
     EXPECT_EQ("this card is not in the archive", meaningOf({Folder::working, "HRA.ini"}));
+    EXPECT_EQ("a crash would lose the changes that are not saved",
+              meaningOf({Folder::recovery, "MVR_20260314-1.recovery"}));
     EXPECT_EQ("the file on disk is as it was before", meaningOf({Folder::working, "Wins by Track.txt"}));
 }
 

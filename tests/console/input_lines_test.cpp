@@ -1,5 +1,7 @@
 #include "console/input_lines.h"
 
+#include "console/transcript.h"
+
 #include <gtest/gtest.h>
 
 #include <ostream>
@@ -14,7 +16,7 @@ std::vector<Text> linesOf(const std::string& bytes) {
     std::istringstream in{bytes};
     std::ostringstream out;
     Transcript transcript{out};
-    InputLines lines{in, transcript};
+    InputLines lines{in, [&] { transcript.flush(); }};
     std::vector<Text> read;
     while (const auto line = lines.next()) read.push_back(*line);
     return read;
@@ -119,7 +121,7 @@ TEST(InputThatWaits, FindsAllThatWasPrintedBefore) {
     Typist typist{{"first\n", "second\n"}, shown, seen};
     std::istream in{&typist};
     Transcript transcript{out};
-    InputLines lines{in, transcript};
+    InputLines lines{in, [&] { transcript.flush(); }};
     while (const auto line = lines.next()) transcript.line("> " + *line);
     EXPECT_EQ((std::vector<std::string>{"", "> first\n", "> first\n> second\n"}), seen);
 }

@@ -1,6 +1,7 @@
 // Every command of the table, sent from the real window as a user sends it: by clicks, keys and typed text.
 
 #include "analysis/profile_test.h"
+#include "day/keeping.h"
 #include "desktop/cell_table_view.h"
 #include "desktop/main_window_test.h"
 #include "desktop/shown_text.h"
@@ -137,6 +138,26 @@ public:
         startInWindow();
         pickInMenu("TakeAllIn");
         EXPECT_EQ("RACE 1", label("race"));
+    }
+    // A card that another run has left, with one change.
+    void leaveBehind() {
+        startInWindow();
+        scratchFirst();
+        KeepCard();
+        const std::filesystem::path folder = "A Quillon PRO/Recovery";
+        std::filesystem::copy_file(folder / "MVR_20260314-1.recovery", folder / "MVR_20260314-7.recovery");
+        choose("Save");
+        choose("Undo");
+    }
+    void recover() {
+        leaveBehind();
+        pickInMenu("Recover");
+        EXPECT_EQ("99.9", trimmed(card.entry(1, 1).rating));
+    }
+    void forget() {
+        leaveBehind();
+        pickInMenu("Forget");
+        EXPECT_FALSE(exists("A Quillon PRO/Recovery/MVR_20260314-7.recovery"));
     }
     void scratchFirst() {
         answers = {"Yes"};
@@ -592,6 +613,8 @@ constexpr std::array drives{
     Drive{"Redo",                  &EveryCommandTest::redo},
     Drive{"UndoTo",                &EveryCommandTest::undoTo},
     Drive{"TakeAllIn",             &EveryCommandTest::takeAllIn},
+    Drive{"Recover",               &EveryCommandTest::recover},
+    Drive{"Forget",                &EveryCommandTest::forget},
     Drive{"MainScreen",            &EveryCommandTest::mainScreen},
     Drive{"RaceButton",            &EveryCommandTest::raceButton},
     Drive{"Next",                  &EveryCommandTest::next},

@@ -66,10 +66,23 @@ bool press(TextView name, const Arguments& arguments) {
 std::map<std::string, std::string> writtenFiles() {
     std::map<std::string, std::string> files;
     for (const auto& entry : fs::recursive_directory_iterator{"."})
-        if (entry.is_regular_file() && entry.path().extension() != ".DBF")
+        if (entry.is_regular_file() && entry.path().extension() != ".DBF" &&
+            entry.path().parent_path().filename() != "Recovery")
             files[entry.path().string()] = samples::readFile(entry.path()).value_or("");
     return files;
 }
+
+namespace {
+
+void changeDriver(int entry, samples::Random& random) {
+    press("DriverColumn", {{entry}, ""});
+    const auto& lines = std::as_const(screen).driverList.lines;
+    if (lines.empty()) return;
+    const auto last = static_cast<int>(lines.size()) - 1;
+    press("DriverChoice", {{}, lines[static_cast<std::size_t>(random.between(0, last))]});
+}
+
+} // namespace
 
 RandomNightTest::RandomNightTest() { put("TrackEditor.ini", samples::trackEditorText()); }
 
@@ -81,6 +94,27 @@ void RandomNightTest::start(const samples::Card& drawn, std::uint64_t seed) {
     shown.clear();
     answers.clear();
     EXPECT_TRUE(press("Start"));
+}
+
+void RandomNightTest::pressAnything(samples::Random& random) {
+    const int race = random.between(1, 6);
+    const int entry = random.between(1, 12);
+    answers = {random.chance(80) ? "Yes" : "No", "1", "4"};
+    switch (random.between(1, 13)) {
+    case 1: press("Command4", {{entry}, ""}); break;
+    case 2: press("Command4", {{0}, ""}); break;
+    case 3: press("EntryButton", {{entry}, ""}); break;
+    case 4: press("Command3", {{random.between(1, 6)}, ""}); break;
+    case 5: press("Next"); break;
+    case 6: press("Previous"); break;
+    case 7: press("RaceButton", {{race}, ""}); break;
+    case 8: press("Box", {{random.between(0, 7)}, std::to_string(entry)}); break;
+    case 9: press("Tote", {{random.between(1, 11)}, "0" + std::to_string(entry) + ".40"}); break;
+    case 10: press("Cell", {{race, entry, 6}, "typed"}); break;
+    case 11: press(random.chance(50) ? "EBET" : "TakeAllIn"); break;
+    case 12: press("Refunds", {{}, "3 4"}); break;
+    default: changeDriver(entry, random); break;
+    }
 }
 
 } // namespace quillon

@@ -4,6 +4,7 @@
 #include "app/commands.h"
 #include "card_generator.h"
 #include "everything_shown.h"
+#include "random.h"
 #include "support/card_test.h"
 
 #include <cstdint>
@@ -26,7 +27,8 @@ void layNight(const samples::Card& card, std::uint64_t seed);
 /// Presses a button of the program. False where it is not available.
 bool press(TextView name, const Arguments& arguments = {});
 
-/// Every file below the current folder by its path, with its bytes, but for the vendor's tables.
+/// Every file below the current folder by its path, with its bytes, but for the vendor's tables and what is
+/// kept against a crash.
 std::map<std::string, std::string> writtenFiles();
 
 class RandomNightTest : public CardTest {
@@ -35,6 +37,9 @@ protected:
 
     /// A new program with this card loaded.
     void start(const samples::Card& card, std::uint64_t seed);
+
+    /// Presses a random button that changes the card, or walks through it.
+    void pressAnything(samples::Random& random);
 };
 
 } // namespace quillon

@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <map>
 #include <string>
 #include <vector>
@@ -24,38 +23,7 @@ struct State {
 
 State stateNow() { return {everythingShown(), writtenFiles()}; }
 
-class UndoTest : public RandomNightTest {
-protected:
-    /// One press of a random button that changes the card, or walks through it.
-    void pressAnything(samples::Random& random) {
-        const int race = random.between(1, 6);
-        const int entry = random.between(1, 12);
-        answers = {random.chance(80) ? "Yes" : "No", "1", "4"};
-        switch (random.between(1, 13)) {
-        case 1: press("Command4", {{entry}, ""}); break;
-        case 2: press("Command4", {{0}, ""}); break;
-        case 3: press("EntryButton", {{entry}, ""}); break;
-        case 4: press("Command3", {{random.between(1, 6)}, ""}); break;
-        case 5: press("Next"); break;
-        case 6: press("Previous"); break;
-        case 7: press("RaceButton", {{race}, ""}); break;
-        case 8: press("Box", {{random.between(0, 7)}, std::to_string(entry)}); break;
-        case 9: press("Tote", {{random.between(1, 11)}, "0" + std::to_string(entry) + ".40"}); break;
-        case 10: press("Cell", {{race, entry, 6}, "typed"}); break;
-        case 11: press(random.chance(50) ? "EBET" : "TakeAllIn"); break;
-        case 12: press("Refunds", {{}, "3 4"}); break;
-        default: changeDriver(entry, random); break;
-        }
-    }
-
-    static void changeDriver(int entry, samples::Random& random) {
-        press("DriverColumn", {{entry}, ""});
-        const auto& lines = std::as_const(screen).driverList.lines;
-        if (lines.empty()) return;
-        const auto last = static_cast<int>(lines.size()) - 1;
-        press("DriverChoice", {{}, lines[static_cast<std::size_t>(random.between(0, last))]});
-    }
-};
+using UndoTest = RandomNightTest;
 
 TEST_F(UndoTest, TakingAllBackGivesTheCardAsLoadedAndDoingAllAgainTheEnd) {
     const std::uint64_t days = 6u * static_cast<unsigned>(propertyScale());

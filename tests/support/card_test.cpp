@@ -1,5 +1,9 @@
 #include "support/card_test.h"
 
+#include "core/failure.h"
+#include "day/changes.h"
+#include "day/keeping.h"
+#include "day/recovery.h"
 #include "day/snapshot.h"
 #include "screen/told_ports.h"
 
@@ -78,6 +82,9 @@ CardTest::CardTest() : folder_(freshFolder()), before_(fs::current_path()) {
 
 CardTest::~CardTest() {
     ports = {};
+    changes.end();
+    noticeChanges();
+    attempt(forgetLeftBehind);
     fs::current_path(before_);
     clearAway(folder_);
 }
