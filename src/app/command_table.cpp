@@ -161,7 +161,7 @@ constexpr std::array commands{
         {Menu::edit, 'e', "", "Restore Card Left Behind", "Restore the card that was open when Quillon ended without a close"},
         Takes::nothing, "", isLeftBehind},
     Command{Id::Forget, "Forget", run<Forget>, keepsCard,
-        {Menu::edit, 'F', "", "Put Away Card Left Behind", "Put away for good what was kept of the card"},
+        {Menu::edit, 'P', "", "Put Away Card Left Behind", "Put away for good what was kept of the card"},
         Takes::nothing, "", isLeftBehind},
 
     // Walking the races

@@ -18,8 +18,13 @@ namespace quillon {
 
 class MainWindowTest : public WindowTest {
 protected:
-    MainWindowTest() {
-        const Ports recorders = ports;
+    MainWindowTest() { openWindow(); }
+
+    /// A window in place of the one that is open, as at the program's start.
+    void openWindow() {
+        window.reset();
+        if (!recorders_) recorders_ = ports;
+        const Ports& recorders = *recorders_;
         window.emplace(appearance);
         const auto end = ports.end;
         ports = recorders;
@@ -56,6 +61,9 @@ protected:
     std::vector<std::string> asked;   ///< questions of the window's own
     std::deque<WindowAnswer> choices; ///< their answers, first in first out; without one the command goes on
     std::optional<MainWindow> window;
+
+private:
+    std::optional<Ports> recorders_; ///< the window takes the ports over
 };
 
 } // namespace quillon
