@@ -1,5 +1,5 @@
-// Packed state, past its checksum: states of the program as a recovery file has them, put back and worked
-// on. An input is a state of a small card with some of its bytes changed, or bytes as they come.
+// A packed card with its changes, past its checksum, as a recovery file has it, put back and worked on. An
+// input is a small card with some of its bytes changed, or bytes as they come.
 #include "app/commands.h"
 #include "day/packing.h"
 #include "support/byte_reader.h"
@@ -7,30 +7,26 @@
 #include "support/small_card.h"
 
 #include <array>
+#include <utility>
 
 using namespace quillon;
 
 namespace {
 
-Text packedStates(const std::vector<Snapshot>& states) {
-    Packer out;
-    pack(out, states);
-    return out.bytes();
-}
-
-// A small card as loaded and after a change, packed; made once for each card.
+// A small card with two changes, one of them taken back, packed; made once for each card.
 const Text& packedCard(std::size_t which) {
     static std::array<Text, fuzz::smallCards> packed;
     if (packed[which].empty()) {
         fuzz::beginInput();
         fuzz::putSmallCard(which);
         fuzz::press("Start");
-        std::vector<Snapshot> states{Snapshot::taken()};
         fuzz::press("RaceButton", {{1}, ""});
         fuzz::press("Box", {{4}, "2"});
-        states.push_back(Snapshot::taken());
-        states.back().shareWith(states.front());
-        packed[which] = packedStates(states);
+        fuzz::press("Command4", {{1}, ""});
+        fuzz::press("Undo");
+        Packer out;
+        pack(out, changes);
+        packed[which] = out.bytes();
     }
     return packed[which];
 }
@@ -50,9 +46,13 @@ Text changedCard(fuzz::ByteReader& input) {
     return bytes;
 }
 
-void workOn(const Snapshot& state) {
-    state.putBack();
+void workOn(ChangeList list) {
+    changes = std::move(list);
+    changes.putStateBack();
     fuzz::lookAtScreen();
+    fuzz::press("Undo");
+    fuzz::press("Redo");
+    fuzz::press("Redo");
     fuzz::storeText();
     fuzz::press("Next");
     fuzz::press("RaceButton", {{2}, ""});
@@ -75,8 +75,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     fuzz::beginInput();
     (void)opened(fuzz::textOf(data, size));
     Unpacker in{bytes};
-    std::vector<Snapshot> states;
-    if (!unpack(in, states) || states.empty()) return 0;
-    workOn(states.back());
+    ChangeList list;
+    if (!unpack(in, list)) return 0;
+    workOn(std::move(list));
     return 0;
 }
