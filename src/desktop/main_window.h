@@ -13,15 +13,14 @@ namespace quillon {
 class AnalysisPanel;
 class BeforeCommands;
 class BoardPanel;
-class ChangesPanel;
 class CardFinder;
+class ChangesDock;
 class ChoiceDialog;
 class DesktopPorts;
 class EmptyPanel;
-class FaultJournalDialog;
 class FindBar;
-class GuideWindow;
 class HeaderPanel;
+class HelpItems;
 class Menus;
 class NoticeBar;
 class OverviewPanel;
@@ -31,10 +30,9 @@ class RaceListPanel;
 class RacePage;
 class RacePanel;
 class StarsWindow;
+class StatusLine;
+class ViewMenu;
 class WindowNotices;
-
-/// The window's size at its first start: as designed, or as much as there is room for.
-QSize firstSize(QSize designed, QSize room);
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -45,7 +43,6 @@ public:
 
     CommandRunner& runner() { return runner_; }
     Menus& menus() { return *menus_; }
-    DesktopPorts& outside() { return *ports_; }
     BeforeCommands& before() { return *before_; }
 
     /// Draws everything that the screen holds now.
@@ -56,32 +53,19 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void buildPages();
     void buildDocks();
-    void buildChangesDock();
     void buildEditMenu();
-    void showChanges(bool wanted);
-    void putChangesBeside();
-    void tell(const QString& text);
-    void tellRecorded(CommandId id);
     void buildNotices();
     void watchSession();
-    void openJournal();
     void titleWindow();
     void buildMenus();
     void connectPanels();
     void connectFinder();
-    void buildViewMenu();
-    void buildHelpMenu();
-    void openGuide();
     QString guidesPlace() const;
-    void restoreLook();
-    void keepLook() const;
     void takeUpEnd();
-    void tellSaved(CommandId id);
     void leaveOverviewWithTheRace();
     QWidget* pageWanted() const;
 
@@ -92,6 +76,9 @@ private:
     NoticeBar* bar_ = nullptr;
     WindowNotices* notices_ = nullptr;
     Menus* menus_ = nullptr;
+    StatusLine* status_ = nullptr;
+    ViewMenu* view_ = nullptr;
+    HelpItems* help_ = nullptr;
     RaceBar* raceBar_ = nullptr;
     HeaderPanel* header_ = nullptr;
     RacePanel* race_ = nullptr;
@@ -100,21 +87,17 @@ private:
     AnalysisPanel* analysis_ = nullptr;
     OverviewPanel* overview_ = nullptr;
     EmptyPanel* empty_ = nullptr;
+    QDockWidget* raceListDock_ = nullptr;
     RaceListPanel* raceList_ = nullptr;
-    ChangesPanel* changes_ = nullptr;
+    ChangesDock* changes_ = nullptr;
     StarsWindow* stars_ = nullptr;
     ChoiceDialog* choices_ = nullptr;
-    FaultJournalDialog* journal_ = nullptr;
-    GuideWindow* guide_ = nullptr;
     FindBar* find_ = nullptr;
     CardFinder* finder_ = nullptr;
     QStackedWidget* pages_ = nullptr;
     RacePage* racePage_ = nullptr;
-    QAction* overviewAction_ = nullptr;
-    QDockWidget* changesDock_ = nullptr;
     bool overviewWanted_ = false;
     Text raceShown_; ///< at the last refresh
-    Text cardName_;  ///< its file, before the command that runs
 };
 
 } // namespace quillon

@@ -5,6 +5,7 @@
 #include "desktop/dialog_answers.h"
 #include "desktop/guide_window.h"
 #include "desktop/shown_text.h"
+#include "desktop/window_look.h"
 #include "results/card_search.h"
 
 #include <QAction>
