@@ -22,7 +22,7 @@ void walkRows(TableCursor& table) {
         }
     }
     fuzz::ensure(rows == table.rowCount(), "the cursor comes by every row");
-    fuzz::ensure(table.field(1).empty(), "behind the last row there is nothing");
+    fuzz::ensure(table.field(1).empty(), "after the last row there is nothing");
     table.MoveNext();
     table.MoveLast();
     fuzz::ensure(table.row() == std::max(rows, 1), "the last row is found again");

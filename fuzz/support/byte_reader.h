@@ -16,7 +16,7 @@ public:
 
     bool atEnd() const { return bytes_.empty(); }
 
-    /// The next byte; 0 behind the end.
+    /// The next byte; 0 after the end.
     std::uint8_t byte() {
         if (bytes_.empty()) return 0;
         const auto first = static_cast<std::uint8_t>(bytes_.front());

@@ -29,7 +29,7 @@ samples::Oddities odditiesOf(std::size_t which) {
     }
 }
 
-// Both layouts of the results one behind the other, so that each pass finds its lines.
+// Both layouts of the results one after the other, so that each pass finds its lines.
 SmallCard makeCard(std::size_t which) {
     constexpr std::array tracks{"DTN", "MVR", "M1", "BANG"};
     const samples::Card card = samples::generateCard({.seed = 11 + which,

@@ -44,8 +44,7 @@ struct CardOptions {
     Oddities odd{};
 };
 
-// The largest card that Quillon holds: 25 races of 20 entries with 6 lines each, 300 drivers and 200
-// trainers.
+// The largest card that Quillon holds: 25 races of 20 entries, 6 lines each; 300 drivers, 200 trainers.
 CardOptions largestCard();
 
 // A card beyond every limit: more races, entries, lines, drivers and trainers than Quillon holds.

@@ -26,7 +26,7 @@ struct Call {
     int behind = 0;       // quarters of a length behind the leader
     std::string before{}; // marks in front of the position: x broke stride, i interference
     std::string park{};   // one or two rings: raced outside, three wide
-    std::string after{};  // marks behind the position
+    std::string after{};  // marks after the position
 };
 enum CallPlace : std::size_t { atQuarter, atHalf, atThreeQuarters, atStretch, atFinish, callCount };
 

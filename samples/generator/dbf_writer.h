@@ -34,7 +34,7 @@ struct Table {
 // What a table file says of itself.
 struct TableForm {
     std::uint8_t version = 0x30; // 0x30 FoxPro 3, 0x03 and 0x83 dBASE III, 0x04 and 0x8B dBASE IV, ...
-    bool endMark = true;         // the byte 1A behind the last record
+    bool endMark = true;         // the byte 1A after the last record
     std::chrono::year_month_day lastUpdate{std::chrono::year{2026}, std::chrono::month{3},
                                            std::chrono::day{13}};
 };

@@ -7,8 +7,7 @@
 
 namespace samples {
 
-// All names are invented. They hold no digits, since results text tells a name from a payoff by the first
-// digit.
+// All names are invented. They hold no digits: results text tells a name from a payoff by its first digit.
 
 // So many different horse names of at most 25 characters.
 std::vector<std::string> horseNames(Random& random, std::size_t count);

@@ -26,8 +26,7 @@ struct LineSetting {
 // and the lengths behind, and its final less its time at three-quarters is its last quarter.
 PastLine makeLine(Random& random, const LineSetting& setting);
 
-// The horse breaks stride at one of the calls and comes in last; now and then it is distanced, without a
-// time.
+// The horse breaks stride at a call and comes in last; now and then it is distanced, without a time.
 void addBreak(Random& random, PastLine& line);
 
 } // namespace samples

@@ -9,7 +9,7 @@ namespace samples {
 
 // The text that a user copies from a page of results, lines ended by CR LF.
 
-// Layout in columns: the number of a finisher in columns 1 and 2, its payoffs behind its name, the wagers
+// Layout in columns: the number of a finisher in columns 1 and 2, its payoffs after its name, the wagers
 // from column 7 on. Refunds stand at the end, since a line with a colon names a race.
 std::string columnLayout(const Card& card, std::span<const RaceResult> results);
 

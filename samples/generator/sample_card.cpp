@@ -36,8 +36,7 @@ Card sampleCard() {
 }
 
 std::vector<RaceResult> sampleResults(const Card& card) {
-    // A night on which no payoff is wider than a reader of the word layout expects beside a number of two
-    // digits.
+    // A night without a payoff wider than a reader of the word layout expects beside a two-digit number.
     return runCard(card, {.seed = 395, .deadHeatRace = 7, .scratchRace = 6});
 }
 

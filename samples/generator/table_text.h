@@ -24,8 +24,7 @@ struct TextError {
 // The first line names the fields: name, type, and for C, N and F the width, N and F with decimals as N6.4.
 // Each further line is a row. Blanks round a cell don't count. Empty lines and lines that start with # are
 // skipped; a row that starts with * is marked deleted; \xBA stands for the byte BA, so \x20 keeps a blank and
-// \x7C is a bar. Other characters become Windows-1252. The first line that can't be read ends it with an
-// error.
+// \x7C is a bar. Other characters become Windows-1252. A line that can't be read ends it with an error.
 std::variant<Table, TextError> readTableText(std::string_view text);
 
 } // namespace samples

@@ -14,8 +14,7 @@ struct MultiRaceWager {
     int lastLeg() const { return firstLeg + legs - 1; }
 };
 
-// A wager is offered where the card has all of its legs. The words are written as different tracks write
-// them.
+// A wager is offered where the card has all of its legs. The words vary from track to track.
 inline constexpr std::array multiRaceWagers{
     MultiRaceWager{1, 2, "Double"}, //
     MultiRaceWager{2, 3, "Pick 3"}, //

@@ -22,8 +22,7 @@ void Select();
 void SelectTrack(const Text& line);
 
 /// Takes `screen.profileFilter`, copies the archive's lines that pass it to HRA.txt, the latest first, fills
-/// `screen.profile` and shows it. Stops at a failure, and when the user cancels; the archive is never
-/// changed.
+/// `screen.profile` and shows it. Stops at a failure, and when the user cancels. The archive stays.
 void Profile2();
 
 } // namespace quillon

@@ -17,7 +17,6 @@ struct RaceResults {
     Integer winHeat = 0; ///< finishers that share the win, where more than one was told
 };
 
-/// The results of a card by race.
 struct CardResults {
     std::array<RaceResults, raceExtent> races{};
     int lastRace = 0;

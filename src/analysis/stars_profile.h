@@ -1,6 +1,5 @@
 // The stars profile: how S1 did as a flat $12 win bet at a margin and a morning line, over every race that
-// was recorded in Stars5.ini. It has a window of its own, with three lists that the user goes through one by
-// one.
+// was recorded in Stars5.ini. It has a window of its own, with three lists to go through one by one.
 #pragma once
 
 #include "core/numbers.h"

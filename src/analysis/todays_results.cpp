@@ -97,8 +97,7 @@ void TodaysResults() {
     const int lastRace = std::min<int>(card.raceCount, screen.summary.rows() - 1);
     for (int race = 1; race <= lastRace; ++race) addRow(report, "", race);
     addRule(report);
-    // Races 21 and 22 lie on the rows of the totals. Such a card too has its totals once after its last
-    // race.
+    // Races 21 and 22 lie on the rows of the totals. Such a card too has its totals after its last race.
     if (hasTotals()) addTotals(report);
     writeFile({Folder::working, "Todays Results.txt"}, report.content());
 }

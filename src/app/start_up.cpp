@@ -19,8 +19,7 @@ bool beginsWithLetter(TextView text) {
     return first[0] >= 'A' && first[0] <= 'Z';
 }
 
-// The track and date that another program left for us: the first 7 of the last 12 characters of
-// CrossOver.ini.
+// The track and date that another program left: the first 7 of the last 12 characters of CrossOver.ini.
 Text crossoverText() {
     constexpr int tailLength = 12;
     constexpr int textLength = 7;

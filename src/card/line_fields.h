@@ -79,7 +79,6 @@ inline constexpr std::array lineFields = [] {
 }();
 // clang-format on
 
-/// Whether a chosen line has this field.
 constexpr bool isChosen(const LineField& field) { return field.raceColumn != noColumn; }
 
 } // namespace quillon

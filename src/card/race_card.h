@@ -206,7 +206,7 @@ struct RaceCard {
     Integer maxPosts = 0;      ///< horses that the track starts
     Integer totalLines = 0;    ///< lines read so far
     Text cardDate{};           ///< yyyymmdd
-    Text recallMode{};         ///< "R" behind a recall, "RX" behind a results pass
+    Text recallMode{};         ///< "R" after a recall, "RX" after a results pass
     Text poolText{};           ///< pool of a multi-race wager at work
     Integer poolLegs = 0;      ///< and its number of legs
     Integer s1Wins = 0;        ///< wins of S1 to S4 in the last summary

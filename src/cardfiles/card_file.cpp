@@ -93,7 +93,7 @@ struct ShownText {
 };
 
 // The layout of the card file: hands each value to visit.value() in the order of the file, and each race to
-// visit.endOfEntry() behind the values of an entry.
+// visit.endOfEntry() after the values of an entry.
 template <class Card, class Visit>
 void forEachCardValue(Card& card, Visit& visit) {
     for (int race = 1; race <= ratedRaces; ++race) {
@@ -167,12 +167,12 @@ std::optional<TextView> textOf(TextView line) {
     return line.substr(1, line.size() - 2);
 }
 
-// Reads one line a value. Behind the last line every value keeps what it has.
+// Reads one line a value. After the last line every value keeps what it has.
 class ValueReader {
 public:
     explicit ValueReader(TextView content) : lines_(content) {}
 
-    /// The next text, a piece of the content; nothing on a damaged line and behind the last.
+    /// The next text, a piece of the content; nothing on a damaged line and after the last.
     std::optional<TextView> nextText() {
         if (!nextLine()) return std::nullopt;
         const auto text = textOf(line_);
@@ -291,9 +291,9 @@ std::optional<LabelAndDistance> splitLabelAndDistance(TextView joined) {
     constexpr std::size_t shortestWithFraction = 6;
     if (joined.size() < shortestWithFraction) return std::nullopt;
     const int slash = placeOf("/", joined);
-    constexpr int slashBehindOneDigitLabel = 5; // "71 1/8"
-    if (slash < slashBehindOneDigitLabel) return std::nullopt;
-    return split(slash == slashBehindOneDigitLabel ? 1 : 2, midOf(joined, slash - 1, slash + 2));
+    constexpr int slashAfterOneDigitLabel = 5; // "71 1/8"
+    if (slash < slashAfterOneDigitLabel) return std::nullopt;
+    return split(slash == slashAfterOneDigitLabel ? 1 : 2, midOf(joined, slash - 1, slash + 2));
 }
 
 } // namespace quillon

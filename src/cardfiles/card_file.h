@@ -20,7 +20,7 @@ constexpr int archiveRows = 2300; ///< lines of the card beyond them are not sav
 constexpr int archiveColumns = 39;
 constexpr int archiveLines = archiveRows * archiveColumns;
 
-/// The files as they are written. A line feed inside a text would move all values behind it by a line, so
+/// The files as they are written. A line feed inside a text would move all values after it by a line, so
 /// line ends inside a text are written as blanks.
 Text cardFileContent(const RaceCard& card);
 Text archiveContent(const RaceCard& card);

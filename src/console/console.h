@@ -2,8 +2,7 @@
 //
 // A line is a name and its arguments, separated by one blank each. The names are those of the command table
 // and three of the console's own: `Answer TEXT` and `Cancel` queue answers for the questions and input boxes
-// of later commands, `show PART` prints a part of the state. Empty lines and lines that start with # are
-// skipped.
+// of later commands, `show PART` prints a part of the state. Empty lines and `#` lines do nothing.
 #pragma once
 
 #include "app/commands.h"
@@ -20,9 +19,9 @@
 
 namespace quillon {
 
-/// The arguments of a command out of what stands behind its name and one blank; nothing behind the name where
+/// The arguments of a command out of what stands after its name and one blank; nothing after the name where
 /// `rest` has no value. Without a result where a number is missing, is no whole number or is beyond int, or
-/// where something stands behind the last argument. A text is all that is left and may be empty.
+/// where something stands after the last argument. A text is all that is left and may be empty.
 std::optional<Arguments> argumentsFor(Takes takes, std::optional<TextView> rest);
 
 class Console {

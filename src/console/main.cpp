@@ -17,7 +17,7 @@
 
 namespace {
 
-// A console window shows UTF-8 while the program runs. It is not the program's own, and goes on behind it.
+// A console window shows UTF-8 while the program runs. It is not the program's own, and goes on after it.
 class WindowInUtf8 {
 #ifdef _WIN32
 public:

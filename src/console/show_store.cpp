@@ -32,7 +32,7 @@ Text indexed(const char* table, std::span<const int> index) {
     return name += ')';
 }
 
-// The next index of a table in the order that a reader counts, the last part fastest. False behind the last.
+// The next index of a table in the order that a reader counts, the last part fastest. False after the last.
 template <std::size_t parts>
 bool advance(std::array<int, parts>& index, const std::array<int, parts>& extents) {
     for (std::size_t part = parts; part-- > 0;) {
@@ -46,7 +46,7 @@ class StorePrinter {
 public:
     explicit StorePrinter(Transcript& transcript) : transcript_(transcript) {}
 
-    // The fields of a record; each one's name stands behind what `prefix()` gives.
+    // The fields of a record; each one's name stands after what `prefix()` gives.
     template <class List, class Record, class Prefix>
     void record(const List& fields, const Record& record, Prefix prefix) {
         forEachField(fields, record, [&](TextView field, const auto& value) {
@@ -65,7 +65,6 @@ public:
         if (!isEmpty(value)) line(indexed(table, index), textOf(value));
     }
 
-    // The records of a table, field by field.
     template <class Element, int... extents, class List>
     void records(const char* name, const Table<Element, extents...>& table, const List& fields) {
         each(table, [&](const auto& index, const Element& element) {

@@ -10,7 +10,7 @@ namespace quillon {
 /// A text of digits with an optional sign and nothing else that fits an int.
 std::optional<int> wholeNumber(TextView text);
 
-/// Cuts the first word off a text: what stands before its first blank. What stands behind that blank is the
+/// Cuts the first word off a text: what stands before its first blank. What stands after that blank is the
 /// new rest, which has no value where there was no blank.
 TextView takeWord(std::optional<TextView>& rest);
 

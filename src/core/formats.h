@@ -72,7 +72,6 @@ Text formatted(const NumberFormat& format, double number);
 /// A text that is strictly a number is formatted as that number; any other text passes unchanged.
 Text formatted(const NumberFormat& format, TextView text);
 
-/// The text in the alignment.
 Text aligned(const Alignment& alignment, TextView text);
 
 /// First the number format, then the alignment: how nearly every cell is made.

@@ -71,7 +71,7 @@ void LeaveOutRacesBeforeTheCard() {
     rows.MoveFirst();
 }
 
-// A race that can have a label and a track code. Fails for those behind, which have the rest of a RaceInfo.
+// A race that can have a label and a track code. Fails for later ones, which have the rest of a RaceInfo.
 RaceInfo& labelledRace(int race) {
     if (race >= labelExtent) fail("race " + std::to_string(race) + " is beyond those with a label");
     return card.raceInfo(race);

@@ -21,11 +21,11 @@ void takeHorseRow(RaceEntry& entry);
 Integer raceIndex(TextView race);
 
 /// The race index of the current race row: the first row is race 1, and rows count on from there by their
-/// numbers; where the numbers begin again behind a card's lettered races, the index goes on by one. Fails
-/// behind the last row.
+/// numbers; where the numbers begin again after a card's lettered races, the index goes on by one. Fails
+/// after the last row.
 Integer currentRaceIndex();
 
-/// Whether the race table has a row of this index behind the current one.
+/// Whether the race table has a row of this index after the current one.
 bool laterRaceRow(Integer race);
 
 /// Reads `TRACK` of the race table's row and the track table; writes the track's size, stretch and post limit
@@ -45,8 +45,7 @@ void ReadDrivers();
 
 void ReadTrainers();
 
-/// Every row of the horse table into its entry; the horse cursor returns to its first row. Resumes at
-/// failures.
+/// Every row of the horse table into its entry; the horse cursor ends on the first row. Resumes at failures.
 void ReadEntries();
 
 } // namespace quillon

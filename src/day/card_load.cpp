@@ -221,7 +221,7 @@ void ShowRaceButton() {
     button.enabled = true;
 }
 
-// A line of a race without a view, or behind its last row, is filled in and stored all the same.
+// A line of a race without a view, or after its last row, is filled in and stored all the same.
 void TakeRow() {
     static std::array<Cell, dataViewColumns> outside;
     Grid* view = viewOfLines(cursor.race);

@@ -63,7 +63,7 @@ void captionEntryButtons() {
     }
 }
 
-// The eight characters behind the first "_" of the card's file name.
+// The eight characters after the first "_" of the card's file name.
 Text dateOfCard() { return Text{midOf(card.cardFileName, placeOf("_", card.cardFileName) + 1, 8)}; }
 
 void tellHowToGoOn() {

@@ -10,8 +10,7 @@ namespace quillon {
 /// "EXIT" for the entry in that row. Rows without an entry have no list.
 void DriverColumn(int row);
 
-/// Picks a line of the driver list and puts the list away. "EXIT" and the lines without a driver change
-/// nothing.
+/// Picks a line of the driver list and puts the list away. "EXIT" and lines without a driver change nothing.
 void DriverChoice(const Text& line);
 
 /// What a driver of this UDR (0 to 1, the share that he wins) takes off a rating; negative for what he adds.

@@ -23,8 +23,7 @@ struct ComparedPlace {
     bool isMoved() const { return program.programNumber != mine.programNumber; }
 };
 
-/// S1 to S5 of a race of the card as loaded, and of the card as it stands. Nothing for a race that is not
-/// there.
+/// S1 to S5 of a race of the card as loaded, and of the card as it stands. Nothing for a race not there.
 std::array<ComparedPlace, rankedPlaces> programAndMine(const RaceCard& loaded, const RaceCard& now, int race);
 
 } // namespace quillon

@@ -30,8 +30,7 @@ void rankAgain(int race, const Ranking& ranking, Posts posts) {
 }
 
 // The rating of the line in this row of the data view becomes its entry's. The past-performance view may
-// still hold another race's lines, so that the row may be empty here; entry 0 would be the head of the race
-// view.
+// still hold another race's lines, so that the row may be empty; entry 0 would be the race view's head.
 void takeLine(double row, const Ranking& ranking, Posts posts) {
     const int race = raceOnShow();
     if (race == 0) return;

@@ -20,8 +20,7 @@ LineNumbers linesOnShow();
 /// The race edit button: asks for the number of a line of the past-performance view and takes it.
 void Command7();
 
-/// Writes the row of the cursor's race and entry in the race view from row `cursor.row` of the race's data
-/// view.
+/// Writes the row of the cursor's race and entry in the race view from row `cursor.row` of its data view.
 void CommandThree();
 
 /// A first ranking of the race on show, strict and without the fifth horse. The ranking that follows

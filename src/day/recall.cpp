@@ -23,7 +23,7 @@ constexpr int noPost = 99;
 
 bool isShown(const RaceEntry& entry) { return !trimmed(entry.horseName).empty(); }
 
-// The eight characters behind the first "_".
+// The eight characters after the first "_".
 TextView dateInName(TextView cardFileName) {
     constexpr int dateLength = 8;
     const int bar = placeOf("_", cardFileName);

@@ -12,8 +12,7 @@ void RecallRaceCard();
 /// changes. Resumes at failures: of a missing or damaged file what can be read is read.
 void ChooseFile(const Text& fileName);
 
-/// Shows the card in the store: race buttons, race views, and race 1 in heading and board. Resumes at
-/// failures.
+/// Shows the card in the store: race buttons, race views, race 1 in heading and board. Resumes at failures.
 void Recall();
 
 } // namespace quillon

@@ -28,8 +28,7 @@ struct LeftBehind {
 /// when they can't be written, and keeps what was kept then.
 void keepForRecovery(TextView state, const RecoveryHeading& heading);
 
-/// The card is saved or closed: what this program keeps of it is not needed any more. Fails when it can't be
-/// removed.
+/// The card is saved or closed: what is kept of it is not needed any more. Fails when it can't be removed.
 void stopKeeping();
 
 /// What a program that has ended left behind, the newest where there is more, with the whole of its bytes.

@@ -14,8 +14,7 @@ bool canScratch(int button);
 void Command4(int button);
 
 /// What an entry starting from post `cursor.scratchPost` gains on the card's track when one inside it goes
-/// out: the number to take off its rating, as text in `cursor.scratchAdjust`. "0" for posts and sizes without
-/// one.
+/// out: the number to take off its rating, as text in `cursor.scratchAdjust`; "0" where there is none.
 void Scr_adj();
 
 } // namespace quillon

@@ -122,8 +122,7 @@ int CellTableModel::rowsOnShow() const {
     return rows;
 }
 
-// The blanks that texts are padded with would keep digits from standing below digits, and a number from the
-// middle.
+// The blanks that pad texts would keep digits from standing below digits, and a number from the middle.
 QString CellTableModel::shownText(int row, int column) const {
     const RowMark& mark = markOf(row);
     const int afterNote = column - layout_.firstColumn - mark.noteFrom;

@@ -10,8 +10,7 @@
 
 namespace quillon {
 
-/// A line as it stands in a file, and how it ends there: "\n", "\r\n", "\r\r\n", or "" at the end of the
-/// file.
+/// A line as it stands in a file, and how it ends there: "\n", "\r\n", "\r\r\n", or "" at the file's end.
 struct FileLine {
     Text text{};
     Text end{};

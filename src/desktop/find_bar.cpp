@@ -22,7 +22,7 @@ bool isSearchable(QWidget* widget) {
     return qobject_cast<CellTableView*>(widget) || qobject_cast<QPlainTextEdit*>(widget);
 }
 
-// Behind the cursor and round the end; the cursor stays where nothing is found.
+// After the cursor and round the end; the cursor stays where nothing is found.
 bool findInText(QPlainTextEdit& editor, const QString& text, bool backwards) {
     const auto flags = backwards ? QTextDocument::FindBackward : QTextDocument::FindFlags{};
     if (editor.find(text, flags)) return true;

@@ -21,8 +21,7 @@
 namespace quillon {
 namespace {
 
-// The file's whole path, since another program may have another current folder. Empty for a name that is
-// none.
+// The file's whole path, since another program may have another current folder. Empty for a bad name.
 QString pathOf(const FilePlace& file) {
     QString path;
     attempt([&] { path = QFileInfo{pathOnDisk(file)}.absoluteFilePath(); });

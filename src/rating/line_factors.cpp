@@ -17,8 +17,7 @@
 namespace quillon {
 namespace {
 
-// Park marks: a ring for a call raced outside, two for a call raced two wide. Tables carry the ring in two
-// codes.
+// Park marks: a ring for a call raced outside, two for one raced two wide. Tables have two codes for a ring.
 constexpr std::array parkedMarks{TextView{"\xBA"}, TextView{"\xB0"}};
 constexpr std::array parkedTwoWideMarks{TextView{"\xBA\xBA"}, TextView{"\xB0\xB0"}};
 

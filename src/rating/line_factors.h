@@ -16,8 +16,7 @@ namespace quillon {
 void RateLine();
 
 /// Reads `horseFinal` and `leaderFinal`; writes the first figure to `lineValue`, "99.9" for a line of more
-/// than a mile, nothing for one without a last quarter or a finish. Stops at a failure, as all steps below
-/// do.
+/// than a mile, nothing for one without a last quarter or a finish. Stops at a failure, as all below do.
 void LastQuarterCalc();
 
 /// Reads the first three calls; credits each that found the horse on the lead.

@@ -126,7 +126,7 @@ bool searchesOn(LineSearch& search) {
     return ++search.position <= search.limit;
 }
 
-// Behind the search: no line was found and there is one more, or there is none, its post being no number. The
+// After the search: no line was found and there is one more, or there is none, its post being no number. The
 // latter also holds for an entry whose best line was found among lines that all lie in the window: it falls
 // back on its latest line below, which is how the ratings are meant to come out.
 bool wantsOlderLine(const LineSearch& search) {
@@ -142,8 +142,7 @@ bool isNoStarter(const LineSearch& search) {
     return entry.horseName.empty() || contains(entry.programNumber, alsoEligible);
 }
 
-// Adds one line to those that count. False when that settles the choice: at the 50-day count the latest line
-// stands.
+// Adds one line to those that count. False when that settles it: at the 50-day count the latest stands.
 bool searchesFurther(LineSearch& search) {
     attempt([&] { search.window() = toInteger(search.window() + 1.0); });
     if (search.window() >= search.shared().linesInFiftyDays) {
@@ -198,8 +197,7 @@ std::vector<ShownField> shownFields() {
     return fields;
 }
 
-// A field of the running-line table. Row 0, that of an entry without a line, is the head with the fields'
-// names.
+// A field of the running-line table. Row 0, of an entry without a line, is the head: the fields' names.
 Text tableCell(int row, int field) {
     const TableCursor& lines = load.lineRows;
     if (row == 0) return Text{lines.fieldName(field)};
@@ -228,7 +226,6 @@ void writeRow(int race, int index, const std::vector<ShownField>& fields) {
     Colors();
 }
 
-// The line of the cursor's race and entry.
 void selectLine(const std::vector<ShownField>& fields) {
     LineSearch search{.race = cursor.race, .entry = cursor.entry};
     if (!choosesLine(search)) return;

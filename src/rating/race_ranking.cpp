@@ -60,8 +60,7 @@ private:
         return pick == Pick::atMost ? value <= *best_ : value < *best_;
     }
 
-    // The best goes on from stage to stage: a stage without a seed compares with what the one before has
-    // left.
+    // The best goes on from stage to stage: a stage without a seed compares with what the last one left.
     void put(int stage, Entry entry) {
         best_ = numberIn(ratings_[entry]);
         if (!best_) passOver();
@@ -141,7 +140,7 @@ void widenSelections(int race) {
     rankedEntry(race, 4).chosen.CALL_ST_PO = rankedEntry(race, 3).chosen.CALL_ST_PO;
 }
 
-// A park cell that does not stand behind "A" by its bytes: empty, or a single mark padded to two places. Bare
+// A park cell that does not stand after "A" by its bytes: empty, or a single mark padded to two places. Bare
 // and double marks stay.
 void clearPaddedPark(Text& park) {
     if (!(TextView{park} > TextView{"A"})) park = "  ";

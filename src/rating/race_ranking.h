@@ -42,8 +42,7 @@ using RankedEntries = std::array<Integer, rankedPlaces + 1>;
 /// The entries by place. A stage that finds nobody leaves the place as it was `before`.
 RankedEntries ranked(const Ranking& ranking, const RatingTexts& ratings, RankedEntries before);
 
-/// Ranks these values into `card.rankEntry`: the way for a heat, with `fourStages` and the slot's heat
-/// ratings.
+/// Ranks these values into `card.rankEntry`: for a heat, with `fourStages` and the slot's heat ratings.
 void rankValues(const Ranking& ranking, const RatingTexts& ratings);
 
 /// Ranks the entries 1 to 12 of a race by their `rating` into `card.rankEntry`.
@@ -60,8 +59,7 @@ Text driverText(const RaceEntry& entry);
 /// selections. Reads and pads the ranked entries' cells. Resumes at failures.
 void RankRace();
 
-/// Behind a new ranking: name (cut to 25 characters), driver and rating (in width 5) of a selection are the
-/// entry's.
+/// After a new ranking a selection has its entry's name (cut to 25 characters), driver and rating (width 5).
 void renewSelection(Selection& selection, const RaceEntry& entry);
 
 enum class Posts { renewed, kept };

@@ -6,7 +6,6 @@
 
 namespace quillon {
 
-/// Columns of the overview.
 struct OverviewColumn {
     enum Number {
         race, ///< its label

@@ -120,8 +120,8 @@ void addRace(ReportWriter& program, int race) {
     program.line("{}", Text(ruleWidth, '-'));
 }
 
-// The rule behind a race ends its page. Track and first race stand out; headings, entries and selections do
-// so behind a dash.
+// The rule after a race ends its page. Track and first race stand out; headings, entries and selections do
+// so after a dash.
 void printProgramLine(int number, TextView line) {
     constexpr int trackLine = 4;
     constexpr int firstRaceLine = 8;

@@ -8,7 +8,7 @@ namespace quillon {
 void Condensed_PPP();
 
 /// Prints the ".ppp" program of the open card, a page a race. With no card open, or no such file, it stops
-/// behind its first message.
+/// after its first message.
 void PrintCondensedProgram();
 
 } // namespace quillon

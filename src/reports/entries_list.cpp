@@ -17,7 +17,7 @@ constexpr const char* entryLine = "{}  {} {} {}{}{}{}{}";
 constexpr const char* raceLine  = "Race {}";
 // clang-format on
 
-constexpr int columnWidth = 20; ///< of the morning line with the gap behind the name, and of the driver
+constexpr int columnWidth = 20; ///< of the morning line with the gap after the name, and of the driver
 constexpr int postWidth = 3;
 
 /// Where the list believes itself to be: the race of its last heading, and the lines printed under it.
@@ -35,8 +35,7 @@ TextView driverOf(const RaceEntry& entry) {
     return trimmed(entry.driverName.empty() ? TextView{entry.chosenDriver} : TextView{entry.driverName});
 }
 
-// The rating goes by the lines printed under the heading, not by the post; behind the last entry there is
-// none.
+// The rating goes by the lines printed under the heading, not by the post; none after the last entry.
 TextView ratingAt(const ListPlace& place) {
     return place.printed < entryExtent ? trimmed(card.entry(place.race, place.printed).rating) : TextView{};
 }

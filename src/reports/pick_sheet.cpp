@@ -23,7 +23,7 @@ constexpr const char* fiveLine  = "Race:    {}:           {} -{} -{} -{} -{}";
 // Words that tell a wager over several races. The first that a text holds counts, in this order.
 struct PickWord {
     TextView word;
-    int room; ///< characters behind the word in which the number of legs is looked for
+    int room; ///< characters after the word in which the number of legs is looked for
     int legs; ///< legs that the word itself says, or 0
 };
 constexpr std::array pickWords{
@@ -82,7 +82,7 @@ Text wagerHeading(const PickWord& row, Integer legs) {
     return heading;
 }
 
-// The key picks of a race; a leg behind the last race that can have any has none.
+// The key picks of a race; a leg after the last race that can have any has none.
 std::array<TextView, picks> picksOf(int race) {
     std::array<TextView, picks> found{};
     if (race < 0 || race >= labelExtent) return found;
@@ -104,8 +104,7 @@ double addLegs(ReportWriter& sheet, int firstRace, Integer legs) {
     return tickets;
 }
 
-// The total is worked out for two to six legs. Others show what stands there, 0 behind any wager and nothing
-// before.
+// The total is worked out for two to six legs. Others show what stands there: 0 after another wager.
 void addWager(ReportWriter& sheet, int race, const PickWord& row, Text& total) {
     const Integer legs = legsIn(card.raceInfo(race).wagering, row);
     sheet.line("");

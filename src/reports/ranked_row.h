@@ -5,7 +5,7 @@
 
 namespace quillon {
 
-constexpr int fifthPlace = 5; ///< behind S1 to S4
+constexpr int fifthPlace = 5; ///< after S1 to S4
 
 struct RankedRow {
     TextView pn; ///< program number

@@ -93,8 +93,7 @@ inline constexpr std::array<TextView, 3> publisherLines{
     "Questions and ideas: the Quillon desk at Tarnbeck Software",
 };
 
-/// The lines that a sheet of the open card begins with: title, publisher, track, date (mm-dd-yyyy), an empty
-/// line.
+/// The lines that begin a sheet of the open card: title, publisher, track, date (mm-dd-yyyy), an empty one.
 void addCardHead(ReportWriter& report, TextView title);
 
 /// The two of them that tell the meeting: track code and description, and the date.

@@ -36,15 +36,15 @@ constexpr double starMargin = 5;
 constexpr Integer lowestStarOdds = 3;
 constexpr Integer highestStarOdds = 5;
 
-/// The gap from S1 to S2 from which S1 stands alone, and those behind S2 and S3 that end the picks there.
+/// The gap from S1 to S2 from which S1 stands alone, and those after S2 and S3 that end the picks there.
 constexpr double singleGap = 5;
 constexpr double secondGap = 0.75;
 constexpr double thirdGap = 0.5;
 
-/// What the ratings of a race say: the margin of S1 as its sheet takes it, and the gap behind each place.
+/// What the ratings of a race say: the margin of S1 as its sheet takes it, and the gap after each place.
 struct Gaps {
     Text margin = "0";
-    std::array<Integer, 4> behind{}; ///< whole gaps behind S1 to S3, from 1
+    std::array<Integer, 4> behind{}; ///< whole gaps after S1 to S3, from 1
 };
 
 Gaps gapsOf(int race) {
@@ -93,7 +93,7 @@ int pickCount(const Gaps& gaps) {
     return 4;
 }
 
-// One pick or four end their line themselves, so that a line more is left empty behind them.
+// One pick or four end their line themselves, so that a line more is left empty after them.
 void addPicks(ReportWriter& sheet, int race, int picks) {
     sheet.part(firstPick, rankedRow(race, 1).pn);
     for (int pick = 2; pick <= picks; ++pick) sheet.part(furtherPick, rankedRow(race, pick).pn);

@@ -20,8 +20,7 @@ void NotePad();              ///< results text, for the user to paste into
 void PrintSummary(); ///< what the selections earned today
 void TestResults();  ///< diagnostic log of the ratings
 
-// The plain files of the settings and the archive, for the user to edit. Nothing checks what is written
-// there.
+// The plain files of the settings and the archive, for the user to edit. Nothing checks what is written.
 void ArchivesEditor(); ///< "HRA.ini", a line for each recorded card
 void TrackEditor();    ///< "TrackEditor.ini", a line for each track
 void EXE();            ///< "Webpage.ini", whose last line is the data vendor's download page

@@ -12,8 +12,7 @@ namespace quillon {
 /// a results file it shows race 1 and nothing else.
 void AutoRecord();
 
-/// The word layout, quietly, as a recall runs it. It goes on counting the dead heats where the run before
-/// ended.
+/// The word layout, quietly, as a recall runs it. It goes on with the dead heats that the run before counted.
 void AutoRecord2();
 
 /// "TRC Auto Record": the word layout with the daily doubles and picks, its dead heats counted afresh.

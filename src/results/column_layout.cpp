@@ -112,9 +112,8 @@ void readTrifecta(TextView line) {
     removeComma(PayoffCell::trifecta);
 }
 
-/// The fourth finisher, who has no line of his own: the last of the superfecta's numbers, before "paid".
-/// Two characters are taken, of which the second is a blank before "paid", so 10 and above end as their last
-/// figure.
+/// The fourth finisher, who has no line of his own: the last of the superfecta's numbers, before "paid". Two
+/// characters are taken, of which the second is a blank before "paid": 10 and above keep their last figure.
 void readFourth(TextView line) {
     constexpr int numbersWidth = 11;
     const TextView keyword = midOf(line, keywordPlace, 3);

@@ -17,8 +17,7 @@ constexpr int lineButtons = 13;    ///< past lines of an entry that have a butto
 void showRaceHeader(int race);
 
 /// The eight boxes, the "Tote Board" and the refunds as they stand in the store, the tint of S1 and S2, and
-/// what a dead heat changes. The race's label must stand already. A heat without selections shows its
-/// ranking.
+/// what a dead heat changes. The race's label must stand. A heat without selections shows its ranking.
 void showBoard(int race);
 
 /// The number that a heading ends with, blanks after it aside; 0 without one.

@@ -61,8 +61,7 @@ void readDate(ResultsDate& date, TextView line) {
     }
 }
 
-/// Where the three payoffs of a winner stand, by the place of the first point. The third is the last six
-/// characters.
+/// Where a winner's three payoffs stand, by the place of the first point. The third is the last 6 characters.
 struct WinnerCut {
     int point;
     int firstWidth;

@@ -39,7 +39,7 @@ struct Ports {
 
     /// Long work tells how far it is, 0 to 1; false when the user wants it to stop.
     std::function<bool(double done)> progress = [](auto) { return true; };
-    /// The system has ended: the front end leaves its loop behind the running command.
+    /// The system has ended: the front end leaves its loop after the running command.
     std::function<void()> end = [] {};
 };
 

@@ -80,8 +80,7 @@ public:
     /// Gives every cell of the columns `from` to `to` of a row this background.
     void shade(int row, int from, int to, std::optional<Colour> background);
 
-    /// The rows from `first` on are the source's, in place of all there were from there on; they can't be
-    /// written.
+    /// The rows from `first` on are the source's, in place of all from there on; they can't be written.
     void showRows(int first, RowSource source);
 
     /// Empties every cell but those of the head row, and lets go of a source.

@@ -1,5 +1,4 @@
-// How the tables of the screen are shown, for any front end: which columns and rows, and what is special in
-// them.
+// How a front end shows the tables of the screen: which columns and rows, and what is special in them.
 #pragma once
 
 #include "card/columns.h"

@@ -23,7 +23,7 @@ enum class FieldForm {
     unread,           ///< always the empty text: what lies in another file, or outside the row
 };
 
-/// The characters that a field holds: 00 behind them is padding of a row that was never filled in.
+/// The characters that a field holds: 00 after them is padding of a row that was never filled in.
 constexpr TextView charactersIn(TextView stored) {
     return stored.substr(0, stored.find_last_not_of('\0') + 1);
 }

@@ -33,7 +33,7 @@ public:
     void beginAt(int row);
 
     void MoveFirst();
-    void MoveNext(); ///< past the last row the cursor stays behind it
+    void MoveNext(); ///< past the last row the cursor stays after it
     void MoveLast();
     bool Eof() const; ///< true once moved past the last row, and in an empty table
 
@@ -55,7 +55,7 @@ public:
     int fieldCount() const;
     TextView fieldName(int number) const;
     Text field(int row, int number) const;
-    int row() const; ///< the current row, from 1; rowCount() + 1 behind the last
+    int row() const; ///< the current row, from 1; rowCount() + 1 after the last
 
     /// Tells one opened table from another, so that field numbers can be kept; 0 for no table.
     std::uint64_t serial() const { return table_ ? table_->serial : 0; }

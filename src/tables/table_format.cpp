@@ -184,7 +184,7 @@ std::size_t wholeRows(TextView content, std::size_t firstRow, std::size_t rowLen
     return std::min(counted, (content.size() - firstRow) / rowLength);
 }
 
-// True where all that is counted is there, and the end of the table right behind it.
+// True where all that is counted is there, and the end of the table right after it.
 bool fillTheFile(TextView content, std::size_t firstRow, std::size_t rowLength) {
     const std::size_t counted = lowFirst<std::uint32_t>(content, rowCountPlace);
     if (counted != wholeRows(content, firstRow, rowLength)) return false;

@@ -36,7 +36,6 @@ TrackRecord trackRecordOf(TextView row) {
     };
 }
 
-// The rows of a track in `byKey`.
 auto rowsOf(const TrackTable& table, TextView trackKey) {
     struct ByKey {
         const TrackTable& table;

@@ -163,7 +163,7 @@ TEST_F(ArchiveRecordsTest, ACardIsRecordedOnce) {
     }
 }
 
-TEST_F(ArchiveRecordsTest, RecordsAreAddedBehindWhatIsThere) {
+TEST_F(ArchiveRecordsTest, RecordsAreAddedAfterWhatIsThere) {
     const std::string earlier = "   M1_20260313  9\r\n";
     put("HRA.ini", earlier);
     put("Stars5.ini", "M1_20260313\r\n");

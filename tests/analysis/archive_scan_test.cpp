@@ -12,8 +12,7 @@ namespace {
 
 using ArchiveScanTest = ProfileTest;
 
-// Every figure in the plainest way: the places as the archive's description has them, one number after
-// another.
+// Every figure in the plainest way: the places as the archive's description has them, one by one.
 std::vector<double> figuresByPlace(const Text& line) {
     const auto at = [&](std::size_t place, std::size_t width) {
         return place > line.size() ? 0 : lenientNumber(line.substr(place - 1, width));
@@ -67,10 +66,10 @@ struct OddLine {
 
 TEST(ArchivedCards, FieldsThatAreNoPlainNumbersAreReadAsNumbersAre) {
     const OddLine rows[] = {
-        {"a letter behind the digits", 15, "1x ", 0, 1},
+        {"a letter after the digits", 15, "1x ", 0, 1},
         {"a letter in front", 15, "x12", 0, 0},
         {"a blank between digits", 18, "  1 2", 1, 1},
-        {"a blank behind", 18, "  12 ", 1, 12},
+        {"a blank after", 18, "  12 ", 1, 12},
         {"a tab is no blank", 18, "\t  12", 1, 0},
         {"a minus sign", 18, "   -4", 1, -4},
         {"a plus sign", 18, "   +4", 1, 4},
@@ -82,9 +81,9 @@ TEST(ArchivedCards, FieldsThatAreNoPlainNumbersAreReadAsNumbersAre) {
         {"no point", 38, "    12345", 5, 12345},
         {"a point elsewhere", 38, "   12.345", 5, 12.345},
         {"one decimal", 38, "     12.5", 5, 12.5},
-        {"a blank behind the point", 38, "    12. 5", 5, 12},
+        {"a blank after the point", 38, "    12. 5", 5, 12},
         {"a blank as the last", 38, "    12.5 ", 5, 12.5},
-        {"a digit behind a point between blanks", 38, "      . 5", 5, 0},
+        {"a digit after a point between blanks", 38, "      . 5", 5, 0},
         {"only a point", 38, "      .  ", 5, 0},
         {"only blanks", 38, "         ", 5, 0},
         {"a comma", 38, " 1,234.50", 5, 1},
@@ -154,8 +153,7 @@ TEST_F(ArchiveScanTest, LinesComeForwardsAndBackwards) {
 }
 
 TEST_F(ArchiveScanTest, BlocksCutNoLine) {
-    // Lines of all lengths up to 2,000 characters, and one longer than three blocks, over many blocks of the
-    // file.
+    // Lines of up to 2,000 characters, and one longer than three blocks, over many blocks of the file.
     std::vector<Text> lines;
     Text content;
     for (std::size_t length = 0; length < 2000; ++length) {

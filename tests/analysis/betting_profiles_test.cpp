@@ -26,9 +26,6 @@ protected:
     }
 };
 
-// --- The table
-// ------------------------------------------------------------------------------------------------
-
 TEST_F(BettingProfilesTest, HeadsAndLabelsStand) {
     archive({{}});
     ALL();
@@ -157,9 +154,9 @@ TEST_F(BettingProfilesTest, TotalsAreAddedUpOverTheCards) {
     // 30.00 + 20.50 = 50.50; x 6 = 303.00; less 252 = 51.00; 51 / 252 = 20.238 per cent
     EXPECT_EQ((std::vector<Text>{"     50.50", "    303.00", "252", "     51.00", " 20.2%"}),
               column(6, 2, 6));
-    // 1000.00 + 40.01 = 1040.01; x 0.5 = 520.005, less 252 = 268.005; both are shown by their binary values:
-    // 520.005 is 520.0049999999999954525..., 268.005 is 268.0049999999999954525...; 268 / 252 = 106.35 per
-    // cent
+    // 1000.00 + 40.01 = 1040.01; x 0.5 = 520.005, less 252 = 268.005; both are
+    // shown by their binary values: 520.005 is 520.0049999999999954525...,
+    // 268.005 is 268.0049999999999954525...; 268 / 252 = 106.35 per cent
     EXPECT_EQ((std::vector<Text>{"   1040.01", "    520.00", "252", "    268.00", "106.3%"}),
               column(13, 2, 6));
     // nothing won: -252 / 252
@@ -194,9 +191,6 @@ TEST_F(BettingProfilesTest, AllRacesWonAreAHundredPerCent) {
     EXPECT_EQ("100%", cell(10, 2));
     EXPECT_EQ("100%", cell(10, 6));
 }
-
-// --- The superfectas
-// ------------------------------------------------------------------------------------------
 
 // The older card (2 races with a superfecta) stands first in the file and is read last; its bets count, its
 // returns don't. 5 races in all: 60 bet.
@@ -263,9 +257,6 @@ TEST_F(BettingProfilesTest, ACountThatComesToNothingKeepsTheReturnOnBets) {
     EXPECT_EQ("-100%", cell(6, 17));
 }
 
-// --- Filters
-// --------------------------------------------------------------------------------------------------
-
 TEST_F(BettingProfilesTest, TheWorkingCopyHasTheFiltersLinesNewestFirst) {
     ArchiveCard one, two, three;
     one.key = "   M1_20260101";
@@ -318,7 +309,7 @@ struct SizeRow {
 TEST_F(BettingProfilesTest, ASizeCountsTheTracksThatHaveIt) {
     put("TrackEditor.ini", trackRow("AAA", "1/2") + trackRow("BBB", "5/8") + trackRow("CCC", "3/4") +
                                trackRow("DDD", "7/8") + trackRow("EEE", "1.M") + trackRow("FFF", "1.Q") +
-                               "\r\n" + trackRow("GGG", "1/2")); // behind an empty line nothing is read
+                               "\r\n" + trackRow("GGG", "1/2")); // after an empty line nothing is read
     std::vector<ArchiveCard> cards;
     for (const char* track : {"AAA", "BBB", "CCC", "DDD", "EEE", "FFF", "GGG", "HHH"}) {
         cards.emplace_back();
@@ -400,9 +391,6 @@ TEST_F(BettingProfilesTest, WithoutAnArchiveTheViewStaysAsItWas) {
     EXPECT_EQ(archiveOf({{}}), contentOf("HRA.txt"));
     EXPECT_EQ("", screen.profileFilter);
 }
-
-// --- Thirty cards, every filter, against a second way of adding up
-// ------------------------------------------------
 
 // A number's text in the profile's money form, by the C library: "-252.00", ".50".
 Text money(double amount, std::size_t width) {
@@ -527,9 +515,6 @@ TEST_F(BettingProfilesTest, EveryFilterAddsUpItsCards) {
             EXPECT_EQ(chosen[card].substr(0, 14), cell(11 + static_cast<int>(card), 0));
     }
 }
-
-// --- Damage and size
-// --------------------------------------------------------------------------------------------
 
 // HRA.ini: an empty line, the older card, an empty line, the newer card. Backwards: newer, empty, older,
 // empty; each empty line is written over the row before it.
@@ -679,9 +664,6 @@ TEST_F(BettingProfilesTest, ACopyThatCanNotBeWrittenEndsTheProfile) {
     EXPECT_EQ(archiveOf({{}, {}}), contentOf("HRA.ini"));
     EXPECT_FALSE(exists("HRA.txt.quillon-new"));
 }
-
-// --- The list of tracks
-// -----------------------------------------------------------------------------------------
 
 TEST_F(BettingProfilesTest, TheListShownIsThatOfTheLastScan) {
     ArchiveCard m1, yr, longCode;

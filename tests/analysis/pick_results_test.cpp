@@ -78,14 +78,14 @@ TEST_F(PickResultsTest, PicksOfTwentyRacesAreShown) {
     EXPECT_EQ("  4", cell(1, 1));
     EXPECT_EQ("  2", cell(1, 2));
     EXPECT_EQ("", cell(1, 3));
-    EXPECT_EQ("  5", cell(20, 4)); // also behind the card's last race
+    EXPECT_EQ("  5", cell(20, 4)); // also after the card's last race
     EXPECT_EQ("", cell(21, 1));
 }
 
 TEST_F(PickResultsTest, WinnersAndPayoffsOfTheCardsRacesAreShown) {
     winners(2, {"4", "7", "1", "9"});
     for (int legs = 0; legs <= 10; ++legs) card.pickPayoff(3, legs) = "pays " + std::to_string(legs);
-    card.pickLegs(4, 1) = "8"; // behind the last race
+    card.pickLegs(4, 1) = "8"; // after the last race
     Pick3Results();
     EXPECT_EQ("4", cell(2, 6));
     EXPECT_EQ("7", cell(2, 7));
@@ -113,7 +113,7 @@ TEST_F(PickResultsTest, TheFirstWinnerThatWasPickedIsMarked) {
         {"the winner is pick 4", {"4"}, {"  1", "  2", "  3", "  4"}, 6},
         {"nobody picked him", {"5"}, {"  1", "  2", "  3", "  4"}, 0},
         {"1A counts as 1", {"1A"}, {"  1"}, 6},
-        {"a number with a blank behind it", {"4 "}, {"  4"}, 6},
+        {"a number with a blank after it", {"4 "}, {"  4"}, 6},
         {"the second of a dead heat", {"5", "4"}, {"  4"}, 7},
         {"the third", {"5", "6", "4"}, {"  4"}, 8},
         {"the fourth, whose cell is not filled", {"5", "6", "7", "4"}, {"  4"}, 9},

@@ -46,8 +46,6 @@ protected:
     static std::vector<Text> fields() { return {screen.starsFields.begin() + 1, screen.starsFields.end()}; }
 };
 
-// --- What is asked for, and what it adds up to
-
 TEST(StarFiguresTest, FlatBetsAreSetAgainstTheirReturns) {
     const StarFigures shown = starFigures({.races = 25, .wins = 1, .returned = 36});
     EXPECT_EQ("25", shown[1]);
@@ -73,9 +71,6 @@ TEST(StarFiguresTest, ARecordPassesByItsWholePointsAndItsOdds) {
     EXPECT_FALSE(passes(record, {2, "7/2"}));
     EXPECT_TRUE(passes(record, {50, "ALL Odds"}));
 }
-
-// --- The window
-// -----------------------------------------------------------------------------------------------
 
 TEST_F(StarsProfileTest, OpeningShowsEveryLineOfTheFile) {
     put("Stars5.ini", "M1_20260314\r\n" + lineOf({.race = "1", .payoff = "43.20"}) +
@@ -115,7 +110,7 @@ TEST_F(StarsProfileTest, FieldsAreReadAtTheirPlaces) {
         {"no payoff", {}, 6, "0"},
         {"a payoff below ten", {.payoff = "9.60"}, 6, "  9.60"},
         {"a payoff above a hundred is cut", {.payoff = "123.60"}, 6, " 123.0"},
-        {"a winner's mark behind a cut payoff", {.payoff = "123.60"}, 7, "1"},
+        {"a winner's mark after a cut payoff", {.payoff = "123.60"}, 7, "1"},
         {"the last digit of the bet", {}, 7, "0"},
     };
     for (const FieldRow& row : rows) {
@@ -203,9 +198,6 @@ TEST_F(StarsProfileTest, OpeningAgainStartsAfresh) {
     EXPECT_EQ("", screen.oddsChoice);
     EXPECT_EQ("Margin", screen.marginList.caption);
 }
-
-// --- The filter
-// -----------------------------------------------------------------------------------------------
 
 struct MarginCase {
     const char* choice;
@@ -309,9 +301,6 @@ TEST_F(StarsProfileTest, RowsThatPassShowTheirRecord) {
     EXPECT_EQ((std::vector<Text>{"", "8", "5.2", "2.50 ", "5/2", "12.00", "0", "0"}), row(2));
 }
 
-// --- The fields
-// -----------------------------------------------------------------------------------------------
-
 // Races of which the first so many were won at 43.20.
 Text racesWon(int races, int wins) {
     Text lines = "M1_20260314\r\n";
@@ -411,9 +400,6 @@ TEST_F(StarsProfileTest, TheReturnOnBetsIsCut) {
     EXPECT_EQ("-48.5%", screen.starsFields[7]);
 }
 
-// --- Thirty cards, against a second way of adding up
-// ---------------------------------------------------------------
-
 TEST_F(StarsProfileTest, EveryMarginAndLineAddsUpItsRaces) {
     std::mt19937 random{11};
     const Text odds[] = {" 1/1", " 5/2", " 3/1", "10/1"};
@@ -469,9 +455,6 @@ TEST_F(StarsProfileTest, EveryMarginAndLineAddsUpItsRaces) {
         }
     }
 }
-
-// --- Damage and size
-// --------------------------------------------------------------------------------------------
 
 TEST_F(StarsProfileTest, WithoutAFileTheWindowOpensEmpty) {
     EXPECT_FALSE(attempt(Star));

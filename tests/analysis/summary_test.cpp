@@ -53,7 +53,7 @@ TEST_F(SummaryTest, LabelsARowForEachRaceOfTheCard) {
     EXPECT_EQ("", cell(11, 0));
 }
 
-TEST_F(SummaryTest, LabelsGoOnBehindACardThatStartsAboveRaceOne) {
+TEST_F(SummaryTest, LabelsGoOnAfterACardThatStartsAboveRaceOne) {
     card.raceOffset = 12;
     card.raceCount = 3;
     SelectionResults();
@@ -98,7 +98,7 @@ TEST_F(SummaryTest, ShowsSelectionsAndFinishOfRacesWithASelection) {
     EXPECT_EQ("8", cell(23, 9));
 }
 
-TEST_F(SummaryTest, RacesBehindTheLastRatedOneAreNotShown) {
+TEST_F(SummaryTest, RacesAfterTheLastRatedOneAreNotShown) {
     card.raceCount = 25;
     race(24, {"1", "2", "3", "4"}, {"5", "6", "7", "8"});
     SelectionResults();
@@ -293,7 +293,7 @@ TEST_F(SummaryTest, AddsUpWhatS1Paid) {
     EXPECT_EQ(2, card.s1Wins);
 }
 
-TEST_F(SummaryTest, PlacePassesGoOnBehindTheCardWhereTheWinOfS1DoesNot) {
+TEST_F(SummaryTest, PlacePassesGoOnAfterTheCardWhereTheWinOfS1DoesNot) {
     race(1, {"1", "2", "3", "4"}, {"5", "6", "7", "8"});
     race(2, {"1", "2", "3", "4"}, {"1", "6", "7", "8"}, {.winPay = "10.00"});
     race(3, {"1", "2", "3", "4"}, {"2", "6", "7", "8"});
@@ -301,7 +301,7 @@ TEST_F(SummaryTest, PlacePassesGoOnBehindTheCardWhereTheWinOfS1DoesNot) {
     race(24, {"1", "2", "3", "4"}, {"4", "6", "1", "8"}, {.showPay3 = "2.20"});
     race(25, {"1", "2", "3", "4"}, {"4", "6", "1", "8"}, {.showPay3 = "2.20"});
     SelectionResults();
-    EXPECT_EQ("0", total(1)); // race 2 is behind the card's one race
+    EXPECT_EQ("0", total(1)); // race 2 is after the card's one race
     EXPECT_EQ("1", total(2));
     EXPECT_EQ("1", total(3));
     EXPECT_EQ("1", total(4)); // race 24, but not race 25
@@ -375,7 +375,7 @@ TEST_F(SummaryTest, ATripleDeadHeatHasNoWinOfS1AndEndsTheWinsOfS2) {
     EXPECT_EQ(1, card.s2Wins); // race 1; the pass does not reach race 3
 }
 
-TEST_F(SummaryTest, ADeadHeatBehindTheCardEndsTheWinsOfS2Alone) {
+TEST_F(SummaryTest, ADeadHeatAfterTheCardEndsTheWinsOfS2Alone) {
     race(1, {"1", "2", "3", "4"}, {"2", "8", "9", "5"});
     race(3, {"1", "2", "3", "4"}, {"2", "8", "9", "5"});
     race(4, {"1", "2", "3", "4"}, {"3", "8", "9", "5"});
@@ -417,7 +417,7 @@ TEST_F(SummaryTest, BetsHitByTheExactTextsOfTheFinish) {
         {"3-2-1",                 {"3", "2", "1", "9"},  "18 19 24"},
         {"third of another",      {"1", "2", "8", "3"},  "15 16 17 18 19"},
         {"padded third",          {"1", "2", "  3", "9"}, "15 16 17 18 19"},
-        {"2 twice behind 1",      {"1", "2", "2", "9"},  "15 16 17 18 19 23 24"},
+        {"2 twice after 1",      {"1", "2", "2", "9"},  "15 16 17 18 19 23 24"},
         // Superfectas: 26 S1/2-3-4, 27 S2-1/3-4, 28 S1-2-3-4.
         {"1-2-3-4",               {"1", "2", "3", "4"},  "15 16 17 18 19 22 23 24 26 27 28"},
         {"1-4-3-2",               {"1", "4", "3", "2"},  "19 23 26 27 28"},
@@ -485,7 +485,7 @@ TEST_F(SummaryTest, BothOrdersOfATrifectaAreOneBet) {
     EXPECT_EQ("45.20", total(22));
 }
 
-TEST_F(SummaryTest, BetsGoOnBehindTheCard) {
+TEST_F(SummaryTest, BetsGoOnAfterTheCard) {
     race(24, {"1", "2", "3", "4"}, {"1", "2", "8", "9"}, {.exactaPay = "12.60"});
     race(25, {"1", "2", "3", "4"}, {"1", "2", "8", "9"}, {.exactaPay = "12.60"});
     SelectionResults();
@@ -567,7 +567,7 @@ TEST_F(SummaryTest, CountsTheRacesOfTheCardThatPaidASuperfecta) {
     race(5, {"1", "2", "3", "4"}, {"9", "8", "7", "6"}, {.superfectaPay = "99.00"});
     card.superfectaRaces = 7;
     SelectionResults();
-    EXPECT_EQ(2, card.superfectaRaces); // races 1 and 4; race 5 is behind the card
+    EXPECT_EQ(2, card.superfectaRaces); // races 1 and 4; race 5 is after the card's last
 }
 
 TEST_F(SummaryTest, NoCountOfRacesLeadsOutsideTheStore) {

@@ -138,7 +138,7 @@ TEST_F(TracksProfileTest, AMileAndAQuarterInTheOlderFormIsOne) {
     EXPECT_EQ("   21", size(6)[1]);
 }
 
-// 331 cards of 99 races are 32,769; the sum stays at 330 cards, and takes what fits behind them.
+// 331 cards of 99 races are 32,769; the sum stays at 330 cards, and takes what fits after them.
 TEST_F(TracksProfileTest, ASumBeyondSixteenBitsStays) {
     put("TrackEditor.ini", sixTracks);
     std::vector<ArchiveCard> cards(331, card("AAA", 99, 10));

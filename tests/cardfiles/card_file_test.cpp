@@ -126,7 +126,7 @@ TEST_F(CardFileTest, EachValueOfAnEntryStandsOnItsOwnLine) {
     }
     ASSERT_EQ(44, number);
 
-    // race 2, entry 3: behind 12 + 2 entries of 44 values come lines 617 to 660
+    // race 2, entry 3: after 12 + 2 entries of 44 values come lines 617 to 660
     const auto lines = linesOf(cardFileContent(card));
     number = 0;
     for (const ValueCase& value : valueCases()) {
@@ -156,7 +156,7 @@ TEST_F(CardFileTest, OutcomesPayoffsAndSelectionsFollowInTheirBlocks) {
     card.selection(23, 4).selectionRating = "end";
 
     const auto lines = linesOf(cardFileContent(card));
-    EXPECT_EQ("\"first\"", lines.at(12'145)); // behind 12,144 lines of block 1
+    EXPECT_EQ("\"first\"", lines.at(12'145)); // after 12,144 lines of block 1
     EXPECT_EQ("\"last\"", lines.at(12'328));  // 12,144 + 23 x 8
     EXPECT_EQ("\"win\"", lines.at(12'329));   // the next one
     EXPECT_EQ("\"spare\"", lines.at(12'811)); // 12,328 + 23 x 21
@@ -203,7 +203,7 @@ TEST_F(CardFileTest, BlanksAndQuotesOfAValueStayAsTheyAre) {
     EXPECT_EQ("-3", lines.at(40));
 }
 
-TEST_F(CardFileTest, ALineEndInsideAValueCannotMoveTheValuesBehindIt) {
+TEST_F(CardFileTest, ALineEndInsideAValueCannotMoveTheValuesAfterIt) {
     card.raceInfo(1).classText = "NW 4000\r\nAE: 2";
     card.raceInfo(1).wagering = "Exacta\nTrifecta";
     const auto lines = linesOf(cardFileContent(card));
@@ -279,7 +279,7 @@ TEST_F(CardFileTest, ATextIsWhatStandsBetweenTheFirstAndTheLastCharacterOfItsLin
         {"a number", "12", "12"},
         {"no closing quote", "\"abc", "before"},
         {"a quote alone", "\"", "before"},
-        {"a blank behind the quote", "\"abc\" ", "before"},
+        {"a blank after the quote", "\"abc\" ", "before"},
         {"code page bytes", "\"\xC9\xB0\"", "\xC9\xB0"},
         {"a zero byte", std::string("\"a\0b\"", 5), nullptr},
         {"a very long line", '"' + std::string(100'000, 'x') + '"', nullptr},
@@ -333,7 +333,7 @@ TEST_F(CardFileTest, FilesOfOtherLineEndsReadTheSame) {
     const std::string written = cardFileContent(card);
     std::string lfOnly = written;
     std::erase(lfOnly, '\r');
-    const std::string unfinished = written.substr(0, written.size() - 2); // no end behind the last line
+    const std::string unfinished = written.substr(0, written.size() - 2); // no end after the last line
     for (const std::string& content : {lfOnly, unfinished}) {
         card.clear();
         readBack(content);
@@ -341,7 +341,7 @@ TEST_F(CardFileTest, FilesOfOtherLineEndsReadTheSame) {
     }
 }
 
-TEST_F(CardFileTest, WhatStandsBehindTheLastValueIsNotRead) {
+TEST_F(CardFileTest, WhatStandsAfterTheLastValueIsNotRead) {
     card.selection(23, 4).selectionRating = " 61.0";
     const std::string written = cardFileContent(card);
     card.clear();
@@ -362,7 +362,7 @@ TEST_F(CardFileTest, AFileThatEndsEarlyLeavesTheRestAsItWas) {
     card.raceInfo(1).label = "7";
     card.raceInfo(2).label = "8";
     card.payoffRecord(1, 1) = "old pay";
-    // The file ends behind value 2 of entry 2: 44 + 2 lines.
+    // The file ends after value 2 of entry 2: 44 + 2 lines.
     readBack(cardFileWithLine(32, "\"new 1\"", 46));
     EXPECT_EQ("new 1", card.entry(1, 1).rating);
     EXPECT_EQ("old 2", card.entry(1, 2).rating);

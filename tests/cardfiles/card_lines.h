@@ -12,7 +12,7 @@ constexpr std::string_view archivePath = "A Quillon PRO/Archives/M1_20260314.pmx
 
 /// Block 1: 12 entries a race, 44 values an entry.
 constexpr int entryLine(int race, int entry, int value) { return ((race - 1) * 12 + entry - 1) * 44 + value; }
-/// Block 2 begins behind 23 x 12 x 44 = 12,144 lines; 8 cells a race.
+/// Block 2 begins after 23 x 12 x 44 = 12,144 lines; 8 cells a race.
 constexpr int outcomeLine(int race, int cell) { return 12'144 + (race - 1) * 8 + cell; }
 /// Block 3 begins 23 x 8 = 184 lines later; 21 cells a race.
 constexpr int payoffLine(int race, int cell) { return 12'328 + (race - 1) * 21 + cell; }

@@ -130,7 +130,7 @@ const TranscriptCase transcriptCases[] = {
     {"unknown name", "Nope 1 2\n", "> Nope 1 2\nunknown: Nope\n"},
     {"names are case-sensitive", "beep\nANSWER\nShow\n",
      "> beep\nunknown: beep\n> ANSWER\nunknown: ANSWER\n> Show\nunknown: Show\n"},
-    {"a name with a tab behind it", "Beep\t\n", "> Beep\t\nunknown: Beep\t\n"},
+    {"a name with a tab after it", "Beep\t\n", "> Beep\t\nunknown: Beep\t\n"},
 
     {"number missing", "Row\n", "> Row\nusage: Row row\n"},
     {"no number", "Row x\n", "> Row x\nusage: Row row\n"},
@@ -142,7 +142,7 @@ const TranscriptCase transcriptCases[] = {
     {"a button that is not there", "Third 2\n", "> Third 2\nunavailable: Third\n"},
     {"a button that is there", "Third 3\n", "> Third 3\n"},
     {"usage comes before availability", "Third x\n", "> Third x\nusage: Third n\n"},
-    {"a button behind the last one", "Broken\n", "> Broken\nunavailable: Broken\n"},
+    {"a button after the last one", "Broken\n", "> Broken\nunavailable: Broken\n"},
     {"an item that is there", "Item\n", "> Item\n"},
 
     {"answers wait for their turn",

@@ -97,7 +97,7 @@ const ArgumentsCase argumentsCases[] = {
     {"a number, empty", Takes::number, "", false},
     {"a number, a word instead", Takes::number, "one", false},
     {"a number, and a blank", Takes::number, "1 ", false},
-    {"a number, behind a second blank", Takes::number, " 1", false},
+    {"a number, after a second blank", Takes::number, " 1", false},
     {"a number, and one more", Takes::number, "1 2", false},
     {"a number beyond int", Takes::number, "4294967296", false},
     {"text", Takes::text, "RACE 3", true, {}, "RACE 3"},

@@ -19,7 +19,7 @@ const Reading readings[] = {
     {"leading blanks", "   4", 4, 4},
     {"trailing blanks", "4  ", 4, 4},
     {"bare point in front", ".25", 0.25, 0.25},
-    {"bare point behind", "5.", 5, 5},
+    {"bare point after", "5.", 5, 5},
     {"minus", "-99", -99, -99},
     {"plus", "+7", 7, 7},
     {"coupled entry", "1A", 1, std::nullopt},

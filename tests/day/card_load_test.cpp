@@ -18,7 +18,7 @@ const std::string trackList = "BANG        Bangor Raceway          1/2   440'   
                               "M1          The Meadowlands         1.M   990'   52.8          10\r\n"
                               "DD          Dover Downs             5/8          55.0           9\r\n";
 
-// The load's own work is looked at where the steps behind it leave it alone: they choose a line for posts 1
+// The load's own work is looked at where the steps after it leave it alone: they choose a line for posts 1
 // to 12 of races 1 to 23, print-format those entries' first lines, and pad their names.
 constexpr int farPost = 13;
 
@@ -73,7 +73,7 @@ protected:
     static bool anyFile() { return exists("DriverList.txt") || exists("TEST.txt") || exists("Stars.txt"); }
 };
 
-// Whether a load takes place ---
+// ---- Whether a load takes place ----
 
 TEST_F(CardLoadTest, WithoutARaceTableNothingChangesAndStartStays) {
     horses({{}});
@@ -153,7 +153,7 @@ TEST_F(CardLoadTest, WithoutAHorseTableTheLinesAreStoredByTheirRace) {
     EXPECT_EQ("1:2 ", linesOf(2, 0));
 }
 
-// Card frame ---
+// ---- Card frame ----
 
 TEST_F(CardLoadTest, LabelsJoinNumberAndLetterForTheLetteredRacesInFront) {
     races({{.RACE = "1", .CARD_ID = "A"}, {.RACE = "2", .CARD_ID = "A"}, {.RACE = "3"}});
@@ -171,7 +171,7 @@ TEST_F(CardLoadTest, LabelsJoinNumberAndLetterForTheLetteredRacesInFront) {
     EXPECT_EQ("2A", screen.raceButtons[2].caption);
 }
 
-TEST_F(CardLoadTest, ALetterBehindAPlainRaceIsNoLabel) {
+TEST_F(CardLoadTest, ALetterAfterAPlainRaceIsNoLabel) {
     races({{.RACE = "1"}, {.RACE = "2", .CARD_ID = "B"}});
     horses({{}, {.RACE = "2", .HN = "2"}});
     lines({{}, {.TODAYSRACE = "2", .HN = "2"}});
@@ -354,7 +354,7 @@ TEST_F(CardLoadTest, ARaceNumberBeyondAllBoundsIsNoRaceCount) {
     EXPECT_EQ("1:1 ", linesOf(1, 1));
 }
 
-// Drivers and trainers ---
+// ---- Drivers and trainers ----
 
 struct UdrRow {
     const char* what;
@@ -375,7 +375,7 @@ TEST_F(CardLoadTest, DriversRatingsHaveThreeDecimalsAtTheMost) {
         {"a negative one", "-0.3", ".000"}, // 4 characters: "-0.30"
         {"no number", "n/a", ".000"},       // "n/a00" is worth 0
         {"beyond all formats", "9999999999999999999999", "9999999999999999999999"},
-        {"behind it all goes on", ".100", "  .1"},
+        {"after it all goes on", ".100", "  .1"},
     };
     std::vector<Strings> table;
     for (const UdrRow& row : rows) table.push_back({"Smith, John", row.udr});
@@ -448,7 +448,7 @@ TEST_F(CardLoadTest, DriversEndAt300AndTrainersAt200) {
     EXPECT_EQ("", card.entry(1, 2).trainerName);
 }
 
-// Entries ---
+// ---- Entries ----
 
 TEST_F(CardLoadTest, EntriesAreStoredInTheirWidths) {
     races({{}});
@@ -545,7 +545,7 @@ TEST_F(CardLoadTest, ABlankDriverNumberIsDriverNought) {
     EXPECT_EQ("", cell(1, 1, 37));
 }
 
-// Horses and lines in step ---
+// ---- Horses and lines in step ----
 
 TEST_F(CardLoadTest, LinesGoToTheirEntriesInTheirOrder) {
     races({{}, {.RACE = "2"}});
@@ -693,7 +693,7 @@ TEST_F(CardLoadTest, TheOutgoingHorsesDriverNumberIsThatOfItsRow) {
     EXPECT_EQ(1, card.entry(2, 1).driverNumber);
 }
 
-// Windows and shades ---
+// ---- Windows and shades ----
 
 // The card is of March 14th, 2026. 33 days before it is February 9th (14 days to February 28th, 19 more), 50
 // days before it January 23rd (36 more than the 14: 28 to January 31st, and 8).
@@ -785,7 +785,7 @@ TEST_F(CardLoadTest, RowsAreShadedByAge) {
         // s=0 L=0 F=0: yellow, s=1; s=1: none
         {"all old: the first has a shade", {old, old}, {"yellow", ""}},
         // s=1 L=1 F=1: yellow, s=2, for a line of no window; then 2 <= 1 no
-        {"an old line behind a recent one has the shade to spare",
+        {"an old line after a recent one has the shade to spare",
          {recent, old, old},
          {"yellow", "yellow", ""}},
         // s=0 L=0 F=1: yellow, s=1, and 0 < 1 <= 1: cyan, s=2
@@ -821,7 +821,7 @@ TEST_F(CardLoadTest, ALineOutOfBoundsIsShadedSinceItsCountsCantBeTold) {
     EXPECT_EQ("2", card.lineCells.read(2, 39));
 }
 
-// Cells ---
+// ---- Cells ----
 
 TEST_F(CardLoadTest, ALineFillsItsRow) {
     races({{.TRACK = "ZZ"}});
@@ -852,8 +852,7 @@ TEST_F(CardLoadTest, ALineFillsItsRow) {
         EXPECT_EQ(cell(1, 2, column), card.lineCells.read(2, column)) << column;
     }
     // 3 x 54.3 - 25.3 - 70 = 67.6; today's course is unknown and the Meadowlands' is worth 57: 10.6; parked
-    // outside on a half mile, by its own column, 0.8: 9.8; a favourite's 3: 6.8; half a point of class is
-    // none
+    // outside on a half mile, by its own column, 0.8: 9.8; a favourite's 3: 6.8; half a class point is 0
     EXPECT_EQ("  6.8", cell(1, 2, 38));
     EXPECT_EQ("  6.8", card.pastLine.read(1, 13, 1).rating);
     EXPECT_EQ("8.5", card.pastLine.read(1, 13, 1).PURSE);
@@ -895,7 +894,7 @@ TEST_F(CardLoadTest, CellsThatStandForMissingFigures) {
         {"a purse of half a dollar more", {.PURSE = "1.0005"}, 10, "1000.5"},
         {"a driver that isn't there", {.DN = "301"}, 37, ""},
         {"one beyond 16 bits", {.DN = "99999"}, 37, ""},
-        {"behind all of them", {.DN = "99999"}, 39, "1"},
+        {"after all of them", {.DN = "99999"}, 39, "1"},
         {"a date that is none stands as it is", {.DATE = "2026"}, 1, "2026"},
     };
     for (const CellRow& row : rows) {
@@ -985,7 +984,7 @@ TEST_F(CardLoadTest, TheCardsFirstLineOfAHorseWithoutAPostPaysForPostOne) {
     EXPECT_EQ("1:1 ", linesOf(1, 0));
 }
 
-// Bounds ---
+// ---- Bounds ----
 
 // A past line has room for posts up to 20, five of its fields for posts up to 30.
 TEST_F(CardLoadTest, OfAHorseAtPostTwentyFiveFiveFieldsOfEachLineAreStored) {
@@ -1100,7 +1099,7 @@ TEST_F(CardLoadTest, GarbageInEveryFieldEndsInALoad) {
     EXPECT_GT(journal.count(), 0U);
 }
 
-// The log ---
+// ---- The log ----
 
 TEST_F(CardLoadTest, ALoadMakesTheLogFileAlsoWithoutTheMark) {
     oneHorse({{}});

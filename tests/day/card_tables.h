@@ -34,7 +34,7 @@ struct HorseRow {
     std::string TN = "1";
 };
 
-/// A row of past lines: a mile in 1:54.3 behind a third time of 1:25.3, fifth from post 3, ten days old.
+/// A row of past lines: a mile in 1:54.3 after a third time of 1:25.3, fifth from post 3, ten days old.
 struct LineRow {
     std::string TODAYSRACE = "1";
     std::string HN = "1";

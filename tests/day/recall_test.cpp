@@ -160,7 +160,7 @@ TEST_F(RecallTest, AMorningLineThatWasNeverGivenStaysSo) {
     EXPECT_FALSE(card.entry(1, 1).morningOdds.given());
 }
 
-TEST_F(RecallTest, EveryEntryWithANameIsShownAlsoBehindAGap) {
+TEST_F(RecallTest, EveryEntryWithANameIsShownAlsoAfterAGap) {
     named(2, 1);
     named(2, 3, "Behind A Gap");
     named(2, 4, "    ");
@@ -229,7 +229,7 @@ TEST_F(RecallTest, RaceOneHeadsTheScreen) {
     EXPECT_TRUE(screen.header.date.visible);
 }
 
-TEST_F(RecallTest, TheDateIsTheEightCharactersBehindTheFirstBar) {
+TEST_F(RecallTest, TheDateIsTheEightCharactersAfterTheFirstBar) {
     const struct {
         const char* name;
         const char* date;
@@ -352,7 +352,7 @@ TEST_F(RecallTest, TheHeadOfTheNextEntryOverwritesThatOfAShortOne) {
     EXPECT_EQ("Second", dataCell(1, 2, 0));
 }
 
-TEST_F(RecallTest, EntriesWithoutLinesDoNotShiftTheHeadsOfThoseBehind) {
+TEST_F(RecallTest, EntriesWithoutLinesDoNotShiftTheHeadsOfThoseAfter) {
     named(1, 1, "First");
     named(1, 2, "First Time Starter"); // HN 2 has no line
     named(1, 3, "Third");
@@ -380,14 +380,14 @@ TEST_F(RecallTest, APostWithoutAnEntryLosesItsHeadAndKeepsItsLines) {
 TEST_F(RecallTest, AViewTakesItsFirst199Lines) {
     named(1, 2, "Last");
     for (int row = 1; row <= 201; ++row) line(row, "1", "1", "1", std::to_string(row).c_str());
-    writeLineCell(199, 5, "2"); // a head whose second and third cell lie behind the view
+    writeLineCell(199, 5, "2"); // a head whose second and third cell lie past the view
     writeLineCell(199, 4, "2");
     line(202, "2", "1", "3", "20260301");
     saveAndStartAnew();
     recall();
     EXPECT_EQ("199", dataCell(1, 199, 1));
     EXPECT_EQ("Last", dataCell(1, 199, 0));
-    EXPECT_EQ("20260301", dataCell(2, 1, 1)); // the races behind are not shortened
+    EXPECT_EQ("20260301", dataCell(2, 1, 1)); // the races after are not shortened
 }
 
 TEST_F(RecallTest, LinesUpToRow2300AreShown) {
@@ -582,7 +582,7 @@ TEST_F(RecallTest, AnArchiveThatCouldNotBeReadIsNotWrittenOver) {
     EXPECT_EQ(tooLarge, fs::file_size(archivePath));
 }
 
-TEST_F(RecallTest, RacesBehindTheEndOfACutFileKeepTheirLabels) {
+TEST_F(RecallTest, RacesAfterTheEndOfACutFileKeepTheirLabels) {
     for (const int race : {1, 2}) {
         named(race, 1);
         card.raceInfo(race).raceLabelDistance = std::to_string(race) + "1";

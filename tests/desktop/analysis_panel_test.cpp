@@ -271,7 +271,7 @@ TEST_F(AnalysisPanelTest, PicksShowTheirCellsWithBoldFirstColumnAndTheHitYellow)
     expectShows(view, screen.picks);
     EXPECT_TRUE(of(view, 0, 0, Qt::FontRole).value<QFont>().bold());
     EXPECT_EQ(QColor(255, 255, 100), of(view, 0, 6, Qt::BackgroundRole).value<QBrush>().color());
-    EXPECT_TRUE(view.isRowHidden(2)) << "a race behind the card's last";
+    EXPECT_TRUE(view.isRowHidden(2)) << "a race after the card's last";
 }
 
 TEST_F(AnalysisPanelTest, ARefreshSendsNoCommand) {

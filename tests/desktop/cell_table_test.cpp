@@ -96,7 +96,7 @@ TEST_F(CellTableTest, ColumnsGiveUpSpareRoomWhereTheViewIsTooNarrow) {
     EXPECT_LT(view.columnWidth(0), view.fontMetrics().horizontalAdvance("Blue Ribbon Bess") + 20);
 }
 
-TEST_F(CellTableTest, RowsBehindTheLastTextAreLeftAwayWhereAsked) {
+TEST_F(CellTableTest, RowsAfterTheLastTextAreLeftAwayWhereAsked) {
     EXPECT_EQ(5, view.model()->rowCount());
     view.setViewLayout({.emptyRows = EmptyRows::hiddenAtEnd});
     EXPECT_EQ(2, view.model()->rowCount());

@@ -106,7 +106,7 @@ TEST_F(ChoiceDialogTest, AListOfCardsThatIsPutAsideWaitsInTheStatusBar) {
     EXPECT_EQ("", card.cardFileName) << "nothing was picked";
     EXPECT_TRUE(waiting().isVisible());
     EXPECT_EQ("Recall Race Card...", waiting().text());
-    dialog.refresh(); // as behind any other command
+    dialog.refresh(); // as after any other command
     EXPECT_FALSE(dialog.isVisible());
     click(waiting());
     EXPECT_TRUE(dialog.isVisible());
@@ -147,7 +147,7 @@ TEST_F(ChoiceDialogTest, TracksStandInTheirOwnOrderAndTheListStays) {
     QTest::keyClick(&filter(), Qt::Key_Down);
     QTest::keyClick(&filter(), Qt::Key_Return);
     EXPECT_TRUE(screen.profileVisible);
-    EXPECT_TRUE(dialog.isVisible()) << "to look at one track behind the other";
+    EXPECT_TRUE(dialog.isVisible()) << "to look at one track after the other";
 }
 
 TEST_F(ChoiceDialogTest, TheRuleIsNoTrack) {

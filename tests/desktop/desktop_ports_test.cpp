@@ -314,7 +314,7 @@ TEST_F(PortsOfTheWindowTest, TheCondensedProgramPrintsAPageARace) {
     window.runner().run(CommandId::Start);
     EXPECT_EQ(1, ok.count()); // how to go on
     window.runner().run(CommandId::PrintCondensedProgram);
-    EXPECT_EQ(3, ok.count()); // the printer is to be switched on, before and behind
+    EXPECT_EQ(3, ok.count()); // the printer is to be switched on, before and after
     ASSERT_EQ(1U, openWindows<PrintPreview>().size());
     PrintPreview& preview = *openWindows<PrintPreview>().front();
     EXPECT_GE(preview.pageCount(), static_cast<int>(card.raceCount));

@@ -11,8 +11,8 @@
 
 namespace quillon {
 
-/// While it lives and none is made behind it, each modal dialog that opens is given to the function once it
-/// is on show; one that stays open behind that is closed, so that no test hangs.
+/// While it lives and none is made after it, each modal dialog that opens is given to the function once it
+/// is on show; one that stays open after that is closed, so that no test hangs.
 class DialogAnswers {
 public:
     explicit DialogAnswers(std::function<void(QDialog&)> answer) : answer_{std::move(answer)} {

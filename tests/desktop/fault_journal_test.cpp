@@ -41,7 +41,7 @@ TEST_F(FaultJournalTest, TheLastThousandAreShownAndAllAreCounted) {
               countsOf(dialog));
     const auto* model = tableOf(dialog).model();
     ASSERT_EQ(1000, model->rowCount());
-    EXPECT_EQ("line 205", model->index(0, 1).data().toString()); // 1,204 less 1,000, and the one behind it
+    EXPECT_EQ("line 205", model->index(0, 1).data().toString()); // 1,204 less 1,000, and the one after it
     EXPECT_EQ("line 1204", model->index(999, 1).data().toString());
     EXPECT_EQ("WPS", model->index(999, 0).data().toString());
 }

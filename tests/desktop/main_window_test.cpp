@@ -157,7 +157,7 @@ void expectMenusAsOnScreen(MainWindow& window) {
     }
 }
 
-TEST_F(MainWindowTest, MenuStatesAreTheScreensBeforeAndBehindALoad) {
+TEST_F(MainWindowTest, MenuStatesAreTheScreensBeforeAndAfterALoad) {
     expectMenusAsOnScreen(*window);
     startInWindow();
     expectMenusAsOnScreen(*window);

@@ -49,7 +49,7 @@ public:
         return one(answers);
     }
 
-    /// What was done last, to be read behind a failure.
+    /// What was done last, to be read after a failure.
     std::string lastActs() const {
         std::string acts;
         for (const std::string& act : acts_) acts += act + "; ";

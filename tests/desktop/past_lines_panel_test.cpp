@@ -93,7 +93,7 @@ TEST_F(PastLinesTest, WithoutAnEntryTheLinesOfTheWholeRaceAreShown) {
     EXPECT_FALSE(raceLines().model()->flags(raceLines().model()->index(0, 8)) & Qt::ItemIsEditable);
 }
 
-TEST_F(PastLinesTest, RowsBehindTheLastLineAreLeftAway) {
+TEST_F(PastLinesTest, RowsAfterTheLastLineAreLeftAway) {
     startSampleCard();
     const int rows = raceLines().model()->rowCount();
     EXPECT_LT(rows, 199);

@@ -42,7 +42,7 @@ void layOutSample() {
     std::filesystem::create_directories("A Quillon PRO/Results");
 }
 
-// As a user does it: behind what the scratch wrote.
+// As a user does it: after what the scratch wrote.
 void pasteResults() {
     std::ifstream page{SAMPLE_FOLDER "/results/MVR_20260314-words.txt", std::ios::binary};
     std::ofstream{results, std::ios::binary | std::ios::app} << page.rdbuf();

@@ -98,7 +98,7 @@ TEST_F(PrintPreviewTest, APdfHasAPageForEachSection) {
     PrintDocument document = documentOf(10, "RACE 1");
     document.beginPage();
     document.addLine("RACE 2");
-    document.beginPage(); // the rule behind the last race
+    document.beginPage(); // the rule after the last race
     PrintPreview preview{document};
     ASSERT_TRUE(preview.savePdf("program.pdf"));
     EXPECT_EQ(2, pagesOfPdf(contentOf("program.pdf")));

@@ -40,7 +40,7 @@ struct EndsCase {
     const char* content;
 };
 
-// The old file: one CR CR LF b CR LF c CR CR LF d LF, and nothing behind it.
+// The old file: one CR CR LF b CR LF c CR CR LF d LF, and nothing after it.
 TEST(EditableText, EndsFollowTheirLinesAndNewLinesEndInCrLf) {
     const std::vector<FileLine> old = fileLines("a\r\r\nb\r\nc\r\r\nd\n");
     const std::vector<EndsCase> cases{

@@ -164,7 +164,7 @@ private:
     }
 
     void analysis() {
-        constexpr int looked = 60; // rows behind them come from the same place
+        constexpr int looked = 60; // rows after them come from the same place
         for (const Page& page : analysisPages) {
             if (!(theScreen.*page.visible)) continue;
             auto& view = child<CellTableView>(page.table);

@@ -33,9 +33,9 @@ private:
 enum class Kind {
     none,
     fail, ///< one call fails
-    stay, ///< one call and all behind it fail
+    stay, ///< one call and all after it fail
     kill, ///< the process dies in front of one call
-    torn, ///< the process dies behind half of a write
+    torn, ///< the process dies after half of a write
 };
 
 struct Fault {

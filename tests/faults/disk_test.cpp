@@ -106,8 +106,7 @@ TEST_F(Disk, AFullDiskLeavesFilesWhole) {
     EXPECT_EQ(0, ::umount(disk.c_str()));
 }
 
-// By a user to whom the folder belongs to another, or by a disk that refuses everything from the first call
-// on.
+// By a user to whom the folder belongs to another, or by a disk that refuses all from the first call on.
 TEST_F(Disk, AFolderThatCanNotBeWrittenStaysAsItWas) {
     copyFolder(raceDay(), work);
     const Outcome refused = runConsole(work, aNight, {Kind::stay, 1});

@@ -68,8 +68,7 @@ std::string scriptOf(const std::vector<std::string>& lines, std::size_t count) {
 
 bool isLitter(const std::string& path) { return path.find(".quillon-") != std::string::npos; }
 
-/// What a fault may leave in each file: what stood there, and what stands there behind each line of the
-/// script.
+/// What a fault may leave in each file: what stood there, and what stands there after each script line.
 class Allowed {
 public:
     void add(const Files& files) {
@@ -176,7 +175,7 @@ protected:
             EXPECT_TRUE(path == GetParam().second || files.contains(path)) << path << " is missing";
     }
 
-    /// The next record stands on a line of its own, also behind a torn one.
+    /// The next record stands on a line of its own, also after a torn one.
     void checkGrown(const std::string& path, const std::string& left, const std::string& content) const {
         ASSERT_TRUE(content.starts_with(left)) << path;
         const std::string grown = content.substr(left.size());

@@ -5,9 +5,9 @@
 //     QUILLON_FAULT_LOG    the file of the log
 //     QUILLON_FAULT_AT     the point, 0 for none
 //     QUILLON_FAULT_KIND   fail: this one call fails; a write brings half of its bytes to the disk first
-//                          stay: this call and all behind it fail, as on a disk that went read-only
+//                          stay: this call and all after it fail, as on a disk that went read-only
 //                          kill: the process dies in front of the call
-//                          torn: the process dies behind half of a write
+//                          torn: the process dies after half of a write
 //
 // Nothing is flushed to the disk for real: a process may die here, the machine does not.
 #include <array>

@@ -149,7 +149,7 @@ TEST_F(CardProperties, RanksAreRatedEntriesInOrderOrStale) {
     }
 }
 
-TEST_F(CardProperties, RanksBehindAScratchAreRatedEntriesInOrderOrStale) {
+TEST_F(CardProperties, RanksAfterAScratchAreRatedEntriesInOrderOrStale) {
     const std::uint64_t cards = 400u * static_cast<unsigned>(propertyScale());
     int scratches = 0;
     for (std::uint64_t seed = 1; seed <= cards && !HasFailure(); ++seed) {
@@ -187,8 +187,7 @@ std::int64_t centsIn(TextView text) {
     return cents;
 }
 
-/// True where one finisher is shown twice, or one horse is S1 and S2: such a race is paid twice into one
-/// cell.
+/// True where a finisher is shown twice, or a horse is S1 and S2: such a race is paid twice into a cell.
 bool paysTwice(int race) {
     const auto number = [&](int column) { return lenientNumber(screen.summary.read(race, column).text); };
     const bool sameFinisher = number(6) == number(7) || number(7) == number(8) || number(6) == number(8);

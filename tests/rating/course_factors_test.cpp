@@ -25,7 +25,7 @@ TEST_F(CourseFactorsTest, EachCourseHasANominal) {
         EXPECT_EQ("", courseNominal(other)) << other;
 }
 
-// Tracks ---
+// ---- Tracks ----
 
 class TracksTest : public TrackTableTest {
 protected:
@@ -172,7 +172,7 @@ TEST_F(TracksTest, ADifferenceOfNoughtWritesTheFigurePlain) {
     EXPECT_EQ("61.5", afterTracks("1.M", "T1", "   61.5"));
 }
 
-// Posts ---
+// ---- Posts ----
 
 Text afterPost(TextView trackSize, int post, int maxPosts, TextView figure = "  60.0") {
     card.trackSize = trackSize;
@@ -283,7 +283,7 @@ TEST_F(CourseFactorsTest, AFigureThatIsNoNumberHasNoLatePostCredit) {
     EXPECT_EQ("   - ", cursor.lineValue);
 }
 
-// The figure ---
+// ---- The figure ----
 
 TEST_F(CourseFactorsTest, PointsAreAddedAndTheFigureIsWrittenPlain) {
     cursor.lineValue = "   61.3";

@@ -27,7 +27,7 @@ protected:
     }
 };
 
-// LastQuarterCalc ---
+// ---- LastQuarterCalc ----
 
 struct LastQuarterRow {
     const char* what;
@@ -43,7 +43,7 @@ struct LastQuarterRow {
 TEST_F(LineFactorsTest, TheFirstFigureIsThreeFinalTimesLessTheLeadersThirdTimeAndSeventy) {
     const LastQuarterRow rows[]{
         // 3 x 54.3 - 25.3 - 70 = 67.6
-        {"a mile in 1:54.3 behind a third time of 1:25.3", "1", "29.0", "1", "54.3", "25.3", "67.6", "54.3"},
+        {"a mile in 1:54.3 after a third time of 1:25.3", "1", "29.0", "1", "54.3", "25.3", "67.6", "54.3"},
         {"four decimals of the distance", "1.0000", "29.0", "1", "54.3", "25.3", "67.6", "54.3"},
         {"two minutes flat has 60 seconds", "1", "30", "5", "00.0", "30.0", "80", "00.0"}, // 180 - 30 - 70
         {"2:01.2", "1", "30.1", "5", "01.2", "30.4", "83.2", "01.2"},  // 3 x 61.2 = 183.6, - 30.4 - 70
@@ -89,7 +89,7 @@ TEST_F(LineFactorsTest, TheCardsFirstLineHasItsDistanceAsLineOne) {
     EXPECT_EQ("", card.pastLine.read(1, 2, 0).DIST_MILES);
 }
 
-// LeadHorse ---
+// ---- LeadHorse ----
 
 struct CallsRow {
     const char* what;
@@ -120,7 +120,7 @@ TEST_F(LineFactorsTest, ALeaderIsCreditedAtEachCall) {
     }
 }
 
-// Park marks ---
+// ---- Park marks ----
 
 struct ParkRow {
     const char* courseSize;
@@ -257,7 +257,7 @@ TEST_F(LineFactorsTest, ACallThatWasNotParkedHasNoSecondCredit) {
     EXPECT_EQ("59.8", cursor.lineValue); // the half alone
 }
 
-// Class ---
+// ---- Class ----
 
 struct ClassRow {
     const char* what;
@@ -338,7 +338,7 @@ TEST_F(LineFactorsTest, AQualifierIsCreditedAndHasNoClass) {
     }
 }
 
-// Favourite ---
+// ---- Favourite ----
 
 struct FavouriteRow {
     const char* what;
@@ -414,7 +414,7 @@ TEST_F(LineFactorsTest, ThePlacesKeptForFactorsToComeChangeNothing) {
     EXPECT_EQ(" 60.0", cursor.lineValue);
 }
 
-// The close ---
+// ---- The close ----
 
 TEST_F(LineFactorsTest, ALineClosesWithFiveCharactersOrAsUnusable) {
     const struct {
@@ -428,7 +428,7 @@ TEST_F(LineFactorsTest, ALineClosesWithFiveCharactersOrAsUnusable) {
     for (const auto& row : rows) EXPECT_EQ(row.expected, closedRating(row.lineValue)) << row.lineValue;
 }
 
-// Whole lines ---
+// ---- Whole lines ----
 
 // A line at a track of three quarters of a mile, where course, post and trip cost nothing: its figure is its
 // rating, unless a test adds something.
@@ -617,7 +617,7 @@ TEST_F(RateLineTest, FiguresOutOfRangeAreThrownOut) {
     }
 }
 
-TEST_F(RateLineTest, AFigureMayLeaveTheRangeBehindTheRangeTest) {
+TEST_F(RateLineTest, AFigureMayLeaveTheRangeAfterTheRangeTest) {
     cursor.horseFinal = "00.0";
     cursor.leaderFinal = "10.2"; // 99.8
     load.line.TRACK = "MILE";    // + 59 - 57
@@ -684,7 +684,7 @@ TEST_F(RateLineTest, TheParkFactorsGoByTheVendorsCourseSize) {
     }
 }
 
-// The late post credit ---
+// ---- The late post credit ----
 
 struct LatePostRow {
     const char* what;
@@ -706,11 +706,11 @@ TEST_F(RateLineTest, ALineThatIsNotStoredYetHasTheLatePostCredit) {
         cursor.postNumber = row.post;
         RateLine();
         EXPECT_EQ(row.expected, stored().rating) << row.what;
-        EXPECT_EQ("5", stored().CALL_FN_PO) << row.what; // stored behind the test
+        EXPECT_EQ("5", stored().CALL_FN_PO) << row.what; // stored after the test
     }
 }
 
-// Indices ---
+// ---- Indices ----
 
 TEST_F(RateLineTest, TheCardsFirstLineIsLineOneOfRaceOne) {
     cursor.race = 0;
@@ -796,13 +796,13 @@ TEST_F(RateLineTest, RacesBeyondTheViewsAreRatedAndStored) {
     EXPECT_EQ("", shownRating(24)); // the view of the running-line table
 }
 
-TEST_F(RateLineTest, ARowBehindTheViewIsStored) {
+TEST_F(RateLineTest, ARowAfterTheViewIsStored) {
     cursor.row = 200;
     RateLine();
     EXPECT_EQ(" 67.6", stored().rating);
 }
 
-// The store ---
+// ---- The store ----
 
 struct CellRow {
     Text SourceLine::*from;
@@ -885,7 +885,7 @@ TEST_F(RateLineTest, AFavouritesLinesAreAllCreditedUntilTheNextEntry) {
     EXPECT_EQ(" 67.6", stored(1, 2, 3).rating);
 }
 
-// The log ---
+// ---- The log ----
 
 TEST_F(RateLineTest, WithoutTheMarkNothingIsLoggedAndTheFileIsMadeAllTheSame) {
     RateLine();

@@ -62,7 +62,7 @@ protected:
 };
 
 /// Counts before, lines, and what comes out: the slot that is chosen (0 for none, and for a slot that no line
-/// was read into), the rating in the race view, the count behind.
+/// was read into), the rating in the race view, the count after.
 struct Choice {
     const char* claim;
     Integer window;
@@ -73,7 +73,7 @@ struct Choice {
     Integer windowAfter;
 };
 
-// A line behind the search that stops it: its post is a number.
+// A line after the search that stops it: its post is a number.
 const Line older{"70.0", "2"};
 
 const std::vector<Choice> choices{
@@ -104,7 +104,6 @@ const std::vector<Choice> choices{
     {"9.8 on a single line leaves it", 1, 1, {{"60.0", "3", "9.8"}}, 1, " 60.0", 1},
     {"9.9 with a blank is another text", 1, 1, {{"60.0", "3", " 9.9"}}, 1, " 60.0", 1},
 
-    // Two lines.
     {"two lines: the first where the second is higher", 2, 2, {{"60.0"}, {"60.1"}}, 1, " 60.0", 2},
     {"two lines: the second where it is lower", 2, 2, {{"60.0"}, {"59.9"}}, 2, " 59.9", 2},
     {"two lines: no filter for a line without calls", 2, 2, {{"60.0"}, {"39.0", "0"}}, 2, " 39.0", 2},
@@ -173,7 +172,7 @@ const std::vector<Choice> choices{
      1,
      " 60.0",
      5},
-    {"a blank post behind the search counts as none",
+    {"a blank post after the search counts as none",
      4,
      5,
      {{"60.0"}, {"58.0"}, {"59.0"}, {"61.0"}, {"50.0", " "}},
@@ -227,7 +226,7 @@ const std::vector<Choice> choices{
      1,
      " 60.0",
      6},
-    // Line 5 has a post, 0, so the test behind the search does not hold and no line is chosen.
+    // Line 5 has a post, 0, so the test after the search does not hold and no line is chosen.
     {"nothing found in front of a post of 0 gives five blanks",
      4,
      6,
@@ -364,7 +363,7 @@ TEST_F(LineSelectionTest, AnEntryWithoutANameIsPassedOver) {
     EXPECT_EQ("", card.entry(1, testEntry).chosen.CR);
 }
 
-TEST_F(LineSelectionTest, EntriesBehindPostTwelveAreNotRated) {
+TEST_F(LineSelectionTest, EntriesAfterPostTwelveAreNotRated) {
     for (const int index : {12, 13}) {
         enter(1, index).linesInLastWindow = 1;
         giveLines({{"60.0"}}, 1, index);
@@ -430,7 +429,7 @@ TEST_F(LineSelectionTest, RatingsThatCountGetTheirPrintForm) {
         SelectLines();
         EXPECT_EQ("     ", card.pastLine.read(1, testEntry, 0).rating);
         EXPECT_EQ(row.tidy, card.pastLine.read(1, testEntry, 2).rating) << row.raw;
-        EXPECT_EQ("70.000", card.pastLine.read(1, testEntry, 3).rating); // behind the count
+        EXPECT_EQ("70.000", card.pastLine.read(1, testEntry, 3).rating); // after the count
     }
 }
 
@@ -509,7 +508,7 @@ TEST_F(LineSelectionTest, TheChosenLineIsCopiedButForWhatBelongsToItsOwnDay) {
 }
 
 TEST_F(LineSelectionTest, MoreLinesThanTheStoreHoldsDoNoHarm) {
-    // Thirty of forty lines were stored. Behind them nothing can be read, so the search ends on slot 40, and
+    // Thirty of forty lines were stored. After them nothing can be read, so the search ends on slot 40, and
     // the unreadable post of slot 41 brings the latest line in.
     RaceEntry& entry = enter();
     entry.linesInLastWindow = 40;

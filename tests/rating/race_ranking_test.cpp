@@ -46,8 +46,7 @@ TEST(Ranking, TheRankingOfALoadFindsFive) {
             {"third and fourth equal in a field of four",
              {"60.0", "61.0", "62.0", "62.0"},
              {1, 2, 4, 11, 11}},
-            // Stage 4 has the seed 5 with 63.0; 62.0 is below it. Stage 5: seed 5 again, 63.0, nothing is
-            // below.
+            // Stage 4 has the seed 5 with 63.0; 62.0 is below it. Stage 5: again 5 with 63.0, nothing below.
             {"third and fourth equal in front of a fifth",
              {"60.0", "61.0", "62.0", "62.0", "63.0"},
              {1, 2, 4, 3, 5}},
@@ -260,7 +259,7 @@ struct ParkRow {
     const char* ofOtherRace;
 };
 
-TEST_F(RankRaceTest, ParkCellsThatDoNotStandBehindALetterAGoInEveryRace) {
+TEST_F(RankRaceTest, ParkCellsThatDoNotStandAfterALetterAGoInEveryRace) {
     const ParkRow rows[] = {
         {"\xBA", "  ", "\xBA"}, // " \xBA" begins with a blank, the bare mark does not
         {"\xB0\xB0", "\xB0\xB0", "\xB0\xB0"},
@@ -284,7 +283,7 @@ TEST_F(RankRaceTest, ParkCellsThatDoNotStandBehindALetterAGoInEveryRace) {
                 EXPECT_EQ(row.ofRankedRace, card.entry(race, index).chosen.*park) << row.mark;
                 EXPECT_EQ(row.ofOtherRace, card.entry(1, index).chosen.*park) << row.mark;
                 EXPECT_EQ(row.ofOtherRace, card.entry(23, index).chosen.*park) << row.mark;
-                EXPECT_EQ(row.mark, card.entry(24, index).chosen.*park) << row.mark; // behind the rated races
+                EXPECT_EQ(row.mark, card.entry(24, index).chosen.*park) << row.mark; // after the rated races
             }
         EXPECT_EQ(row.mark, card.entry(race, 2).chosen.CALL_1Q_PK) << row.mark; // the fifth
     }

@@ -124,7 +124,7 @@ TEST_F(CondensedProgramTest, WritesARaceFromItsHeadingToItsRule) {
               contentOf(programPath));
 }
 
-TEST_F(CondensedProgramTest, LeavesOutRacesWithoutAPostTimeAndGoesOnBehindThem) {
+TEST_F(CondensedProgramTest, LeavesOutRacesWithoutAPostTimeAndGoesOnAfterThem) {
     card.raceInfo(1).postTime = "";
     card.raceInfo(2).label = "2";
     card.raceInfo(3).label = "3";
@@ -154,8 +154,8 @@ TEST_F(CondensedProgramTest, CutsTheConditionsAtTheFirstWideGapOrFullStop) {
         {"neither", "Claiming", "Claiming"},
         {"neither in 110 characters", x(110), x(105)},
         {"a full stop in place 105", x(104) + ".x", x(104) + "."},
-        {"a full stop behind that", x(105) + ".x", x(105)},
-        {"a gap behind that, a full stop in front of it", x(10) + "." + x(99) + "    ",
+        {"a full stop after that", x(105) + ".x", x(105)},
+        {"a gap after that, a full stop in front of it", x(10) + "." + x(99) + "    ",
          x(10) + "." + x(94)}, // the gap decides, and it is at 111
         {"empty", "", ""},
     };
@@ -244,7 +244,7 @@ TEST_F(CondensedProgramTest, ShowsARatingInFourPlaces) {
     };
     constexpr Row rows[] = {
         {" 58.6", "58.6"}, {"58", "58.0"},    {"9.25", " 9.3"},   {" 99.9", "99.9"},
-        {"99.94", "99.9"}, {"99.96", "100."}, // below 100 when it is tested, cut behind its format
+        {"99.94", "99.9"}, {"99.96", "100."}, // below 100 when it is tested, cut after its format
         {"100", "99.9"},   {"123.4", "99.9"}, {" - ", "  - "},    {"***", " ***"},
         {"", "    "},      {"     ", "    "}, {"-12.34", "-12."}, {".5", "  .5"},
     };

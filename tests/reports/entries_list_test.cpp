@@ -53,7 +53,7 @@ protected:
         return contentOf(listPath);
     }
 
-    /// The lines behind the list's heading, names alone of the entries, with their ratings.
+    /// The lines after the list's heading, names alone of the entries, with their ratings.
     static Lines places() {
         Entries();
         Lines lines = linesOf(listPath);
@@ -135,7 +135,7 @@ TEST_F(EntriesListTest, AFullRaceRunsOnIntoTheNextUnderItsHeading) {
     EXPECT_EQ(expected, Lines(lines.begin() + 12, lines.begin() + 25));
 }
 
-TEST_F(EntriesListTest, NothingIsLostBehindTwoFullRaces) {
+TEST_F(EntriesListTest, NothingIsLostAfterTwoFullRaces) {
     card.raceCount = 3;
     fill(1, 12);
     fill(2, 12);

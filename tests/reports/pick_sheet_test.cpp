@@ -33,7 +33,7 @@ protected:
         for (const Text& programNumber : programNumbers) card.keyPicks(race, ++place) = programNumber;
     }
 
-    /// What the sheet holds behind its head.
+    /// What the sheet holds after its head.
     static std::string sheet() {
         KeyHorses();
         const std::string content = contentOf(sheetPath);
@@ -79,13 +79,13 @@ TEST_F(PickSheetTest, TellsAWagerByTheFirstOfItsWords) {
     constexpr Row rows[] = {
         {"Pk5 (5-9)", "PK5"},
         {"Pk 6", "PK6"},
-        {"Pk  6", "PK0"}, // behind "Pk" only two characters count
+        {"Pk  6", "PK0"}, // after "Pk" only two characters count
         {"Pk10", "PK10"},
         {"PICK 4 (Races 5-8)", "PICK4"},
         {"PICK4", "PICK4"},
         {"Pick 3 (Races 2-4)", "PICK3"},
         {"Pick         3", "PICK3"},  // nine blanks and the number: ten characters
-        {"Pick          3", "PICK0"}, // ten blanks: the number is behind them
+        {"Pick          3", "PICK0"}, // ten blanks: the number is after them
         {"PIC 4", "PIC4"},
         {"Pic 4", "PIC4"},
         {"Single 3", "SINGLE3"},
@@ -134,7 +134,7 @@ TEST_F(PickSheetTest, AWagerWithoutLegsHasNoTotal) {
     EXPECT_EQ("\r\nWIN0\r\n", sheet());
 }
 
-TEST_F(PickSheetTest, ALegBehindTheLastRaceIsEmptyAndLeavesNoTickets) {
+TEST_F(PickSheetTest, ALegAfterTheLastRaceIsEmptyAndLeavesNoTickets) {
     card.raceCount = 25;
     card.raceInfo(25).wagering = "Pick 3";
     pick(25, {"1"});
@@ -152,7 +152,7 @@ TEST_F(PickSheetTest, CountsPicksWithANumberAlone) {
     EXPECT_NE(std::string::npos, sheet().find("Total Bets:  2 \r\n"));
 }
 
-TEST_F(PickSheetTest, AWagerBeyondSixLegsTotalsNothingAndZeroBehindAnotherWager) {
+TEST_F(PickSheetTest, AWagerBeyondSixLegsTotalsNothingAndZeroAfterAnotherWager) {
     card.raceCount = 2;
     const auto seven = [](int from) {
         std::string legs;
@@ -233,7 +233,7 @@ TEST_F(PickSheetTest, TellsFivePlacesByTheFirstOfItsWords) {
     for (const Row& row : rows) EXPECT_EQ(row.heading, headingOf(row.wagering)) << row.wagering;
 }
 
-TEST_F(PickSheetTest, WritesTheFivePlacesBehindAllLegs) {
+TEST_F(PickSheetTest, WritesTheFivePlacesAfterAllLegs) {
     card.raceCount = 2;
     card.raceInfo(1).wagering = "Pentafecta";
     card.raceInfo(2).wagering = "Double, Pentafecta";

@@ -58,7 +58,7 @@ TEST_F(PrintingTest, PrintsLineByLineWithItsEmphasis) {
 TEST_F(PrintingTest, ARuleInAnEmphasisedPlaceEndsThePageAllTheSame) {
     put(programPath, "\r\n\r\n\r\n---\r\n");
     PrintCondensedProgram();
-    EXPECT_EQ("print new page", shown.at(5)); // behind the message, the first empty line and three lines
+    EXPECT_EQ("print new page", shown.at(5)); // after the message, the first empty line and three lines
 }
 
 TEST_F(PrintingTest, PrintsWhatTheCondensedProgramWrote) {

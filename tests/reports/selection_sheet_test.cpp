@@ -9,7 +9,7 @@ namespace {
 
 constexpr const char* sheetPath = "A Quillon PRO/Selections/M1_20260314.pms";
 
-// Lines of the sheet behind the seven of its head: where a race's parts stand.
+// Lines of the sheet after the seven of its head: where a race's parts stand.
 constexpr std::size_t headLines = 7;
 constexpr std::size_t markLine = headLines + 4;
 constexpr std::size_t picksLine = markLine + 8; // four entries, the fifth, two empty lines
@@ -56,7 +56,7 @@ TEST_F(SelectionSheetTest, WritesARaceFromItsHeadingToItsPicks) {
 
     SelectionSheet();
 
-    // S2 less S1 is 1.0: "$". The gaps behind S1 to S3 are 1, 0.5 (which rounds to 0) and 2: three picks.
+    // S2 less S1 is 1.0: "$". The gaps after S1 to S3 are 1, 0.5 (which rounds to 0) and 2: three picks.
     EXPECT_EQ(
         head +
             "RACE: 1A  POST TIME: 7:15 PM Pace 82   1 Mi\r\n"

@@ -8,7 +8,7 @@ namespace quillon {
 namespace {
 
 // The text as it is pasted: race 1 whole, a double and a pick that end in races 2 and 4, and the refunds of
-// two scratches behind them.
+// two scratches after them.
 constexpr std::string_view sampleText = "Results of the races\r\n"
                                         "2026-03-14\r\n"
                                         "RACE: 1   Pace  $9,000\r\n"
@@ -162,7 +162,7 @@ constexpr std::array checkRows{
     CheckRow{"a second heading isn't looked at", "Results\n2026-03-14\nResults\n2026-03-15\n", nullptr},
 };
 
-TEST_F(ColumnLayoutTest, TheDayBehindTheHeadingMustBeTheCards) {
+TEST_F(ColumnLayoutTest, TheDayAfterTheHeadingMustBeTheCards) {
     for (const CheckRow& row : checkRows) {
         shown.clear();
         recordText(row.text);
@@ -208,7 +208,7 @@ TEST_F(ColumnLayoutTest, LinesInFrontOfTheFirstRaceBelongToTheRaceOnShow) {
     EXPECT_EQ((Filled{"7=24.60"}), payoffs(4));
 }
 
-TEST_F(ColumnLayoutTest, AnyColonSetsTheRaceToTheThreeCharactersBehindIt) {
+TEST_F(ColumnLayoutTest, AnyColonSetsTheRaceToTheThreeCharactersAfterIt) {
     recordText("POST TIME 7:10\n"
                "      EXACTA paid $1.00\n"
                "RACE:   12: x\n" // the first colon counts: "   ", which is 0
@@ -231,7 +231,7 @@ TEST_F(ColumnLayoutTest, ARefundInTheMiddleSetsTheRaceToZeroUntilTheNextRace) {
     EXPECT_EQ((Filled{"7=3.00"}), payoffs(5));
 }
 
-TEST_F(ColumnLayoutTest, RefundsAreAddedInTheirOrderBehindThoseThatStandThere) {
+TEST_F(ColumnLayoutTest, RefundsAreAddedInTheirOrderAfterThoseThatStandThere) {
     card.payoffRecord(3, 10) = "   8";
     recordText("REFUNDS: R3         4\n"
                "x REFUNDS: 3 10\n" // columns 11 and 12 are " 3"
@@ -243,7 +243,7 @@ TEST_F(ColumnLayoutTest, RefundsAreAddedInTheirOrderBehindThoseThatStandThere) {
 TEST_F(ColumnLayoutTest, ANameWithAFigureIsTakenForThePayoff) {
     recordRaceThree("PRG\n"
                     " 5 Number 7 Seven          12.40     5.20    3.10\n");
-    // six from the 7 on are "7 Seve", no number, so they stand as they are; behind the "n" and the blanks the
+    // six from the 7 on are "7 Seve", no number, so they stand as they are; after the "n" and the blanks the
     // first six are "12.40 " and the last six "  3.10"
     EXPECT_EQ((Filled{"1=7 Seve", "2= 12.40", "3=  3.10"}), payoffs(3));
 }
@@ -262,7 +262,7 @@ TEST_F(ColumnLayoutTest, AFinisherWithoutAPayoffLeavesTheCellsAsTheyWere) {
 TEST_F(ColumnLayoutTest, AWinPayoffAloneIsReadThreeTimes) {
     recordRaceThree("PRG\n"
                     " 5 Nellie 112.40\n");
-    // nothing is left behind six and one more: Place and Show are the value of no text, .00
+    // nothing is left after six and one more: Place and Show are the value of no text, .00
     EXPECT_EQ((Filled{"1=112.40", "2=   .00", "3=   .00"}), payoffs(3));
 }
 

@@ -119,8 +119,8 @@ TEST_F(HeatTest, EachEntryAppendsAnEmptyLineAndItsOwnToTheLogOfTheHeat) {
     EXPECT_TRUE(choose(4, {"14", "1", "2"}));
     card.entry(14, 10).chosenDriver = "Young, B"; // stood in the slot before
     EXPECT_TRUE(choose(7, {"14", "2", "10"}));
-    // post as a number in a list, name in 30, the slot's driver in 15, UDR in 4 (five stay five), rating in
-    // 10
+    // post as a number in a list, name in 30, the slot's driver in
+    // 15, UDR in 4 (five stay five), rating in 10
     const std::string nellie = " 2 " + std::string(10, ' ') + "Fast Nellie         " + std::string(15, ' ') +
                                " .312" + "        58\r\n";
     const std::string bill =

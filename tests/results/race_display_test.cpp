@@ -224,7 +224,7 @@ TEST_F(RaceDisplayTest, ARaceAboveTwentyCantBeReachedByItsButton) {
 
 // ---- arrows
 
-TEST_F(RaceDisplayTest, NextStoresTheBoardAndShowsTheRaceBehind) {
+TEST_F(RaceDisplayTest, NextStoresTheBoardAndShowsTheRaceAfter) {
     RaceButton(7);
     TypeBox(4, " 9 ");
     TypeTote(1, "99.00 ");
@@ -305,7 +305,7 @@ TEST_F(RaceDisplayTest, WithNoRaceOnShowTheArrowsDoNothing) {
     EXPECT_EQ(cellText(1, 5), card.raceOutcome(1, 5));
 }
 
-TEST_F(RaceDisplayTest, TheRacesBehindTheLastRaceViewHaveABoardToo) {
+TEST_F(RaceDisplayTest, TheRacesAfterTheLastRaceViewHaveABoardToo) {
     card.raceCount = 25;
     screen.header.race = "24";
     screen.raceViewVisible[23] = true;
@@ -393,7 +393,7 @@ TEST_F(EntryDetailTest, LineButtonsReadTheLinesRowInTheRace) {
     for (int row = 1; row <= 4; ++row) EXPECT_EQ(numbers.at(row - 1), shownLines().text(row, 39)) << row;
 }
 
-TEST_F(EntryDetailTest, BehindTheFifteenthLineTheNumberIsTheViewsOwn) {
+TEST_F(EntryDetailTest, AfterTheFifteenthLineTheNumberIsTheViewsOwn) {
     for (int row = 8; row <= 20; ++row) {
         screen.dataView[5](row, 4).text = "4";
         screen.dataView[5](row, 39).text = "n" + std::to_string(row);
@@ -482,8 +482,7 @@ TEST_F(EntryDetailTest, OnARecalledCardTheOffsetIsTheFigureAtTheEndOfTheFileName
     EXPECT_EQ(2, card.raceOffset);
 }
 
-// Entry 4 of race 5 has rows 4 to 7 of the race's data view; its row 6, the third line, is the 61st of the
-// card.
+// Entry 4 of race 5 has rows 4 to 7 of the race's data view; row 6, its third line, is the card's 61st.
 class LineInUseTest : public EntryDetailTest {
 protected:
     LineInUseTest() {

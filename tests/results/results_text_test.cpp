@@ -31,7 +31,7 @@ constexpr std::array trackRows{
     TrackRow{"the first of two rows", "MR_20260314.pmd", "MR"},
     TrackRow{"a code with blanks in the name", " NOR _20260314.pmd", "NOR"},
     TrackRow{"case counts", "nor_20260314.pmd", ""},
-    TrackRow{"nothing behind an empty row is read", "YR_20260314.pmd", ""},
+    TrackRow{"nothing after an empty row is read", "YR_20260314.pmd", ""},
     TrackRow{"a row's key is its first five characters", "ABCDE_20260314.pmd", "ABCDE"},
     TrackRow{"no track in the name", "_20260314.pmd", ""},
 };
@@ -81,11 +81,11 @@ struct CommaRow {
     std::optional<Text> plain;
 };
 
-TEST(ResultsFigures, AFirstCommaGoesWithSixCharactersBehindIt) {
+TEST(ResultsFigures, AFirstCommaGoesWithSixCharactersAfterIt) {
     const std::vector<CommaRow> rows{
         {"1,234.60", "1234.60"},
         {"12,345.60", "12345.60"},
-        {"1,234,567.80", "1234,56"}, // six characters behind the first: "234,56"
+        {"1,234,567.80", "1234,56"}, // six characters after the first: "234,56"
         {",", ""},
         {"24.60", std::nullopt},
         {"", std::nullopt},
@@ -99,7 +99,7 @@ struct TextRow {
     const char* cut;
 };
 
-TEST(ResultsFigures, AnExoticsPayoffIsWhatStandsBehindTheDollarInTheLastTenCharacters) {
+TEST(ResultsFigures, AnExoticsPayoffIsWhatStandsAfterTheDollarInTheLastTenCharacters) {
     constexpr std::array rows{
         TextRow{"", "      EXACTA 5-2 paid $24.60", "24.60"},           // "aid $24.60"
         TextRow{"", "      TRIFECTA 5-2-7 paid $1,234.60", "1,234.60"}, // " $1,234.60"
@@ -113,7 +113,7 @@ TEST(ResultsFigures, AnExoticsPayoffIsWhatStandsBehindTheDollarInTheLastTenChara
     for (const TextRow& row : rows) EXPECT_EQ(row.cut, exoticPayoff(row.text)) << row.text;
 }
 
-TEST(ResultsFigures, BehindADollarBlanksAtTheEndGo) {
+TEST(ResultsFigures, AfterADollarBlanksAtTheEndGo) {
     EXPECT_EQ("38.20", afterDollar("id $38.20 ", 4, 10));
     EXPECT_EQ("38", afterDollar("id $38.20 ", 4, 2));
     EXPECT_EQ("id 38.20  ", afterDollar("id 38.20  ", 0, 10)); // as it stands
@@ -124,7 +124,7 @@ TEST(ResultsFigures, APoolEndsAtTheFirstBracketOrElseAtPaid) {
     constexpr std::array rows{
         TextRow{"bracket", "      DD 3/5 (5-2) paid $38.20", " 3/5 "},
         TextRow{"paid", "      DD 3/5 paid $38.20", " 3/5 "},
-        TextRow{"a bracket behind paid still counts", "      DD 3/5 paid $38.20 (2)", " 3/5 paid $38.20 "},
+        TextRow{"a bracket after paid still counts", "      DD 3/5 paid $38.20 (2)", " 3/5 paid $38.20 "},
         TextRow{"a bracket in front of the pool doesn't", "  (R) DD 3/5 paid", " 3/5 "},
         TextRow{"neither", "      DD 3/5", ""},
         TextRow{"short", "      DD", ""},
@@ -139,14 +139,14 @@ TEST(ResultsFigures, AFinishersPayoffsBeginAtTheFirstFigureAboveZero) {
     EXPECT_EQ(0, figurePlace(""));
 }
 
-TEST(ResultsFigures, AWinnersNameIsDroppedUpToABlankWithoutALetterBehindIt) {
+TEST(ResultsFigures, AWinnersNameIsDroppedUpToABlankWithoutALetterAfterIt) {
     constexpr std::array rows{
         TextRow{"small letters", "llie  4.40  5.20", "  4.40  5.20"},
         TextRow{"capitals and their blanks", "N Z  4.40", "  4.40"},
         TextRow{"a blank and a capital", " A 12.40", " 12.40"},
         TextRow{"three figures go with the name", "100.40 25.20 10.10", " 25.20 10.10"},
         TextRow{"a blank and figures stay", " 100.40 25.20", " 100.40 25.20"},
-        TextRow{"an apostrophe is behind a blank", "'s  4.40", "  4.40"},
+        TextRow{"an apostrophe is after a blank", "'s  4.40", "  4.40"},
         TextRow{"nothing but a name", "Nellie", ""},
         TextRow{"a blank and small letters", " nellie 4", " 4"},
         TextRow{"bytes above the letters", "\xE9\xFF 4", " 4"},
@@ -218,7 +218,7 @@ TEST_F(PickPoolTest, WinnersAreFiledByLegAndSlot) {
         {"and in the last", "3/4,5,6", 2, 8, {{7, 1, "3"}, {8, 1, "4"}, {8, 2, "5"}, {8, 3, "6"}}},
         {"two figures are one number", "10/12", 2, 8, {{7, 1, "10"}, {8, 1, "12"}}},
         {"a third figure is the next number's", "123/4", 2, 8, {{7, 1, "3"}, {8, 1, "4"}}},
-        {"a blank behind a number stays with it", " 3 /5 ", 2, 8, {{7, 1, "3 "}, {8, 1, "5 "}}},
+        {"a blank after a number stays with it", " 3 /5 ", 2, 8, {{7, 1, "3 "}, {8, 1, "5 "}}},
         {"a nought at the start of a number is passed over", "05/0", 2, 8, {{7, 1, "5"}}},
         {"words are passed over", "THREE 3/ALL/5", 3, 8, {{6, 1, "3"}, {8, 1, "5"}}},
         {"too few slashes leave the cursor short", "3", 3, 6, {{6, 1, "3"}}},

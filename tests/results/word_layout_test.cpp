@@ -58,7 +58,7 @@ TEST_F(WordLayoutTest, APlainRaceIsReadWhole) {
     EXPECT_TRUE(shown.empty());
     EXPECT_EQ(0U, journal.count()); // nothing of a text in good order fails
     EXPECT_EQ((Filled{"5=  5", "6=  2", "7=  7", "8=  1"}), outcome(1));
-    // 1st: the last 20 are "ie 12.40  5.20  3.10": behind the name " 12.40  5.20  3.10", the point fourth, so
+    // 1st: the last 20 are "ie 12.40  5.20  3.10": after the name " 12.40  5.20  3.10", the point fourth, so
     // six and six and the last six. 2nd: "  4.60  2.80", the point fourth. 3rd: "e  2.10", the "e" off: the
     // point fourth, six characters. Exacta: 19 characters, the last five. Trifecta: 23, the last six.
     // Superfecta: 28, the last seven.
@@ -90,7 +90,7 @@ TEST_F(WordLayoutTest, ADeadHeatForSecondFillsTheThirdsPlaceAndCellTwenty) {
 
 TEST_F(WordLayoutTest, TheUsersPassFilesDoublesAndPicks) {
     recordText(sampleText);
-    // D/D: what stands behind column 16, "      38.20"
+    // D/D: what stands after column 16, "      38.20"
     EXPECT_EQ("    38.20", card.pickPayoff(2, 2));
     // Pick 3: "of" stands at 22, so nine characters from column 11 on are the pool, "5/3,10/6 ", and the last
     // 32 - 22 - 4 the payoff. The legs begin two races back, at race 1, over those of the double.
@@ -205,7 +205,7 @@ constexpr std::array dateRows{
     DateRow{"December", "Results\nDecember 14, 2026\n", "M1_20261214"},
     DateRow{"of two months the earlier", "Results\nMarch and January 14, 2026\n", "M1_20260114"},
     DateRow{"May needs its blank", "Results\nMayor 15, 2026\n", nullptr},
-    DateRow{"a comma behind the weekday", "Results\nSaturday, March 14, 2026\n", "M1_202603ay"},
+    DateRow{"a comma after the weekday", "Results\nSaturday, March 14, 2026\n", "M1_202603ay"},
     DateRow{"no comma", "Results\nMarch 14 2026\n", "M1_202603"},
     DateRow{"a blank at the end", "Results\nMarch 14, 2026 \n", "M1_026 0314"},
     DateRow{"a horse of a month's name", "Results\n1st  5 April Love 12.40  5.20  3.10\n", "M1_3.1004"},
@@ -412,8 +412,7 @@ TEST_F(WordLayoutTest, TheLengthOfAnExoticsLineTellsHowMuchOfItIsThePayoff) {
 
 TEST_F(WordLayoutTest, TheFirstWordOfALineCounts) {
     recordRace(3, "Exacta Trifecta 4.60\nSuperfecta, Trifecta D/D\nRefund and D/D\nRefund 4\n");
-    // 20 characters: the last six; 24: the last six, and none for the superfecta; the D/D line goes before
-    // Refund
+    // 20 characters: the last six; 24: the last six, none for the superfecta; D/D goes before Refund
     EXPECT_EQ((Filled{"7=a 4.60", "8=ta D/D", "10=Refund 4", "11=Refund and D/D"}), payoffs(3));
 }
 
@@ -447,7 +446,7 @@ TEST_F(WordLayoutTest, APickIsReadAroundItsOf) {
         {"Pick 5    3////2 5 of 5 9.00", 5, "     9.00", {{4, "3"}, {8, "2"}}, 8},
         {"Pick 6    3/////2 5 of 6 9.00", 6, "     9.00", {{3, "3"}, {8, "2"}}, 8},
         {"Pick 7    3/5 7 of 7 99.00", 7, "    99.00", {}, 8},
-        {"Pick 10   3/5 9 of 9 99.00", 1, "    99.00", {}, 8}, // the digit behind "Pick " alone
+        {"Pick 10   3/5 9 of 9 99.00", 1, "    99.00", {}, 8}, // the digit after "Pick " alone
         // no "of": no pool, and all but four characters are the payoff; two races back and not forward again
         {"Pick 3    3/5/1 99.00", 3, " 3    3/5/1 99.00", {}, 6},
         {"Pick 3 of 3 99.00", 3, "    99.00", {}, 6}, // "of" at 8 leaves no room for a pool

@@ -19,8 +19,7 @@ namespace fs = std::filesystem;
 
 #ifdef _WIN32
 
-// The fixed folders lie on drive C:, so a test works there. It takes the drive over, which must be made for
-// it.
+// The fixed folders lie on drive C:, so a test works there. It takes the drive over: it must be made for it.
 constexpr std::array partsOfTheDrive{
     L"made for tests", L"Program Files", L"Program Files (x86)", L"ProgramData", L"users", L"windows",
 };

@@ -1,5 +1,4 @@
-// The fixture of every test that touches the store: all empty, in a folder of its own, with recorders for
-// ports.
+// The fixture of every test that touches the store: all empty, a folder of its own, recorders for ports.
 #pragma once
 
 #include "card/race_card.h"

@@ -38,7 +38,7 @@ TEST_F(SourceLineTest, TheRowIsTakenWithoutTrailingBlanks) {
     EXPECT_EQ("-97", load.line.LEAD_TM_1Q);
 }
 
-TEST_F(SourceLineTest, BehindTheLastRowTheLineIsEmpty) {
+TEST_F(SourceLineTest, AfterTheLastRowTheLineIsEmpty) {
     load.lineRows.openContent(lines().bytes(), "RUNLINHR.DBF");
     ReadSourceLine();
     load.lineRows.MoveLast();

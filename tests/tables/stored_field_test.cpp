@@ -84,7 +84,7 @@ TEST(StoredField, ACharacterFieldKeepsItsBlanksOnBothSides) {
     EXPECT_EQ("\xB0\xBA", read(FieldForm::characters, "\xB0\xBA"));
 }
 
-TEST(StoredField, ZeroBytesBehindATextAreNoPartOfIt) {
+TEST(StoredField, ZeroBytesAfterATextAreNoPartOfIt) {
     EXPECT_EQ("Ada", read(FieldForm::characters, "Ada\0\0\0"sv));
     EXPECT_EQ("", read(FieldForm::characters, "\0\0\0"sv));
     EXPECT_EQ("A\0b "sv, read(FieldForm::characters, "A\0b "sv));

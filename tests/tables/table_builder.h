@@ -16,7 +16,7 @@ inline Text bytesOf(std::uint64_t number, int bytes) {
     return text;
 }
 
-/// A text in a field, with blanks behind it.
+/// A text in a field, with blanks after it.
 inline Text inField(TextView text, std::size_t width) {
     Text field{text};
     field.resize(width, ' ');

@@ -44,7 +44,7 @@ TEST_F(TableCursorTest, AFileOfTheSourceFolderIsFoundInAnyCase) {
     EXPECT_EQ("1", rows.field("RACE"));
 }
 
-TEST_F(TableCursorTest, BehindTheLastRowAllFieldsAreEmpty) {
+TEST_F(TableCursorTest, AfterTheLastRowAllFieldsAreEmpty) {
     TableCursor rows = opened(entries());
     rows.MoveLast();
     EXPECT_EQ(3, rows.row());

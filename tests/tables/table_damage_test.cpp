@@ -7,7 +7,7 @@ namespace {
 
 using namespace std::string_literals;
 
-// Two fields behind the flag: row n of three reads "1", "2", "3" and "aaaa", "bbbb", "cccc".
+// Two fields after the flag: row n of three reads "1", "2", "3" and "aaaa", "bbbb", "cccc".
 class TableDamageTest : public CardTest {
 protected:
     static constexpr std::size_t rowLength = 7;                  // 1 + 2 + 4
@@ -87,7 +87,7 @@ TEST_F(TableDamageTest, MoreRowsCountedThanThereAreGivesThoseThere) {
         EXPECT_EQ((std::vector<Text>{"1", "2", "3"}), column(opened(), 1));
         EXPECT_TRUE(
             journalTells("the header counts " + std::to_string(counted) + " rows, the file has room for 3"));
-        EXPECT_EQ(1U, journal.count()); // the end mark behind the rows is no cut row
+        EXPECT_EQ(1U, journal.count()); // the end mark after the rows is no cut row
     }
 }
 

@@ -2,7 +2,7 @@
 
 namespace quillon {
 
-// Rows ---
+// ---- Rows ----
 
 TEST_F(TrackTableTest, ARowIsReadByItsColumns) {
     // clang-format off
@@ -57,7 +57,7 @@ TEST_F(TrackTableTest, ThePostLimitIsTheLastTwoCharactersAndTwelveWhenTheySayNot
         {"a row of one digit", "7", 7},
         {"one horse", "A 01", 1},
         {"a third digit in front", "A110", 10},
-        {"behind a long row", "A, a track with a very long description that ends in its limit, 11", 11},
+        {"after a long row", "A, a track with a very long description that ends in its limit, 11", 11},
     };
     for (const PostLimitRow& row : rows)
         EXPECT_EQ(row.expected, trackTableOf(row.row).rows.at(0).maxPosts) << row.what;
@@ -137,7 +137,7 @@ TEST_F(TrackTableTest, AnEmptyFileIsAnEmptyTable) {
     EXPECT_EQ(nullptr, trackTableOf("").first(""));
 }
 
-// Look-up ---
+// ---- Look-up ----
 
 TEST_F(TrackTableTest, ATrackListedTwiceHasAFirstAndALastRow) {
     const TrackTable table = trackTableOf("PHL  1\nM1   2\nYR   3\nM1   4\nA    5\nM1   6\n");

@@ -9,8 +9,7 @@
 
 namespace quillon {
 
-/// A row with all its columns: 36 of key and name, 37 size, 42 stretch, 46 flag, 50 par, and the post limit
-/// last.
+/// A row with all its columns: 36 of key and name, 37 size, 42 stretch, 46 flag, 50 par; the post limit last.
 inline Text trackRow(TextView key, TextView courseSize, TextView par = "57.0", TextView posts = "10") {
     Text row = inField(key, 36) + inField(courseSize, 3) + "  " + " 990" + "*" + "   " + inField(par, 4);
     return row.append("  ").append(posts).append("\r\n");
@@ -25,7 +24,6 @@ protected:
         readTrackTable();
     }
 
-    /// The race table with one race at this track.
     static void raceAt(const Text& track) {
         const BuiltTable races{.fields = {{"TRACK", 'C', 5}}, .rows = {" " + inField(track, 5)}};
         load.raceRows.openContent(races.bytes(), "RACESHR.DBF");

@@ -1,5 +1,4 @@
-// Files by the system's own calls, so that tests see what is on the disk and not what the program makes of
-// it.
+// Files by the system's own calls: tests see what is on the disk, not what the program makes of it.
 #pragma once
 
 #ifndef NOMINMAX

@@ -29,7 +29,7 @@ TEST(DbfWriter, HeadOfAFoxProTable) {
 TEST(DbfWriter, FieldsOfAFoxProTable) {
     const std::string race = "RACE\0\0\0\0\0\0\0N\x01\0\0\0\x03\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"s;
     const std::string card =
-        "CARD_ID\0\0\0\0C\x04\0\0\0\x01\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"s; // behind RACE: 1 + 3
+        "CARD_ID\0\0\0\0C\x04\0\0\0\x01\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"s; // after RACE: 1 + 3
     EXPECT_EQ(race + card + "\x0D", tableBytes(twoRaces()).substr(32, 65));
 }
 

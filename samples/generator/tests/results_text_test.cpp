@@ -128,7 +128,7 @@ TEST(ColumnLayout, FinishersFollowTheirHeading) {
             EXPECT_EQ(placings[place].entry->program, trimmed(line.substr(0, 2)));
             EXPECT_EQ(dollars(placings[place].show), trimmed(lastOf(line, 6)));
         }
-        // The first digit behind the number begins the Win payoff: names have none.
+        // The first digit after the number begins the Win payoff: names have none.
         const std::string& first = lines[i + 1];
         EXPECT_EQ(dollars(placings[0].win), trimmed(first.substr(first.find_first_of("123456789", 2), 6)));
     }

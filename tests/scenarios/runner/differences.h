@@ -10,10 +10,10 @@ namespace scenarios {
 /// and bytes above 126 in hex, such as <BA>.
 std::string visible(std::string_view line);
 
-/// The first lines of a text, made visible, each behind `mark`.
+/// The first lines of a text, made visible, each after `mark`.
 std::string firstLines(std::string_view text, std::string_view mark);
 
-/// The lines in which two texts differ: what was expected behind "-", what came behind "+", and the number of
+/// The lines in which two texts differ: what was expected after "-", what came after "+", and the number of
 /// the first such line. Empty where the texts are the same bytes.
 std::string difference(std::string_view expected, std::string_view actual);
 
