@@ -76,6 +76,7 @@ protected:
 
 private:
     void makeSortable();
+    void takeStyle();
     void keepDragged(int column, int pixels);
     void lay();
     void layColumns();
@@ -92,6 +93,7 @@ private:
     int bodyPoints_ = 9;
     bool bodyBold_ = false;
     int rowTwips_ = 285;
+    QString styleName_;                       ///< of the style that ours leans on
     QString longestSign_;                     ///< empty: no column of marks
     std::vector<std::optional<int>> dragged_; ///< in twips, by view column
     bool laying_ = false;

@@ -47,6 +47,7 @@ void FrozenColumn::follow() {
 }
 
 void FrozenColumn::takeUp(int rowPixels) {
+    setStyle(table_.style()); // a child has none of its parent's
     setFont(table_.font());
     horizontalHeader()->setFont(table_.horizontalHeader()->font());
     verticalHeader()->setMinimumSectionSize(1);

@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -340,6 +341,21 @@ TEST_F(MainWindowTest, OnAWideWindowThePastLinesStandBesideTheRace) {
     EXPECT_GT(placeOf(lines).x(), placeOf(race).x() + race.width());
     EXPECT_LT(placeOf(lines).y(), placeOf(race).y() + race.height() / 2);
     EXPECT_GT(placeOf(lines).x() + lines.width(), window->width() - 30);
+}
+
+// From 1900 pixels on, a full screen of 1920 less what the desktop takes.
+TEST_F(MainWindowTest, OnAWideWindowNoColumnOfAnyRaceIsOutOfSight) {
+    startInWindow();
+    for (const int twips : {28500, 28800}) {
+        window->resize(appearance.pixels(twips), appearance.pixels(15600));
+        for (int number = 1; number <= 12; ++number) {
+            click(child<QAbstractButton>(*window, QString{"RaceButton%1"}.arg(number)));
+            QApplication::processEvents();
+            for (const char* table : {"RaceView", "RaceLines"})
+                EXPECT_EQ(0, child<QTableView>(*window, table).horizontalScrollBar()->maximum())
+                    << table << " of race " << number << " at " << window->width();
+        }
+    }
 }
 
 TEST_F(MainWindowTest, WidthsThatAreDraggedAreThereInTheNextRun) {
