@@ -82,7 +82,10 @@ Grid cardOverview() {
 
 // Labels and times of day stand in the order of the races.
 ViewLayout overviewLayout() {
-    return {.columns = columns, .sortable = true, .rowOrderColumns = OverviewColumn::postTime + 1};
+    return {.columns = columns,
+            .fitted = true,
+            .sortable = true,
+            .rowOrderColumns = OverviewColumn::postTime + 1};
 }
 
 } // namespace quillon

@@ -73,7 +73,7 @@ constexpr std::array profileColumnTable{
     ViewColumn{"S1/2-3-4",   betWidth,    right, "Superfecta: S1 first, then S2 to S4 in any order"},
     ViewColumn{"S2-1/3-4",   betWidth,    right, "Superfecta: S1 or S2 first, then the others of S1 to S4 in any order"},
     ViewColumn{"S1-2-3-4",   betWidth,    right, "Superfecta box: S1 to S4 are the first four, in any order"},
-    ViewColumn{"",         countWidth, right},
+    ViewColumn{"",           countWidth,  right, "Races that paid a superfecta: the bets on it are counted over these"},
 };
 
 constexpr std::array trackColumnTable{

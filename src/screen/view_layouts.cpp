@@ -23,11 +23,14 @@ ViewLayout summaryLayout() {
     return {.columns = summaryColumns(),
             .emptyRows = EmptyRows::hidden,
             .boldRows = {SummaryRow::totals, SummaryRow::percentages},
-            .firstFrozen = true};
+            .firstFrozen = true,
+            .fitted = true};
 }
 
 // Any card may have won.
-ViewLayout profileLayout() { return {.columns = profileColumns(), .firstFrozen = true, .roomForBold = true}; }
+ViewLayout profileLayout() {
+    return {.columns = profileColumns(), .firstFrozen = true, .fitted = true, .roomForBold = true};
+}
 
 ViewLayout tracksLayout() {
     return {.columns = trackColumns().first(TrackColumn::percentage + 1),

@@ -209,6 +209,18 @@ TEST_F(ProfilePageTest, NoNumberIsCut) {
             EXPECT_GT(view.columnWidth(column), metrics.horizontalAdvance(at(view, row, column)));
 }
 
+// Thirty cards: with a scroll bar at the side.
+TEST_F(ProfilePageTest, InTheFirstWindowAllColumnsAreInSight) {
+    Text archive;
+    for (int n = 0; n < 30; ++n) archive += archiveLine("   M1_20260314", "30.00");
+    put("HRA.ini", archive);
+    panel.resize(1083 - 12, 620); // less the margins of the window
+    runner.run(CommandId::ALL);
+    QTest::qWait(50);
+    ASSERT_GT(table("ProfileTable").verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(0, table("ProfileTable").horizontalScrollBar()->maximum());
+}
+
 TEST_F(ProfilePageTest, ManyCardsOpenAndScrollAtOnce) {
     constexpr int cards = 100'000;
     Text archive;

@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QSignalSpy>
 
 namespace quillon {
@@ -44,6 +45,12 @@ TEST_F(OverviewPanelTest, ShowsARowARace) {
     EXPECT_EQ("Purse", table().model()->headerData(5, Qt::Horizontal, Qt::DisplayRole).toString());
     const auto side = table().model()->index(0, 5).data(Qt::TextAlignmentRole).toInt();
     EXPECT_TRUE(side & Qt::AlignRight);
+}
+
+TEST_F(OverviewPanelTest, InTheFirstWindowAllColumnsAreInSight) {
+    panel.resize(1083 - 12, 600); // less the margins of the window
+    QTest::qWait(50);
+    EXPECT_EQ(0, table().horizontalScrollBar()->maximum());
 }
 
 TEST_F(OverviewPanelTest, ARaceThatTheUserChangedHasADot) {
