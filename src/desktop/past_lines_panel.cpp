@@ -29,6 +29,7 @@ PastLinesPanel::PastLinesPanel(CommandRunner& runner, Appearance& appearance, QW
     racePage_ = buildRacePage();
     pages_->addWidget(racePage_);
     pages_->addWidget(entry_);
+    buildEntryPlace();
     connect(&appearance_, &Appearance::changed, this, &PastLinesPanel::lay);
     lay();
     refresh();
@@ -55,18 +56,45 @@ QWidget* PastLinesPanel::buildRacePage() {
     return page;
 }
 
+void PastLinesPanel::buildEntryPlace() {
+    entryPlace_ = new QStackedWidget{this};
+    entryPlace_->setObjectName("EntryPlace");
+    entryPlace_->hide();
+    entryHint_ = new QLabel{tr("The number at the left of an entry opens its past lines here."), entryPlace_};
+    entryHint_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    entryHint_->setEnabled(false);
+    entryHint_->setMargin(12);
+    entryPlace_->addWidget(entryHint_);
+}
+
+void PastLinesPanel::setEntryApart(bool apart) {
+    if (apart == isEntryApart_) return;
+    isEntryApart_ = apart;
+    (apart ? entryPlace_ : pages_)->addWidget(entry_);
+    entryPlace_->setVisible(apart);
+    refresh();
+}
+
 void PastLinesPanel::lay() {
-    setMinimumHeight(appearance_.pixels(leastHeight));
+    for (QWidget* place : {static_cast<QWidget*>(this), static_cast<QWidget*>(entryPlace_)})
+        place->setMinimumHeight(appearance_.pixels(leastHeight));
+    entryHint_->setFont(appearance_.viewFont(bodyPoints, false));
     raceHeading_->setFont(appearance_.viewFont(headingPoints, true));
     raceShades_->setTextFont(appearance_.viewFont(legendPoints, false));
 }
 
 void PastLinesPanel::refresh() {
-    if (theScreen.pastPerformanceOpen)
-        entry_->refresh();
-    else
-        refreshRacePage();
-    pages_->setCurrentWidget(theScreen.pastPerformanceOpen ? static_cast<QWidget*>(entry_) : racePage_);
+    const bool isEntryOpen = theScreen.pastPerformanceOpen;
+    if (isEntryOpen) entry_->refresh();
+    if (!isEntryOpen || isEntryApart_) refreshRacePage();
+    showPages();
+}
+
+void PastLinesPanel::showPages() {
+    const bool isEntryOpen = theScreen.pastPerformanceOpen;
+    if (isEntryOpen) (isEntryApart_ ? entryPlace_ : pages_)->setCurrentWidget(entry_);
+    if (!isEntryOpen) entryPlace_->setCurrentWidget(entryHint_);
+    if (!isEntryOpen || isEntryApart_) pages_->setCurrentWidget(racePage_);
 }
 
 void PastLinesPanel::refreshRacePage() {

@@ -1,4 +1,5 @@
-// Past lines: those of the current entry in their frame, or those of the whole race.
+// Past lines: those of the current entry in their frame, or those of the whole race. Where there is room for both, the
+// entry's have a place of their own.
 #pragma once
 
 #include "desktop/appearance.h"
@@ -23,13 +24,22 @@ public:
     /// Draws what the screen holds now.
     void refresh();
 
+    /// The place of the entry's lines while they stand apart; hidden otherwise. To be laid out by the page.
+    QWidget* entryPlace() { return entryPlace_; }
+    void setEntryApart(bool apart);
+
 private:
     QWidget* buildRacePage();
+    void buildEntryPlace();
+    void showPages();
     void refreshRacePage();
     void lay();
 
     Appearance& appearance_;
     QStackedWidget* pages_ = nullptr;
+    QStackedWidget* entryPlace_ = nullptr;
+    QLabel* entryHint_ = nullptr; ///< while no entry is open
+    bool isEntryApart_ = false;
     EntryLinesFrame* entry_ = nullptr;
     QWidget* racePage_ = nullptr;
     QLabel* raceHeading_ = nullptr;

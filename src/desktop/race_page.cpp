@@ -1,5 +1,6 @@
 #include "desktop/race_page.h"
 
+#include "desktop/past_lines_panel.h"
 #include "screen/view_layouts.h"
 
 #include <QVBoxLayout>
@@ -31,13 +32,14 @@ RacePage::RacePage(Appearance& appearance, QWidget* parent)
 }
 
 void RacePage::arrange(const RacePageParts& parts) {
+    lines_ = parts.lines;
     left_ = new QWidget{inside_};
     auto* column = new QVBoxLayout{left_};
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(spacing);
     column->addWidget(parts.entries);
     column->addWidget(parts.board);
-    column->addStretch(1);
+    column->addWidget(parts.lines->entryPlace(), 1);
     body_ = new QBoxLayout{QBoxLayout::TopToBottom};
     body_->setSpacing(spacing);
     body_->addWidget(left_);
@@ -54,6 +56,7 @@ void RacePage::arrange(const RacePageParts& parts) {
 void RacePage::turn() {
     if (!body_) return;
     const bool beside = width() >= appearance_.pixels(leastWideTwips);
+    lines_->setEntryApart(beside);
     body_->setDirection(beside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     body_->setStretch(0, beside ? widthOf(raceColumns()) + besideTable : 0);
     body_->setStretch(1, beside ? widthOf(dataColumns()) : 1);

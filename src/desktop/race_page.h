@@ -1,5 +1,5 @@
-// The page of a race: its heading, its entries with the board, and past lines below them or, where the window is
-// wide enough, beside them.
+// The page of a race: its heading, its entries with the board, and past lines below them. Where the window is wide enough,
+// the race's lines stand beside them, and below are those of an entry.
 #pragma once
 
 #include "desktop/appearance.h"
@@ -9,12 +9,14 @@
 
 namespace quillon {
 
+class PastLinesPanel;
+
 /// The parts of the page, from top to bottom.
 struct RacePageParts {
     QWidget* header = nullptr;
     QWidget* entries = nullptr;
     QWidget* board = nullptr;
-    QWidget* lines = nullptr;
+    PastLinesPanel* lines = nullptr;
 };
 
 /// Scrolls where the window is too small for its parts.
@@ -39,7 +41,8 @@ private:
     Appearance& appearance_;
     QWidget* inside_;
     QBoxLayout* body_ = nullptr; ///< entries and board, then past lines
-    QWidget* left_ = nullptr;    ///< entries and board
+    QWidget* left_ = nullptr;    ///< entries and board, and an entry's lines where they stand apart
+    PastLinesPanel* lines_ = nullptr;
 };
 
 } // namespace quillon

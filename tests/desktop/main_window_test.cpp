@@ -358,6 +358,34 @@ TEST_F(MainWindowTest, OnAWideWindowNoColumnOfAnyRaceIsOutOfSight) {
     }
 }
 
+TEST_F(MainWindowTest, OnAWideWindowAnEntrysLinesStandBelowTheBoardAndTheRacesStay) {
+    startInWindow();
+    window->resize(appearance.pixels(28800), appearance.pixels(15600)); // 1920 by 1040 at 96 dots an inch
+    QApplication::processEvents();
+    click(child<QAbstractButton>(*window, "EntryButton2"));
+    QApplication::processEvents();
+    const auto& lines = child<QWidget>(*window, "EntryLines");
+    const auto& race = child<QWidget>(*window, "RaceLines");
+    const auto& board = child<QWidget>(*window, "BoardPanel");
+    const auto placeOf = [this](const QWidget& widget) {
+        return QRect{widget.mapTo(&*window, QPoint{}), widget.size()};
+    };
+    EXPECT_TRUE(lines.isVisible());
+    EXPECT_TRUE(race.isVisible());
+    EXPECT_GT(placeOf(lines).top(), placeOf(board).bottom());
+    EXPECT_LT(placeOf(lines).right(), placeOf(race).left());
+    EXPECT_GT(placeOf(lines).bottom(), window->height() - 60); // down to the status bar
+    EXPECT_EQ(0, child<QTableView>(*window, "EntryLines").horizontalScrollBar()->maximum());
+
+    window->resize(1083, 747);
+    QApplication::processEvents();
+    EXPECT_TRUE(lines.isVisible());
+    EXPECT_FALSE(race.isVisible());
+    click(child<QAbstractButton>(*window, "LineButton0"));
+    EXPECT_TRUE(race.isVisible());
+    EXPECT_FALSE(child<QWidget>(*window, "EntryPlace").isVisible());
+}
+
 TEST_F(MainWindowTest, WidthsThatAreDraggedAreThereInTheNextRun) {
     startInWindow();
     const auto table = [this]() -> CellTableView& { return child<CellTableView>(*window, "RaceView"); };
