@@ -14,6 +14,7 @@ namespace quillon {
 namespace {
 
 constexpr const char* trackTable = "TrackEditor.ini";
+constexpr const char* cardTakenOver = "CrossOver.ini"; // written by other programs
 constexpr std::array fixedFolders{
     Folder::sourceTables, Folder::raceCards, Folder::archives, Folder::results, Folder::selections,
     Folder::selections2,  Folder::programs,  Folder::entries,  Folder::drivers,
@@ -28,6 +29,9 @@ void LayOutFolders() {
     QFile sample{":/samples/TrackEditor.ini"};
     if (!sample.open(QIODevice::ReadOnly)) fail("the sample track table is not in the program");
     writeFile({Folder::working, trackTable}, sample.readAll().toStdString());
+    // Empty it says what a missing one says, but is no fault of a first start.
+    const FilePlace takenOver{Folder::working, cardTakenOver};
+    if (!fileContent(takenOver)) attempt([&] { writeFile(takenOver, {}); });
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "desktop/working_folder.h"
 
+#include "app/start_up.h"
 #include "core/files.h"
+#include "core/journal.h"
 #include "desktop/window_test.h"
 
 #include <QDir>
@@ -24,6 +26,13 @@ TEST_F(WorkingFolderTest, AFolderIsLaidOutAtItsFirstUse) {
     QDir::setCurrent(folder);
     EXPECT_FALSE(sample.empty());
     EXPECT_EQ(sample, sampleTracks());
+}
+
+TEST_F(WorkingFolderTest, AFirstStartHasNoFault) {
+    enterFolder(QDir::currentPath() + "/data/Quillon");
+    journal.clear();
+    StartUp();
+    EXPECT_EQ(0U, journal.count());
 }
 
 TEST_F(WorkingFolderTest, ATrackTableThatTheUserEditedStays) {
