@@ -57,6 +57,10 @@ WindowNotices::~WindowNotices() { writeFailureWatch = nullptr; }
 void WindowNotices::takeUp(CommandId id) {
     bar_.take(refusalKey);
     const int boards = boardsPending();
+    if (isPass(id) && racesWithResults() == 0)
+        tellRefusal(tr("The results text holds no result of this card yet: open it with Navigation > Results "
+                       "(F11), paste the page into it and save it."),
+                    CommandId::count);
     if (boards == 0) return bar_.take(pendingKey);
     if (isPass(id)) return tellPending(passWords(boards));
     const bool isOnShow = !bar_.textOf(pendingKey).isEmpty();

@@ -227,6 +227,20 @@ TEST_F(NothingLostTest, APageOfTheOtherLayoutIsToldAsThat) {
     EXPECT_FALSE(firstFinisher(1).empty());
 }
 
+// A scratch leaves its refund in the results text, long before there are results.
+TEST_F(NothingLostTest, APassOverATextWithoutResultsSaysSo) {
+    startInWindow();
+    scratch(2);
+    for (const char* pass : {"AutoRecord", "EBET"}) {
+        choose(pass);
+        EXPECT_TRUE(notice("refusal").startsWith("The results text holds no result of this card yet"))
+            << pass;
+        EXPECT_EQ("", notice("pending").toStdString());
+        pressKeys("Alt+Right");
+        EXPECT_EQ("", notice("refusal").toStdString());
+    }
+}
+
 // --- One clear sentence ----------------------------------------------------------------------------------
 
 TEST_F(NothingLostTest, WhatCanNotBeDoneHereIsSaidInOneSentence) {
