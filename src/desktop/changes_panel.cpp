@@ -114,6 +114,13 @@ void ChangesPanel::lay() {
     places_->resizeColumnsToContents();
 }
 
+// Low, since it stands over the window where the screen has no room beside it.
+QSize ChangesPanel::sizeHint() const {
+    constexpr int linesOfList = 5;
+    const int list = linesOfList * QFontMetrics{list_->font()}.lineSpacing() + 2 * list_->frameWidth();
+    return QWidget::sizeHint() - QSize{0, list_->sizeHint().height() - list};
+}
+
 void ChangesPanel::refresh() {
     fillList();
     fillPlaces();

@@ -20,6 +20,8 @@ public:
 
     void refresh();
 
+    QSize sizeHint() const override;
+
 private:
     void buildList();
     void buildPlaces();

@@ -2,6 +2,7 @@
 
 #include "core/journal.h"
 #include "desktop/shown_text.h"
+#include "desktop/window_size.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -47,7 +48,7 @@ FaultJournalDialog::FaultJournalDialog(Appearance& appearance, QWidget* parent)
     setObjectName("FaultJournalDialog");
     setWindowTitle(tr("Fault Journal"));
     build();
-    resize(appearance_.pixels(12000), appearance_.pixels(7000));
+    resizeWithinScreen(*this, {appearance_.pixels(12000), appearance_.pixels(7000)});
     refresh();
 }
 

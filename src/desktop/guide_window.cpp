@@ -1,5 +1,7 @@
 #include "desktop/guide_window.h"
 
+#include "desktop/window_size.h"
+
 #include <QAbstractTextDocumentLayout>
 #include <QFile>
 #include <QHBoxLayout>
@@ -56,7 +58,7 @@ GuideWindow::GuideWindow(Appearance& appearance, QWidget* parent)
     column->addLayout(buttons);
     connect(&appearance_, &Appearance::changed, this, &GuideWindow::lay);
     lay();
-    resize(760, 640);
+    resizeWithinScreen(*this, {760, 640});
 }
 
 void GuideWindow::lay() {

@@ -1,5 +1,7 @@
 #include "desktop/keys_dialog.h"
 
+#include "desktop/window_size.h"
+
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QMenu>
@@ -63,7 +65,7 @@ KeysDialog::KeysDialog(const QMenuBar& menus, QWidget* parent) : QDialog{parent}
     auto* column = new QVBoxLayout{this};
     column->addWidget(table, 1);
     column->addWidget(buttons);
-    resize(820, 560);
+    resizeWithinScreen(*this, {820, 560});
 }
 
 } // namespace quillon

@@ -1,9 +1,11 @@
 #include "app/start_up.h"
 #include "desktop/main_window.h"
+#include "desktop/window_size.h"
 #include "desktop/working_folder.h"
 
 #include <QApplication>
 #include <QIcon>
+#include <QScreen>
 #include <QSettings>
 
 namespace {
@@ -32,6 +34,8 @@ int main(int argc, char** argv) {
     quillon::Appearance appearance;
     const int theme = QSettings{}.value("theme", 0).toInt();
     if (theme == 1 || theme == 2) appearance.setTheme(static_cast<quillon::Theme>(theme));
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        appearance.setZoom(quillon::firstZoom(screen->availableGeometry().width()));
     quillon::MainWindow window{appearance};
     window.show();
     return QApplication::exec();

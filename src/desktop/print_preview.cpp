@@ -1,6 +1,7 @@
 #include "desktop/print_preview.h"
 
 #include "desktop/appearance.h"
+#include "desktop/window_size.h"
 
 #include <QActionGroup>
 #include <QFileDialog>
@@ -206,7 +207,7 @@ PrintPreview::PrintPreview(PrintDocument document, QWidget* parent)
         connect(view->verticalScrollBar(), &QScrollBar::valueChanged, this, &PrintPreview::showPlace);
     status_ = new QStatusBar{this};
     column->addWidget(status_);
-    resize(900, 700);
+    resizeWithinScreen(*this, {900, 700});
 }
 
 // Long lines lie across the page, unless upright pages with smaller letters save half of the paper.

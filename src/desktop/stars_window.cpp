@@ -3,6 +3,7 @@
 #include "analysis/stars_profile.h"
 #include "desktop/command_texts.h"
 #include "desktop/shown_text.h"
+#include "desktop/window_size.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -63,7 +64,7 @@ StarsWindow::StarsWindow(CommandRunner& runner, Appearance& appearance, QWidget*
     buildShortcuts();
     connect(&appearance_, &Appearance::changed, this, &StarsWindow::lay);
     lay();
-    resize(appearance_.pixels(windowWidth), appearance_.pixels(windowHeight));
+    resizeWithinScreen(*this, {appearance_.pixels(windowWidth), appearance_.pixels(windowHeight)});
 }
 
 void StarsWindow::buildLists(QHBoxLayout& row) {

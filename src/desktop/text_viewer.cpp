@@ -4,6 +4,7 @@
 #include "desktop/find_bar.h"
 #include "desktop/print_preview.h"
 #include "desktop/shown_text.h"
+#include "desktop/window_size.h"
 
 #include <QCloseEvent>
 #include <QFileInfo>
@@ -66,7 +67,7 @@ TextViewer::TextViewer(const FilePlace& file, Appearance& appearance, QWidget* p
     setWindowTitle(tr("%1[*] - Quillon").arg(shown(file.name)));
     buildEditor();
     buildMenus();
-    resize(appearance_.pixels(windowWidth), appearance_.pixels(windowHeight));
+    resizeWithinScreen(*this, {appearance_.pixels(windowWidth), appearance_.pixels(windowHeight)});
     load();
 }
 

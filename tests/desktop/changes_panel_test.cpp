@@ -36,6 +36,15 @@ TEST_F(ChangesPanelTest, AChangeIsALineInWordsTheNewestFirst) {
     EXPECT_EQ("The card as it was opened", list().item(2)->text());
 }
 
+TEST_F(ChangesPanelTest, InTheFirstWindowItLeavesTheEntriesInSight) {
+    window->resize(1083, 747);
+    startInWindow();
+    QApplication::processEvents();
+    const auto& entries = child<QWidget>(*window, "RaceView");
+    const int below = window->height() - entries.mapTo(&*window, QPoint{0, entries.height()}).y();
+    EXPECT_LE(child<QDockWidget>(*window, "ChangesDock").sizeHint().height(), below);
+}
+
 TEST_F(ChangesPanelTest, AClickShowsTheRace) {
     startInWindow();
     scratch(1);

@@ -3,9 +3,15 @@
 #include "card/race_card.h"
 #include "desktop/cell_table_view.h"
 #include "desktop/dialog_answers.h"
+#include "desktop/fault_journal_dialog.h"
 #include "desktop/guide_window.h"
+#include "desktop/keys_dialog.h"
+#include "desktop/print_preview.h"
 #include "desktop/shown_text.h"
+#include "desktop/stars_window.h"
+#include "desktop/text_viewer.h"
 #include "desktop/window_look.h"
+#include "desktop/window_size.h"
 #include "results/card_search.h"
 
 #include <QAction>
@@ -315,6 +321,43 @@ TEST_F(MainWindowTest, TheFirstSizeIsTheDesignedOneOrWhatTheScreenHasRoomFor) {
     EXPECT_EQ((QSize{1016, 730}), firstSize({1083, 747}, {1016, 730}));
     EXPECT_EQ((QSize{952, 500}), firstSize({1083, 747}, {952, 500})); // 1920 by 1080 at 200%
     EXPECT_TRUE(window->size().boundedTo(window->screen()->availableGeometry().size()) == window->size());
+}
+
+// Screens of 1920 at 200%, 1366 at 150% and 1280 at 150%, less a frame's 8 pixels: 952 - 390 is 94% of 600, 903 - 390
+// is 85%, 845 - 390 is 75%. 1280 at 200% has room for 40%, which nobody could read.
+TEST_F(MainWindowTest, TheFirstZoomKeepsTheRatingsInSight) {
+    EXPECT_EQ(100, firstZoom(1920));
+    EXPECT_EQ(100, firstZoom(1024));
+    EXPECT_EQ(90, firstZoom(960));
+    EXPECT_EQ(80, firstZoom(911));
+    EXPECT_EQ(70, firstZoom(853));
+    EXPECT_EQ(70, firstZoom(640));
+    startInWindow();
+    for (const int width : {1024, 960, 911, 853}) {
+        appearance.setZoom(firstZoom(width));
+        window->resize(width - 8, 620);
+        for (int race = 1; race <= 12; ++race) {
+            click(child<QAbstractButton>(*window, QString{"RaceButton%1"}.arg(race)));
+            QApplication::processEvents();
+            EXPECT_EQ(0, child<QTableView>(*window, "RaceView").horizontalScrollBar()->maximum())
+                << "race " << race << " at " << width;
+        }
+    }
+}
+
+// The screen of these tests has 800 by 800 pixels.
+TEST_F(MainWindowTest, NoWindowIsLargerThanTheScreen) {
+    const QSize room = window->screen()->availableGeometry().size();
+    KeysDialog keys{*window->menuBar()};
+    GuideWindow guide{appearance};
+    StarsWindow stars{window->runner(), appearance};
+    FaultJournalDialog faults{appearance};
+    TextViewer viewer{{Folder::working, "TrackEditor.ini"}, appearance};
+    PrintPreview preview{PrintDocument{}};
+    for (const QWidget* opened :
+         std::initializer_list<QWidget*>{&keys, &guide, &stars, &faults, &viewer, &preview})
+        EXPECT_EQ(opened->size(), opened->size().boundedTo(room - QSize{8, 8}))
+            << opened->metaObject()->className();
 }
 
 TEST_F(MainWindowTest, OnASmallScreenItCanBeAsSmallAsTheScreen) {
