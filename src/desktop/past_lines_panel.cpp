@@ -9,6 +9,8 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace quillon {
 namespace {
 
@@ -88,6 +90,16 @@ void PastLinesPanel::refresh() {
     if (isEntryOpen) entry_->refresh();
     if (!isEntryOpen || isEntryApart_) refreshRacePage();
     showPages();
+    tellEntry();
+}
+
+void PastLinesPanel::tellEntry() {
+    const int entry = theScreen.pastPerformanceOpen ? theScreen.currentEntry : 0;
+    if (std::exchange(openEntry_, entry) == entry) return;
+    if (entry > 0)
+        emit entryShown(entry_);
+    else
+        emit entryClosed();
 }
 
 void PastLinesPanel::showPages() {

@@ -28,10 +28,15 @@ public:
     QWidget* entryPlace() { return entryPlace_; }
     void setEntryApart(bool apart);
 
+signals:
+    void entryShown(QWidget* lines); ///< an entry was opened, or another one
+    void entryClosed();
+
 private:
     QWidget* buildRacePage();
     void buildEntryPlace();
     void showPages();
+    void tellEntry();
     void refreshRacePage();
     void lay();
 
@@ -45,7 +50,8 @@ private:
     QLabel* raceHeading_ = nullptr;
     ShadeLegend* raceShades_ = nullptr;
     CellTableView* raceTable_ = nullptr;
-    int race_ = 0; ///< whose lines are shown; 0 none
+    int race_ = 0;      ///< whose lines are shown; 0 none
+    int openEntry_ = 0; ///< 0 none
 };
 
 } // namespace quillon

@@ -49,6 +49,12 @@ void RacePage::arrange(const RacePageParts& parts) {
     page->setSpacing(spacing);
     page->addWidget(parts.header);
     page->addLayout(body_, 1);
+    // Once they are laid out.
+    connect(
+        lines_, &PastLinesPanel::entryShown, this, [this](QWidget* lines) { ensureWidgetVisible(lines); },
+        Qt::QueuedConnection);
+    connect(
+        lines_, &PastLinesPanel::entryClosed, this, [this] { ensureVisible(0, 0); }, Qt::QueuedConnection);
     turn();
 }
 

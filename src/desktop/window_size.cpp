@@ -18,8 +18,10 @@ QSize roomFor(const QWidget& window) {
     return window.screen()->availableGeometry().size() - QSize{2 * border, title + 2 * border};
 }
 
+// In the middle of the card's window, with its title in sight.
 void resizeWithinScreen(QWidget& window, QSize designed) {
-    window.resize(designed.boundedTo(roomFor(window)));
+    constexpr int around = 20; // pixels
+    window.resize(designed.boundedTo(roomFor(window) - QSize{2 * around, 2 * around}));
 }
 
 // A race asks for so many pixels: its texts grow with the zoom, what stands between them does not.

@@ -9,7 +9,7 @@ namespace quillon {
 /// What the free area of its screen holds of a window, less the frame that the desktop puts round it.
 QSize roomFor(const QWidget& window);
 
-/// As large as designed, where there is room.
+/// A window beside the card's: as large as designed, where there is room with some to spare.
 void resizeWithinScreen(QWidget& window, QSize designed);
 
 /// The zoom, per cent, at which a first window shows all columns of a race on a screen as wide as this.

@@ -20,6 +20,7 @@
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QSettings>
 #include <QStackedWidget>
@@ -345,6 +346,25 @@ TEST_F(MainWindowTest, TheFirstZoomKeepsTheRatingsInSight) {
     }
 }
 
+// 1920 by 1080 at 200%.
+TEST_F(MainWindowTest, OnALowWindowAnOpenedEntrysLinesComeIntoSight) {
+    startInWindow();
+    window->resize(952, 508);
+    QApplication::processEvents();
+    auto& page = child<QScrollArea>(*window, "RacePage");
+    const auto& lines = child<QWidget>(*window, "PastPerformances");
+    for (const char* entry : {"EntryButton2", "EntryButton3"}) {
+        click(child<QAbstractButton>(*window, entry));
+        QTest::qWait(20);
+        const QRect place{lines.mapTo(page.viewport(), QPoint{}), lines.size()};
+        EXPECT_TRUE(page.viewport()->rect().contains(place)) << entry << " " << place.top();
+        page.verticalScrollBar()->setValue(0);
+    }
+    click(child<QAbstractButton>(*window, "LineButton0"));
+    QTest::qWait(20);
+    EXPECT_EQ(0, page.verticalScrollBar()->value());
+}
+
 // The screen of these tests has 800 by 800 pixels.
 TEST_F(MainWindowTest, NoWindowIsLargerThanTheScreen) {
     const QSize room = window->screen()->availableGeometry().size();
@@ -356,7 +376,7 @@ TEST_F(MainWindowTest, NoWindowIsLargerThanTheScreen) {
     PrintPreview preview{PrintDocument{}};
     for (const QWidget* opened :
          std::initializer_list<QWidget*>{&keys, &guide, &stars, &faults, &viewer, &preview})
-        EXPECT_EQ(opened->size(), opened->size().boundedTo(room - QSize{8, 8}))
+        EXPECT_EQ(opened->size(), opened->size().boundedTo(room - QSize{40, 60}))
             << opened->metaObject()->className();
 }
 
