@@ -79,7 +79,7 @@ bool listIsShown(const Arguments&) {
 
 bool recordIsThere(const Arguments&) { return screen.record.enabled; }
 bool isSelectionOrFinishBox(const Arguments& arguments) { return numberWithin(arguments, 0, 7); }
-bool isToteBox(const Arguments& arguments) { return numberWithin(arguments, 1, 11); }
+bool isToteBox(const Arguments& arguments) { return numberWithin(arguments, ToteBox::first, ToteBox::last); }
 bool isLineButton(const Arguments& arguments) {
     return screen.pastPerformanceOpen && numberWithin(arguments, 0, 13);
 }

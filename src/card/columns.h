@@ -32,7 +32,7 @@ struct DataColumn {
         track,
         distance,
         condition,
-        purse, ///< the first of the columns that stand in a race view in the same order
+        purse, ///< the first of those that a race view has in the same order
         classText,
         classRating,
         leaderQuarter,
@@ -107,6 +107,10 @@ struct RaceColumn {
         last = 39
     };
 };
+
+/// From purse to favourite both views have the same columns in the same order, so many places apart.
+constexpr int dataColumnShift = int{DataColumn::purse} - int{RaceColumn::purse};
+static_assert(dataColumnShift == int{DataColumn::favourite} - int{RaceColumn::favourite});
 
 /// Cells of a race's outcome, program numbers all.
 struct OutcomeCell {

@@ -14,7 +14,6 @@ namespace {
 constexpr int numberedRows = 15; ///< rows of the past-performance view that carry a line's number
 
 // A race view has the columns of a data view from the purse to the favourite's mark, further left.
-constexpr int columnShift = int{DataColumn::purse} - int{RaceColumn::purse};
 
 // The row in the race's data view of the line in this row of the past-performance view; 0 for none.
 double lineInRow(int row) {
@@ -71,7 +70,7 @@ void CommandThree() {
     view(row, RaceColumn::programNumber).text = entry.programNumber;
     view(row, RaceColumn::track).text = lines.text(line, DataColumn::track);
     for (int column = RaceColumn::purse; column <= RaceColumn::favourite; ++column)
-        view(row, column).text = lines.text(line, column + columnShift);
+        view(row, column).text = lines.text(line, column + dataColumnShift);
     view(row, RaceColumn::driver).text = entry.chosenDriver;
     view(row, RaceColumn::udr).text = entry.driverUdr;
     view(row, RaceColumn::rating).text = lines.text(line, DataColumn::rating);

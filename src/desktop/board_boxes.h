@@ -81,15 +81,15 @@ inline constexpr std::array runnerBoxes{
 };
 
 inline constexpr std::array payoffBoxes{
-    PayoffBox{ToteBox::win,        BoardRow::win,   BoardColumn::firstPays,  "Win payoff of the first"},
-    PayoffBox{ToteBox::place1,     BoardRow::place, BoardColumn::firstPays,  "Place payoff of the first"},
-    PayoffBox{ToteBox::show1,      BoardRow::show,  BoardColumn::firstPays,  "Show payoff of the first"},
-    PayoffBox{ToteBox::place2,     BoardRow::place, BoardColumn::secondPays, "Place payoff of the second"},
-    PayoffBox{ToteBox::show2,      BoardRow::show,  BoardColumn::secondPays, "Show payoff of the second"},
-    PayoffBox{ToteBox::show3,      BoardRow::show,  BoardColumn::thirdPays,  "Show payoff of the third"},
-    PayoffBox{ToteBox::exacta,     BoardRow::win,   BoardColumn::exoticPays, "Exacta payoff"},
-    PayoffBox{ToteBox::trifecta,   BoardRow::place, BoardColumn::exoticPays, "Trifecta payoff"},
-    PayoffBox{ToteBox::superfecta, BoardRow::show,  BoardColumn::exoticPays, "Superfecta payoff"},
+    PayoffBox{PayoffCell::win,        BoardRow::win,   BoardColumn::firstPays,  "Win payoff of the first"},
+    PayoffBox{PayoffCell::place1,     BoardRow::place, BoardColumn::firstPays,  "Place payoff of the first"},
+    PayoffBox{PayoffCell::show1,      BoardRow::show,  BoardColumn::firstPays,  "Show payoff of the first"},
+    PayoffBox{PayoffCell::place2,     BoardRow::place, BoardColumn::secondPays, "Place payoff of the second"},
+    PayoffBox{PayoffCell::show2,      BoardRow::show,  BoardColumn::secondPays, "Show payoff of the second"},
+    PayoffBox{PayoffCell::show3,      BoardRow::show,  BoardColumn::thirdPays,  "Show payoff of the third"},
+    PayoffBox{PayoffCell::exacta,     BoardRow::win,   BoardColumn::exoticPays, "Exacta payoff"},
+    PayoffBox{PayoffCell::trifecta,   BoardRow::place, BoardColumn::exoticPays, "Trifecta payoff"},
+    PayoffBox{PayoffCell::superfecta, BoardRow::show,  BoardColumn::exoticPays, "Superfecta payoff"},
 };
 
 inline constexpr std::array rowCaptions{

@@ -140,7 +140,7 @@ void BoardPanel::buildTote() {
     for (const PayoffBox& payoff : payoffBoxes)
         grid_->addWidget(addPayoff(payoff.box, payoff.name), payoff.row, payoff.column);
     addPayoff(ToteBox::deadHeat, deadHeatPlaces.front().name)->hide();
-    addPayoff(ToteBox::dailyDouble, "Daily double")->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    addPayoff(PayoffCell::dailyDouble, "Daily double")->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     for (const RowCaption& caption : rowCaptions) addLabel(tr(caption.text), caption.row, caption.column);
     buildPayoffHeads();
 }
@@ -169,7 +169,7 @@ void BoardPanel::buildWideBoxes() {
         QLineEdit* edit;
         int row;
     };
-    for (const WideBox& wide : {WideBox{"Daily Double:", tote_[ToteBox::dailyDouble], BoardRow::heads},
+    for (const WideBox& wide : {WideBox{"Daily Double:", tote_[PayoffCell::dailyDouble], BoardRow::heads},
                                 WideBox{"Refunds:", refunds_, BoardRow::place}}) {
         addLabel(tr(wide.caption), wide.row, BoardColumn::wide)->setBuddy(wide.edit);
         grid_->addWidget(wide.edit, wide.row + 1, BoardColumn::wide);
@@ -182,7 +182,7 @@ void BoardPanel::buildTabOrder() {
     std::vector<QWidget*> order(boxes_.begin() + firstFinishBox, boxes_.end());
     for (const PayoffBox& payoff : payoffBoxes)
         order.push_back(tote_.at(static_cast<std::size_t>(payoff.box)));
-    order.push_back(tote_[ToteBox::dailyDouble]);
+    order.push_back(tote_[PayoffCell::dailyDouble]);
     order.push_back(tote_[ToteBox::deadHeat]);
     order.push_back(refunds_);
     order.insert(order.end(), boxes_.begin(), boxes_.begin() + firstFinishBox);
@@ -206,7 +206,7 @@ void BoardPanel::lay() {
             ->setFixedWidth(
                 appearance_.pixels(payoff.column == BoardColumn::exoticPays ? exoticTwips : payoffTwips));
     tote_[ToteBox::deadHeat]->setFixedWidth(appearance_.pixels(payoffTwips));
-    for (QLineEdit* wide : {tote_[ToteBox::dailyDouble], refunds_})
+    for (QLineEdit* wide : {tote_[PayoffCell::dailyDouble], refunds_})
         wide->setMinimumWidth(appearance_.pixels(wideTwips));
 }
 
@@ -266,7 +266,7 @@ void BoardPanel::refresh() {
     tint();
     refreshStanding();
     heading_->setText(shown(theScreen.tote[ToteBox::heading]));
-    for (std::size_t box = ToteBox::win; box < tote_.size(); ++box) put(*tote_[box], theScreen.tote[box]);
+    for (std::size_t box = ToteBox::first; box < tote_.size(); ++box) put(*tote_[box], theScreen.tote[box]);
     for (std::size_t i = 0; i < finishLabels_.size(); ++i)
         finishLabels_[i]->setText(shown(theScreen.finishLabels[i]));
     put(*refunds_, theScreen.refunds);

@@ -14,7 +14,6 @@ namespace quillon {
 namespace {
 
 constexpr int boxCount = 8;
-constexpr int lastToteBox = 11;
 constexpr int normalisedRaces = 25;
 
 constexpr int deadHeat = 2; ///< "1st" or "2nd" lines that make one
@@ -143,7 +142,7 @@ void DeadHeat() {
 void TypeBox(int box, const Text& text) { setBox(box, text); }
 
 void TypeTote(int box, const Text& text) {
-    if (box < 1 || box > lastToteBox) fail("there is no payoff box " + std::to_string(box));
+    if (box < ToteBox::first || box > ToteBox::last) fail("there is no payoff box " + std::to_string(box));
     screen.tote.at(box) = text;
 }
 

@@ -12,22 +12,13 @@
 
 namespace quillon {
 
-/// Boxes of the "Tote Board"; those of payoffs but the dead heat's have the number of their cell.
+/// Boxes of the "Tote Board", from win to daily double by the numbers of their payoff cells. Two are no cells.
 struct ToteBox {
     enum Number {
         heading,
-        win,
-        place1,
-        show1,
-        place2,
-        show2,
-        show3,
-        exacta,
-        trifecta,
-        superfecta,
-        deadHeat,
-        dailyDouble,
-        count
+        first = PayoffCell::win,
+        deadHeat = PayoffCell::refunds, ///< the number alone: the refunds have a box of their own
+        last = PayoffCell::dailyDouble
     };
 };
 

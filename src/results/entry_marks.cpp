@@ -16,7 +16,6 @@ namespace {
 
 constexpr TextView removedCaption = "X"; // of the button, which stands in the entry's Track from then on
 constexpr TextView lastOfAll = "99.9";
-constexpr int shiftToLines = int{DataColumn::purse} - int{RaceColumn::purse};
 
 constexpr std::array placeCells{OutcomeCell::s1, OutcomeCell::s2, OutcomeCell::s3, OutcomeCell::s4,
                                 OutcomeCell::fifth};
@@ -80,7 +79,7 @@ void markTyped(EntryMarks& marks, int race, int row) {
     if (taken > 0) {
         const Grid& lines = dataViewOf(race);
         for (int column = RaceColumn::classText; column <= RaceColumn::favourite; ++column)
-            compare(marks.typedColumns, view.text(row, column), lines.text(taken, column + shiftToLines),
+            compare(marks.typedColumns, view.text(row, column), lines.text(taken, column + dataColumnShift),
                     column);
         return;
     }

@@ -369,7 +369,7 @@ TEST_F(LineFactorsTest, AFavouriteInItsLatestRaceIsCreditedOnEveryLine) {
     }
 }
 
-// WPS ---
+// ---- WPS ----
 
 TEST_F(LineFactorsTest, TheFirstFourAreCredited) {
     const struct {

@@ -37,6 +37,16 @@ protected:
         return filled;
     }
 
+    // A text of another day or track: a beep, what is wrong, and the card beside the text.
+    void expectStopped(const std::string& told, const char* what) const {
+        ASSERT_EQ(3U, shown.size()) << what;
+        EXPECT_EQ("beep", shown[0]);
+        EXPECT_EQ("message: Active File and Results File do not match!  Record Results cannot continue! "
+                  "Check TRC file for correct date and track.",
+                  shown[1]);
+        EXPECT_EQ("message: " + told, shown[2]) << what;
+    }
+
     static void clearResults() {
         card.raceOutcome.clear();
         card.payoffRecord.clear();
