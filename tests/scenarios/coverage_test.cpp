@@ -1,4 +1,4 @@
-// Each command of the system is used in a scenario.
+// Each command of the system is used in a scenario, told of in the manual page and known to the fuzzer.
 #include "app/commands.h"
 
 #include <gtest/gtest.h>
@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <set>
+#include <sstream>
 #include <string>
 
 namespace quillon {
@@ -25,6 +26,31 @@ std::set<std::string> namesInScripts() {
             names.insert(line.substr(0, std::min(line.find_first_of(" \r"), line.size())));
     }
     return names;
+}
+
+// The words of all lines of a file that begin so, without quotes.
+std::set<std::string> wordsOf(const fs::path& file, const std::string& beginning) {
+    std::set<std::string> words;
+    std::ifstream text{file, std::ios::binary};
+    for (std::string line; std::getline(text, line);) {
+        if (!line.starts_with(beginning)) continue;
+        std::erase(line, '"');
+        std::istringstream rest{line};
+        for (std::string word; rest >> word;) words.insert(word);
+    }
+    return words;
+}
+
+TEST(ManualPage, TellsOfEachCommand) {
+    const auto words = wordsOf(MANUAL_PAGE, ".It Ic");
+    for (const Command& command : commandTable())
+        EXPECT_TRUE(words.count(command.name) > 0) << command.name << " is not in " << MANUAL_PAGE;
+}
+
+TEST(FuzzWords, HaveEachCommand) {
+    const auto words = wordsOf(FUZZ_WORDS, "\"");
+    for (const Command& command : commandTable())
+        EXPECT_TRUE(words.count(command.name) > 0) << command.name << " is not in " << FUZZ_WORDS;
 }
 
 TEST(Scenarios, UseEachCommand) {
