@@ -303,6 +303,7 @@ void ShowLineTable() {
 
 void GetTextboxData2() {
     const Step step{"GetTextboxData2"};
+    static_assert(DataColumn::count <= lineCellColumns);
     std::array<TextView, lineCellColumns> cells;
     for (int column = DataColumn::date; column < DataColumn::count; ++column)
         cells[static_cast<std::size_t>(column)] = cell(column);

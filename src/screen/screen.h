@@ -2,6 +2,7 @@
 // it and send back commands with an index.
 #pragma once
 
+#include "card/columns.h"
 #include "core/numbers.h"
 #include "core/table.h"
 #include "core/text.h"
@@ -158,9 +159,9 @@ constexpr int raceViews = 24;
 constexpr int lineTableView = 24;
 constexpr int pastPerformanceView = 25;
 constexpr int dataViewRows = 200;
-constexpr int dataViewColumns = 40;
+constexpr int dataViewColumns = DataColumn::count;
 constexpr int raceViewRows = 21; ///< the head and an entry a row
-constexpr int raceViewColumns = 40;
+constexpr int raceViewColumns = RaceColumn::last + 1;
 
 constexpr int boardRaces = 31; ///< as many as the store has races
 
