@@ -5,6 +5,8 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
 #include <QVBoxLayout>
 #include <QWidget>
 
@@ -26,6 +28,7 @@ struct Notice {
     std::vector<NoticeAction> actions{};
 };
 
+/// The newest line stands first. A few are in sight, the others are scrolled to.
 class NoticeBar : public QWidget {
     Q_OBJECT
 
@@ -35,6 +38,9 @@ public:
     void put(const Notice& notice);
     void take(const QString& key);
     QString textOf(const QString& key) const; ///< empty where there is none
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     struct Line {
@@ -47,11 +53,15 @@ private:
     void addLine(const QString& key);
     void setActions(const Line& line, const std::vector<NoticeAction>& actions);
     Line* find(const QString& key);
+    void takeAllRead();
     void lay();
+    void holdHeight();
 
     Appearance& appearance_;
-    QVBoxLayout* column_;
-    std::vector<Line> lines_;
+    QScrollArea* scroll_;
+    QVBoxLayout* column_; ///< of the lines
+    QPushButton* all_;
+    std::vector<Line> lines_; ///< the newest last
 };
 
 } // namespace quillon
