@@ -169,13 +169,14 @@ TEST_F(FailedWritesTest, ManyLinesLeaveTheRaceInSightAndAreReadAtOnce) {
     window->resize(1083, 747);
     const ReadOnly folder{fs::current_path()};
     click(child<QAbstractButton>(*window, "Start"));
-    QTest::qWait(50);
+    QApplication::processEvents();
     const auto lines = bar().findChildren<QWidget*>("Notice");
     ASSERT_GT(lines.size(), 4);
     EXPECT_EQ(747, window->height());
     EXPECT_LT(bar().height(), 150);
-    EXPECT_FALSE(lines.back()->visibleRegion().isEmpty()); // the newest
-    EXPECT_TRUE(lines.front()->visibleRegion().isEmpty());
+    const auto isInSight = [](const QWidget* line) { return !line->visibleRegion().isEmpty(); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isInSight(lines.back()) && !isInSight(lines.front()); }))
+        << "the newest stands first";
     auto& all = child<QAbstractButton>(*window, "NoticeCloseAll");
     EXPECT_EQ("OK to All " + std::to_string(lines.size()), all.text().toStdString());
     click(all);
