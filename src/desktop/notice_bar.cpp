@@ -122,7 +122,7 @@ void NoticeBar::take(const QString& key) {
 void NoticeBar::takeAllRead() {
     std::vector<QString> read;
     for (const Line& line : lines_)
-        if (line.action->text().isEmpty()) read.push_back(line.key);
+        if (line.buttons->isEmpty()) read.push_back(line.key);
     for (const QString& key : read) take(key);
 }
 
