@@ -195,6 +195,7 @@ void Profile2() {
     const auto cards = std::make_shared<CardRows>();
     if (!scanArchive(TrackFilter{upperCase(filter)}, totals, *cards)) return clearProfile();
     fillProfile(totals, cards);
+    screen.profileTracks = upperCase(filter);
     showAnalysisView(&Screen::profileVisible);
     screen.item(CommandId::Print2).visible = true;
 }

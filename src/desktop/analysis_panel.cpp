@@ -70,6 +70,10 @@ constexpr std::array pageRows{
 
 QString headingOf(const PageRow& page) {
     const QString title = page.command ? captionOf(*page.command) : AnalysisPanel::tr(page.title);
+    if (page.visible == &Screen::profileVisible) {
+        const QString tracks = shown(theScreen.profileTracks);
+        return title + "     " + (tracks == "ALL" ? captionOf(CommandId::ALL) : tracks);
+    }
     return page.ofThisCard ? title + "     " + shown(theScreen.caption).simplified() : title;
 }
 

@@ -251,6 +251,7 @@ struct Screen {
     Text driverChoice{}; ///< the line picked in it
     ChoiceList raceList{};
     Text profileFilter{}; ///< tracks of the betting profile that is asked for
+    Text profileTracks{}; ///< of the one that is shown: a track, a size, or ALL
     ChoiceList marginList{};
     ChoiceList oddsList{};
     ChoiceList maxOddsList{};

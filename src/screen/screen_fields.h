@@ -86,6 +86,7 @@ inline constexpr std::tuple screenFields{
     Field{"driverChoice", &Screen::driverChoice},
     Field{"raceList", &Screen::raceList},
     Field{"profileFilter", &Screen::profileFilter},
+    Field{"profileTracks", &Screen::profileTracks},
     Field{"marginList", &Screen::marginList},
     Field{"oddsList", &Screen::oddsList},
     Field{"maxOddsList", &Screen::maxOddsList},

@@ -161,7 +161,7 @@ TEST_F(ProfilePageTest, ShowsTheCellsAndTheirHeads) {
     expectShows(view, screen.profile);
     EXPECT_EQ(12, view.model()->rowCount()); // ten rows of totals and two cards
     EXPECT_EQ("Win", view.model()->headerData(6, Qt::Horizontal, Qt::DisplayRole).toString());
-    EXPECT_EQ("Betting Profiles", heading());
+    EXPECT_EQ("Betting Profiles     All Tracks", heading());
 }
 
 TEST_F(ProfilePageTest, WinningCardsAreBoldAndNumbersStandAtTheRight) {
@@ -178,6 +178,7 @@ TEST_F(ProfilePageTest, TheFiltersAreButtons) {
         EXPECT_EQ(QString{findCommand(command)->item.caption}, button(command).text());
     }
     click(button("HALF"));
+    EXPECT_EQ("Betting Profiles     1/2", heading());
     EXPECT_EQ("1 Race Cards", at(table("ProfileTable"), 8, 0));
     EXPECT_EQ("   YR_20260315", at(table("ProfileTable"), 10, 0));
     click(button("MILE"));
@@ -192,6 +193,8 @@ TEST_F(ProfilePageTest, TheFiltersAreButtons) {
     EXPECT_EQ("2 Race Cards", at(table("ProfileTable"), 8, 0));
     click(button("Select"));
     EXPECT_TRUE(screen.trackList.visible);
+    runner.run(CommandId::SelectTrack, textArgument("M1"));
+    EXPECT_EQ("Betting Profiles     M1", heading());
 }
 
 TEST_F(ProfilePageTest, PrintWritesTheReport) {
