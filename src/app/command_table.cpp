@@ -141,7 +141,7 @@ constexpr std::array commands{
     Command{Id::PrintCondensedProgram, "PrintCondensedProgram", run<PrintCondensedProgram>, keepsCard,
         {Menu::file, 'o', "Ctrl+P", "Print Condensed Program", "Print the condensed program, a page a race"}},
     Command{Id::Exit_QL, "Exit_QL", run<Exit_QL>, keepsCard,
-        {Menu::file, 'x', "Ctrl+Q", "Exit", "End Quillon without a question"}},
+        {Menu::file, 'x', "Ctrl+Q", "Exit", "End Quillon; asks only where something is not saved"}},
     Command{Id::CloseWindow, "CloseWindow", run<CloseWindow>, keepsCard},
 
     // Changes, and the way back

@@ -33,14 +33,22 @@ namespace {
 
 constexpr const char* results = "A Quillon PRO/Results/MVR_20260314.pmr";
 
-void layOutSample() {
-    const std::filesystem::path samples{SAMPLE_FOLDER};
-    std::filesystem::copy(samples / "A Quillon PRO", "A Quillon PRO",
-                          std::filesystem::copy_options::recursive);
+const std::filesystem::path samples{SAMPLE_FOLDER};
+
+// Before the start, as a folder in use has them.
+void layOutSettings() {
     for (const char* settings : {"TrackEditor.ini", "CrossOver.ini", "Webpage.ini"})
         std::filesystem::copy(samples / settings, settings);
+}
+
+void layOutSample() {
+    std::filesystem::copy(samples / "A Quillon PRO", "A Quillon PRO",
+                          std::filesystem::copy_options::recursive);
     std::filesystem::create_directories("A Quillon PRO/Results");
 }
+
+// For the journal: a file that is gone when it is wanted.
+void loseAddresses() { std::filesystem::remove("Webpage.ini"); }
 
 // As a user does it: after what the scratch wrote.
 void pasteResults() {
@@ -112,7 +120,7 @@ public:
         run(CommandId::MarginChoice, textArgument("ALL Margins"));
         run(CommandId::OddsChoice, textArgument("ALL Odds"));
         run(CommandId::MaxOddsChoice, textArgument("ALL Odds"));
-        takeOf(*window_.findChild<StarsWindow*>(), "stars");
+        takeOf(*window_.findChild<StarsWindow*>(), "stars", {950, 573});
         run(CommandId::MainScreen);
         run(CommandId::HeatWinner);
         take("heat");
@@ -120,8 +128,10 @@ public:
         run(CommandId::CloseRC);
         run(CommandId::RecallRaceCard);
         take("recall");
+        loseAddresses();
+        run(CommandId::Reset);
         show("FaultJournal");
-        takeOf(*window_.findChild<FaultJournalDialog*>(), "fault-journal");
+        takeOf(*window_.findChild<FaultJournalDialog*>(), "fault-journal", {800, 467});
     }
 
     bool failed() const { return failed_; }
@@ -161,7 +171,9 @@ private:
         dialog.render(&painter, body.topLeft());
     }
 
-    void takeOf(QWidget& widget, const char* name) {
+    // As on a screen with room for it.
+    void takeOf(QWidget& widget, const char* name, QSize size) {
+        widget.resize(size);
         QTest::qWait(50);
         keep(widget.grab(), name);
     }
@@ -188,6 +200,7 @@ int takePictures(const QStringList& arguments) {
     const QString folder = QDir{arguments[1]}.absolutePath();
     QTemporaryDir work;
     QDir::setCurrent(work.path());
+    layOutSettings();
     StartUp();
     Pictures pictures{folder,
                       {arguments[2].toInt(), arguments[3].toInt()},
