@@ -266,7 +266,7 @@ constexpr std::array commands{
         {.caption = "Odds", .hint = "Morning line of the first selection"},
         Takes::text, "TEXT", listIsShown<&Screen::oddsList>},
     Command{Id::MaxOddsChoice, "MaxOddsChoice", run<MaxOddsChoice>, keepsCard,
-        {.caption = "Max Odds", .hint = "The last pick: it fills the table and the fields"},
+        {.caption = "Max Odds", .hint = "The last pick, whichever it is: it fills the table and the fields"},
         Takes::text, "TEXT", listIsShown<&Screen::maxOddsList>},
     Command{Id::Track_Profile, "Track_Profile", run<Track_Profile>, keepsCard,
         {Menu::analysis, 'r', "", "Tracks Profile", "Wins of the first selections by track and by track size"}},
