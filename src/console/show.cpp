@@ -1,6 +1,7 @@
 #include "console/show.h"
 
 #include "console/show_store.h"
+#include "console/show_why.h"
 #include "console/words.h"
 #include "core/journal.h"
 #include "day/changes.h"
@@ -239,6 +240,8 @@ void show(TextView part, std::span<const Command> commands, Transcript& transcri
     if (part == "menu") return showMenu(commands, transcript);
     for (const Part& row : parts)
         if (row.name == part) return row.print(transcript);
+
+    if (showWhy(part, transcript)) return;
 
     std::optional<TextView> rest = part;
     if (takeWord(rest) == "colours")

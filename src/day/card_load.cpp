@@ -252,25 +252,6 @@ void LoadLine() {
     ShowRaceButton();
 }
 
-void LoadLines() {
-    const Step step{"LoadLines"};
-    load.lastRowOfHorse.clear();
-    load.daysFromCard = 0;
-    IndexHorses();
-    TakeCardDay();
-    cursor = {};
-    cursor.row = 1;
-    attempt([] { cursor.entry = entryIndex(load.horse.PP); });
-    TableCursor& rows = load.lineRows;
-    for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
-        ReadSourceLine();
-        attempt(LoadLine);
-        attempt([] { countUp(cursor.row); });
-        attempt([] { countUp(cursor.line); });
-    }
-    while (load.raceRows.row() < load.raceRows.rowCount()) BeginRace();
-}
-
 // Heads the first race's view with the first horse before any line is read.
 void ShowFirstHorse() {
     const Step step{"ShowFirstHorse"};
@@ -300,6 +281,25 @@ void ShowLineTable() {
 }
 
 } // namespace
+
+void LoadLines() {
+    const Step step{"LoadLines"};
+    load.lastRowOfHorse.clear();
+    load.daysFromCard = 0;
+    IndexHorses();
+    TakeCardDay();
+    cursor = {};
+    cursor.row = 1;
+    attempt([] { cursor.entry = entryIndex(load.horse.PP); });
+    TableCursor& rows = load.lineRows;
+    for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
+        ReadSourceLine();
+        attempt(LoadLine);
+        attempt([] { countUp(cursor.row); });
+        attempt([] { countUp(cursor.line); });
+    }
+    while (load.raceRows.row() < load.raceRows.rowCount()) BeginRace();
+}
 
 void GetTextboxData2() {
     const Step step{"GetTextboxData2"};

@@ -9,6 +9,10 @@ namespace quillon {
 /// card ("View Races") it reads no table and changes nothing.
 void Start();
 
+/// Takes and rates every row of the running-line table, from the first on, with the horses and races that they
+/// belong to. Runs after FrameCard() and ReadEntries(). Resumes at failures.
+void LoadLines();
+
 /// A new entry begins with the running line at work: its horse, and its race where that is a new one, become
 /// current. Reads `load.line`; moves the horse and race cursors. Resumes at failures.
 void ChangeHorseName();

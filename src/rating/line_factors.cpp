@@ -5,6 +5,8 @@
 #include "core/formats.h"
 #include "rating/course_factors.h"
 #include "rating/diagnostic_log.h"
+#include "rating/line_reasons.h"
+#include "rating/line_road.h"
 #include "rating/line_value.h"
 #include "screen/screen.h"
 #include "tables/load_state.h"
@@ -55,12 +57,13 @@ struct Call {
     Text LineCursor::*park;
     double leadCredit;
     bool third;
+    TextView name;
 };
 
 constexpr std::array calls{
-    Call{&LineCursor::firstCall, &LineCursor::firstPark, 0.2, false},
-    Call{&LineCursor::secondCall, &LineCursor::secondPark, 0.2, false},
-    Call{&LineCursor::thirdCall, &LineCursor::thirdPark, 0.4, true},
+    Call{&LineCursor::firstCall, &LineCursor::firstPark, 0.2, false, "at the quarter"},
+    Call{&LineCursor::secondCall, &LineCursor::secondPark, 0.2, false, "at the half"},
+    Call{&LineCursor::thirdCall, &LineCursor::thirdPark, 0.4, true, "at the three quarters"},
 };
 
 constexpr double qualifierCredit = 3.0;
@@ -68,9 +71,9 @@ constexpr double favouriteCredit = 3.0;
 
 constexpr std::array finishCredits{4.0, 3.0, 2.0, 1.0}; // by finish, from the winner on
 
-bool isQualifier() { return contains(load.line.CLASS, "QU"); }
-
 } // namespace
+
+bool isQualifier() { return contains(load.line.CLASS, "QU"); }
 
 // The time from the leader's third call to the horse's finish, and what its final time, taken twice, has
 // above 70.
@@ -96,14 +99,17 @@ void LastQuarterCalc() {
         horse = lenientNumber(cursor.horseFinal);
         if (horse < 20) horse += 60; // two minutes or more
     }
-    const double lastPart = horse - lenientNumber(cursor.leaderFinal);
+    const double leader = lenientNumber(cursor.leaderFinal);
+    noteTerm(horse);
+    noteTerm(leader);
+    const double lastPart = horse - leader;
     cursor.lineValue = numberText(lastPart + horse - (70 - horse));
 }
 
 void LeadHorse() {
     const Step step{"LeadHorse"};
     for (const Call& call : calls)
-        if (lenientNumber(cursor.*call.position) == 1 && !addToLineValue(-call.leadCredit)) return;
+        if (lenientNumber(cursor.*call.position) == 1 && !addToLineValue(-call.leadCredit, call.name)) return;
 }
 
 void ParkOuts() {
@@ -111,14 +117,15 @@ void ParkOuts() {
     const ParkCredits* credits = parkCreditsOf(cursor.lineSize);
     if (credits == nullptr) return;
     for (const Call& call : calls)
-        if (isParked(cursor.*call.park) && !addToLineValue(-credits->parked)) return;
+        if (isParked(cursor.*call.park) && !addToLineValue(-credits->parked, call.name)) return;
 }
 
 void ParkOutsWind() {
     const Step step{"ParkOutsWind"};
     for (const Call& call : calls) {
         const bool onLeadOrSecond = lenientNumber(cursor.*call.position) <= 2;
-        if (onLeadOrSecond && isParked(cursor.*call.park) && !addToLineValue(-call.leadCredit)) return;
+        if (onLeadOrSecond && isParked(cursor.*call.park) && !addToLineValue(-call.leadCredit, call.name))
+            return;
     }
 }
 
@@ -128,7 +135,7 @@ void ParkOutsDouble() {
     if (credits == nullptr) return;
     for (const Call& call : calls) {
         const double credit = call.third ? credits->twoWideAtTheThird : credits->twoWide;
-        if (isParkedTwoWide(cursor.*call.park) && !addToLineValue(-credit)) return;
+        if (isParkedTwoWide(cursor.*call.park) && !addToLineValue(-credit, call.name)) return;
     }
 }
 
@@ -251,6 +258,7 @@ void CloseLine() {
     if (lenientNumber(load.line.DIST_MILES) < 1) cursor.lineValue = "***";
     const Text rating = closedRating(cursor.lineValue);
     if (diagnosticLogIsOn()) endLogLine(rating);
+    if (roadRecorder) roadRecorder->noteRating(rating);
     if (cursor.race >= 1 && cursor.race <= ratedRaces) {
         Grid& view = screen.dataView[static_cast<std::size_t>(cursor.race)];
         attempt([&] { view(cursor.row, DataColumn::rating).text = rating; });
@@ -295,35 +303,37 @@ struct LineStep {
     void (*run)();
     Form after;
     Log log;
+    TextView name; ///< on the road that a user sees; none of a step that is not there
+    Text (*why)(const RoadStep&) = nullptr; ///< what it did there
 };
 
 // clang-format off
 
 // A line's road to its rating.
 constexpr std::array roadOfALine{
-    //       form before       step              form after        in the log
-    LineStep{Form::asItStands, StartLine,        Form::asItStands, Log::nothing},
-    LineStep{Form::asItStands, LastQuarterCalc,  Form::wide,       Log::firstFigure}, // LQC
-    LineStep{Form::asItStands, NumberFirstLine,  Form::asItStands, Log::nothing},
-    LineStep{Form::asItStands, RangeTest,        Form::narrow,     Log::nothing},
-    LineStep{Form::asItStands, Tracks,           Form::asItStands, Log::nothing},
-    LineStep{Form::asItStands, LengthOfStretch,  Form::narrow,     Log::nothing},
-    LineStep{Form::asItStands, TakeLineSize,     Form::asItStands, Log::nothing},
-    LineStep{Form::asItStands, PostPosition,     Form::asItStands, Log::nothing},
-    LineStep{Form::asItStands, LatePost,         Form::wide,       Log::figure},      // POST
-    LineStep{Form::narrow,     LeadHorse,        Form::wide,       Log::figure},      // LH
-    LineStep{Form::narrow,     ParkOuts,         Form::wide,       Log::figure},      // PO
-    LineStep{Form::narrow,     ParkOutsWind,     Form::wide,       Log::figure},      // POW
-    LineStep{Form::narrow,     ParkOutsDouble,   Form::wide,       Log::figure},      // POD
-    LineStep{Form::narrow,     LengthsGained,    Form::narrow,     Log::nothing},
-    LineStep{Form::asItStands, FindEntry,        Form::asItStands, Log::nothing},
-    LineStep{Form::asItStands, QualifierCredit,  Form::wide,       Log::figure},      // QU
-    LineStep{Form::asItStands, ClassChange,      Form::wide,       Log::figure},      // CL
-    LineStep{Form::asItStands, FavouriteCredit,  Form::wide,       Log::figure},      // FAV
-    LineStep{Form::asItStands, DriverRating,     Form::narrow,     Log::nothing},
-    LineStep{Form::asItStands, StoreLine,        Form::asItStands, Log::nothing},
-    LineStep{Form::asItStands, WPS,              Form::wide,       Log::figure},      // WPS
-    LineStep{Form::narrow,     CloseLine,        Form::asItStands, Log::nothing},     // and the rating
+    //       form before       step             form after        in the log        on the road        and why
+    LineStep{Form::asItStands, StartLine,       Form::asItStands, Log::nothing,     {}},
+    LineStep{Form::asItStands, LastQuarterCalc, Form::wide,       Log::firstFigure, "LastQuarterCalc", whyLastQuarter},      // LQC
+    LineStep{Form::asItStands, NumberFirstLine, Form::asItStands, Log::nothing,     {}},
+    LineStep{Form::asItStands, RangeTest,       Form::narrow,     Log::nothing,     "RangeTest",       whyRange},
+    LineStep{Form::asItStands, Tracks,          Form::asItStands, Log::nothing,     "Tracks",          whyCourse},
+    LineStep{Form::asItStands, LengthOfStretch, Form::narrow,     Log::nothing,     "LengthOfStretch", whyNothingYet},
+    LineStep{Form::asItStands, TakeLineSize,    Form::asItStands, Log::nothing,     {}},
+    LineStep{Form::asItStands, PostPosition,    Form::asItStands, Log::nothing,     "PostPosition",    whyPost},
+    LineStep{Form::asItStands, LatePost,        Form::wide,       Log::figure,      "Last_PP",         whyLatePost},         // POST
+    LineStep{Form::narrow,     LeadHorse,       Form::wide,       Log::figure,      "LeadHorse",       whyLead},             // LH
+    LineStep{Form::narrow,     ParkOuts,        Form::wide,       Log::figure,      "ParkOuts",        whyParked},           // PO
+    LineStep{Form::narrow,     ParkOutsWind,    Form::wide,       Log::figure,      "ParkOutsWind",    whyParkedInTheWind},  // POW
+    LineStep{Form::narrow,     ParkOutsDouble,  Form::wide,       Log::figure,      "ParkOutsDouble",  whyParkedTwoWide},    // POD
+    LineStep{Form::narrow,     LengthsGained,   Form::narrow,     Log::nothing,     "LengthsGained",   whyNothingYet},
+    LineStep{Form::asItStands, FindEntry,       Form::asItStands, Log::nothing,     {}},
+    LineStep{Form::asItStands, QualifierCredit, Form::wide,       Log::figure,      "QualifierCredit", whyQualifier},        // QU
+    LineStep{Form::asItStands, ClassChange,     Form::wide,       Log::figure,      "ClassChange",     whyClass},            // CL
+    LineStep{Form::asItStands, FavouriteCredit, Form::wide,       Log::figure,      "FavouriteCredit", whyFavourite},        // FAV
+    LineStep{Form::asItStands, DriverRating,    Form::narrow,     Log::nothing,     "DriverRating",    whyNothingYet},
+    LineStep{Form::asItStands, StoreLine,       Form::asItStands, Log::nothing,     {}},
+    LineStep{Form::asItStands, WPS,             Form::wide,       Log::figure,      "WPS",             whyFinish},           // WPS
+    LineStep{Form::narrow,     CloseLine,       Form::asItStands, Log::nothing,     "CloseLine",       whyRating},           // and the rating
 };
 
 // clang-format on
@@ -333,12 +343,15 @@ constexpr std::array roadOfALine{
 void RateLine() {
     const Step outer{"RateLine"};
     const bool logged = diagnosticLogIsOn();
+    const bool recorded = roadRecorder && roadRecorder->beginsLine();
     for (const LineStep& step : roadOfALine) {
         attempt([&] { putLineValueIn(step.before); });
         attempt(step.run);
         attempt([&] { putLineValueIn(step.after); });
         if (logged) logLineValue(step.log);
+        if (recorded && step.why) roadRecorder->noteStep(step.name, step.why);
     }
+    if (recorded) roadRecorder->endLine();
 }
 
 } // namespace quillon

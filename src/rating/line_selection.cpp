@@ -6,6 +6,7 @@
 #include "core/formats.h"
 #include "rating/race_ranking.h"
 #include "rating/rating_display.h"
+#include "rating/search_notes.h"
 #include "screen/race_views.h"
 #include "tables/load_state.h"
 
@@ -31,6 +32,7 @@ struct LineSearch {
     double bestValue = aboveAllRatings;
     int found = 0; ///< best slot that the search has met
     int chosenSlot = 0;
+    SearchNotes* notes = nullptr; ///< for a user who asks why
 
     RaceEntry& shared() const { return card.entry[{race, entry}]; }
     const PastLine& line(int slot) const { return card.pastLine.read(race, entry, slot); }
@@ -53,18 +55,37 @@ void takeLine(LineSearch& search, int slot) {
     if (lenientNumber(chosen.CR) <= 0) chosen.CR = "QUA";
 }
 
+// "59.9"
+Text ratedText(const LineSearch& search, int slot) {
+    const TextView rating = trimmed(search.line(slot).rating);
+    return rating.empty() ? Text{"no rating"} : Text{rating};
+}
+
+// "59.9 of line 2"
+Text lineText(const LineSearch& search, int slot) {
+    return ratedText(search, slot) + " of line " + std::to_string(slot);
+}
+
 // An entry with no line in the window still counts its latest, and a latest line without a real last quarter
 // brings in the next older one.
 void admitOlderLines(const LineSearch& search) {
     Integer& window = search.window();
-    if (window <= 0 && search.rating(1) > 0) window = 1;
-    if (window == 1 && lenientNumber(search.line(1).HRSE_TM_4Q) <= noRealLastQuarter && search.rating(2) > 0)
+    if (window <= 0 && search.rating(1) > 0) {
+        window = 1;
+        if (search.notes) search.notes->widen("none is of the last 33 days, so the latest counts");
+    }
+    if (window == 1 && lenientNumber(search.line(1).HRSE_TM_4Q) <= noRealLastQuarter &&
+        search.rating(2) > 0) {
         window = 2;
+        if (search.notes) search.notes->widen("the latest has no real last quarter, so line 2 counts too");
+    }
 }
 
 // Where the next older line has no rating, only a last quarter of exactly this text brings it in.
 void admitUnratedLine(const LineSearch& search) {
-    if (search.line(1).HRSE_TM_4Q == "9.9" && search.window() == 1) ++search.window();
+    if (search.line(1).HRSE_TM_4Q != "9.9" || search.window() != 1) return;
+    ++search.window();
+    if (search.notes) search.notes->widen("the latest has no real last quarter, so line 2 counts too");
 }
 
 void tidyRating(Text& rating) { rating = formatted("##.0", "@@@@@", trimmed(rating)); }
@@ -97,31 +118,80 @@ int slotByCount(const LineSearch& search) {
     }
 }
 
+// The line that the count decided on, against the others that count.
+void noteByCount(const LineSearch& search, int chosen) {
+    if (!search.notes) return;
+    const int lines = search.window();
+    for (int slot = 1; slot <= lines; ++slot)
+        if (slot != chosen)
+            search.notes->passOver(slot,
+                                   ratedText(search, slot) + ", not below the " + lineText(search, chosen));
+    search.notes->choose(chosen, lines == 1 ? ratedText(search, chosen) + ", the only line that counts"
+                                            : ratedText(search, chosen) + ", the lowest of the " +
+                                                  std::to_string(lines) + " lines that count");
+}
+
 // An also-eligible gets its post for a program number, and its lines are not searched in this pass.
 bool losesAlsoEligibleMark(const LineSearch& search) {
     TextCell& programNumber = search.shared().programNumber;
     if (!contains(programNumber, alsoEligible)) return false;
     programNumber = aligned("@@@", std::to_string(search.entry));
+    if (search.notes) search.notes->skip("an also-eligible's lines are not searched");
     return true;
+}
+
+bool isNeverSearched(const LineSearch& search) {
+    if (search.shared().morningOdds.text() != searchesNoLine) return false;
+    if (search.notes) search.notes->skip("at a morning line of 0/1 no line is searched");
+    return true;
+}
+
+// What the search has against a line.
+enum class Against { nothing, noCalls, tooLow, notBetter };
+
+Against against(const LineSearch& search, int slot) {
+    const double rating = search.rating(slot);
+    if (lenientNumber(search.line(slot).POST) <= 0) return Against::noCalls;
+    if (rating <= leastSearched) return Against::tooLow;
+    return rating < search.bestValue ? Against::nothing : Against::notBetter;
+}
+
+void notePassedOver(const LineSearch& search, Against what) {
+    const int slot = search.position;
+    if (!search.notes || slot == 0) return;
+    const Text rated = ratedText(search, slot);
+    if (what == Against::noCalls) search.notes->passOver(slot, rated + ", but it has no calls");
+    if (what == Against::tooLow) search.notes->passOver(slot, rated + ": 40 and less is not searched");
+    if (what == Against::notBetter)
+        search.notes->passOver(slot, rated + ", not below the " +
+                                         (search.found > 0 ? lineText(search, search.found) : Text{"100"}));
+}
+
+// The best so far, in place of the one before.
+void noteFound(const LineSearch& search, int slot, int before) {
+    if (!search.notes) return;
+    if (before > 0)
+        search.notes->passOver(before,
+                               ratedText(search, before) + ", not below the " + lineText(search, slot));
+    search.notes->choose(slot, ratedText(search, slot) + ", the lowest of the lines searched");
 }
 
 // Of equal ratings the more recent line stays.
 void considerLine(LineSearch& search) {
     const int slot = search.position;
-    const bool better = holdsOrFails([&] {
-        const double rating = search.rating(slot);
-        return lenientNumber(search.line(slot).POST) > 0 && rating > leastSearched &&
-               rating < search.bestValue;
-    });
-    if (!better) return;
+    Against what = Against::nothing;
+    attempt([&] { what = against(search, slot); });
+    if (what != Against::nothing) return notePassedOver(search, what);
+    const int before = search.found;
     attempt([&] { search.bestValue = search.rating(slot); });
     search.found = slot;
     takeLine(search, slot);
+    attempt([&] { noteFound(search, slot, before); });
 }
 
 // One pass of the search at its position. True when the next one follows at once.
 bool searchesOn(LineSearch& search) {
-    if (losesAlsoEligibleMark(search) || search.shared().morningOdds.text() == searchesNoLine) return false;
+    if (losesAlsoEligibleMark(search) || isNeverSearched(search)) return false;
     considerLine(search);
     return ++search.position <= search.limit;
 }
@@ -142,13 +212,28 @@ bool isNoStarter(const LineSearch& search) {
     return entry.horseName.empty() || contains(entry.programNumber, alsoEligible);
 }
 
+// The latest line stands, whatever the search found.
+void noteLatest(const LineSearch& search) {
+    if (!search.notes) return;
+    if (search.found > 1)
+        search.notes->passOver(search.found, ratedText(search, search.found) +
+                                                 ", the lowest, but with no line after those searched "
+                                                 "the latest stands");
+    search.notes->choose(1, ratedText(search, 1) +
+                                (search.found > 0 ? ", the latest: no line comes after those searched"
+                                                  : ", the latest: no line up to 50 days back will do"));
+}
+
 // Adds one line to those that count. False when that settles it: at the 50-day count the latest stands.
 bool searchesFurther(LineSearch& search) {
     attempt([&] { search.window() = toInteger(search.window() + 1.0); });
     if (search.window() >= search.shared().linesInFiftyDays) {
         takeLine(search, 1);
+        noteLatest(search);
         return false;
     }
+    if (search.notes && search.found <= 0)
+        search.notes->widen("none would do, so line " + std::to_string(search.window()) + " counts too");
     return search.found <= 0;
 }
 
@@ -161,6 +246,7 @@ bool choosesLine(LineSearch& search) {
         tidyRatings(search);
         if (const int slot = slotByCount(search); slot > 0) {
             takeLine(search, slot);
+            noteByCount(search, slot);
             return true;
         }
         if (searchesOn(search)) continue;
@@ -228,7 +314,12 @@ void writeRow(int race, int index, const std::vector<ShownField>& fields) {
 
 void selectLine(const std::vector<ShownField>& fields) {
     LineSearch search{.race = cursor.race, .entry = cursor.entry};
-    if (!choosesLine(search)) return;
+    if (searchNotes && searchNotes->isFor(search.race, search.entry)) search.notes = searchNotes;
+    if (!choosesLine(search)) {
+        if (search.notes) search.notes->skip("an also-eligible, or no horse: the entry is passed over");
+        return;
+    }
+    if (search.notes) search.notes->close(search.chosenSlot);
     RaceEntry& entry = search.shared();
     attempt([&] { entry.rating = search.line(search.chosenSlot).rating; });
     attempt([&] { entry.chosenLineNumber = search.line(search.chosenSlot).lineNumber; });

@@ -16,8 +16,8 @@ constexpr int selections = 4; ///< S1 to S4; the fifth horse is kept beside them
 // One ranking at work.
 class Contest {
 public:
-    Contest(const Ranking& ranking, const RatingTexts& ratings, RankedEntries places)
-        : ranking_(ranking), ratings_(ratings), places_(places), best_(ranking.start) {
+    Contest(const Ranking& ranking, const RatingTexts& ratings, RankedEntries places, RankingNotes* notes)
+        : ranking_(ranking), ratings_(ratings), places_(places), best_(ranking.start), notes_(notes) {
         std::transform(ratings.begin(), ratings.end(), values_.begin(), lenientNumber);
     }
 
@@ -36,15 +36,24 @@ private:
     // is never above another.
     void seed(int stage) {
         for (Entry entry = 1; entry < values_.size(); ++entry)
-            if (noneBefore(stage, [&](Entry found) { return values_[found] >= values_[entry]; }))
+            if (noneBefore(stage, [&](Entry found) { return values_[found] >= values_[entry]; })) {
+                note(stage, entry, true, true);
                 put(stage, entry);
+            }
     }
 
     void pick(int stage) {
-        for (Entry entry = 1; entry < values_.size(); ++entry)
-            if (noneBefore(stage, [&](Entry found) { return found == entry; }) && !ratings_[entry].empty() &&
-                beatsBest(ranking_.pick[static_cast<Entry>(stage - 1)], values_[entry]))
-                put(stage, entry);
+        for (Entry entry = 1; entry < values_.size(); ++entry) {
+            if (!noneBefore(stage, [&](Entry found) { return found == entry; }) || ratings_[entry].empty())
+                continue;
+            const bool taken = beatsBest(ranking_.pick[static_cast<Entry>(stage - 1)], values_[entry]);
+            note(stage, entry, taken, false);
+            if (taken) put(stage, entry);
+        }
+    }
+
+    void note(int stage, Entry entry, bool taken, bool asSeed) {
+        if (notes_) notes_->push_back({stage, static_cast<int>(entry), bestEntry_, taken, asSeed});
     }
 
     // True where no entry found in the stages before this one is so.
@@ -64,6 +73,7 @@ private:
     void put(int stage, Entry entry) {
         best_ = numberIn(ratings_[entry]);
         if (!best_) passOver();
+        bestEntry_ = static_cast<int>(entry);
         places_[static_cast<std::size_t>(stage)] = static_cast<Integer>(entry);
     }
 
@@ -71,6 +81,8 @@ private:
     const RatingTexts& ratings_;
     RankedEntries places_;
     std::optional<double> best_; ///< nothing: a rating that is no number
+    int bestEntry_ = 0;          ///< whose it is; 0 at the start
+    RankingNotes* notes_;
     std::array<double, ratedEntries + 1> values_{};
 };
 
@@ -171,8 +183,9 @@ void fillDrivers(int race) {
 
 } // namespace
 
-RankedEntries ranked(const Ranking& ranking, const RatingTexts& ratings, RankedEntries before) {
-    return Contest{ranking, ratings, before}.run();
+RankedEntries ranked(const Ranking& ranking, const RatingTexts& ratings, RankedEntries before,
+                     RankingNotes* notes) {
+    return Contest{ranking, ratings, before, notes}.run();
 }
 
 void rankValues(const Ranking& ranking, const RatingTexts& ratings) {

@@ -10,6 +10,7 @@
 #include "card/race_card.h"
 
 #include <array>
+#include <vector>
 
 namespace quillon {
 
@@ -39,8 +40,20 @@ using RatingTexts = std::array<TextView, ratedEntries + 1>;
 /// Entries by place: 1 to 4 for S1 to S4, 5 for the fifth horse.
 using RankedEntries = std::array<Integer, rankedPlaces + 1>;
 
-/// The entries by place. A stage that finds nobody leaves the place as it was `before`.
-RankedEntries ranked(const Ranking& ranking, const RatingTexts& ratings, RankedEntries before);
+/// One comparison of a ranking, for a user who asks why.
+struct RankingNote {
+    int stage = 0;
+    int entry = 0; ///< that was looked at
+    int best = 0;  ///< the best so far before it, 0 for none
+    bool taken = false;
+    bool asSeed = false; ///< it is worse than all found before; the best so far wasn't asked
+};
+using RankingNotes = std::vector<RankingNote>;
+
+/// The entries by place. A stage that finds nobody leaves the place as it was `before`. Notes, where they are
+/// asked for, take up every comparison in order.
+RankedEntries ranked(const Ranking& ranking, const RatingTexts& ratings, RankedEntries before,
+                     RankingNotes* notes = nullptr);
 
 /// Ranks these values into `card.rankEntry`: for a heat, with `fourStages` and the slot's heat ratings.
 void rankValues(const Ranking& ranking, const RatingTexts& ratings);
