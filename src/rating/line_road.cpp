@@ -12,6 +12,13 @@ namespace {
 
 constexpr TextView thrownOut = "-"; ///< what the range test makes of a figure outside it, without blanks
 
+// With a decimal at least: a step that adds nothing may leave a whole number without its point.
+Text figureText(TextView figure) {
+    Text text{trimmed(figure)};
+    if (numberIn(text) && !contains(text, ".")) text += ".0";
+    return text;
+}
+
 } // namespace
 
 RoadRecorder* roadRecorder = nullptr;
@@ -38,11 +45,11 @@ void RoadRecorder::noteTerm(const RoadTerm& term) {
     if (recording_) step_.terms.push_back(term);
 }
 
-void RoadRecorder::noteRating(TextView rating) { step_.after = trimmed(rating); }
+void RoadRecorder::noteRating(TextView rating) { step_.after = figureText(rating); }
 
 void RoadRecorder::noteStep(TextView name, Text (*reason)(const RoadStep& step)) {
     step_.name = name;
-    if (step_.after.empty()) step_.after = trimmed(cursor.lineValue);
+    if (step_.after.empty()) step_.after = figureText(cursor.lineValue);
     const bool stayedOut = step_.before == thrownOut && step_.after == thrownOut;
     step_.reason = stayedOut ? Text{"no figure to work on"} : reason(step_);
     RoadStep next;

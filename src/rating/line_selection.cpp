@@ -55,15 +55,13 @@ void takeLine(LineSearch& search, int slot) {
     if (lenientNumber(chosen.CR) <= 0) chosen.CR = "QUA";
 }
 
-// "59.9"
-Text ratedText(const LineSearch& search, int slot) {
-    const TextView rating = trimmed(search.line(slot).rating);
-    return rating.empty() ? Text{"no rating"} : Text{rating};
-}
+Text ratedText(const LineSearch& search, int slot) { return Text{trimmed(search.line(slot).rating)}; }
 
 // "59.9 of line 2"
 Text lineText(const LineSearch& search, int slot) {
-    return ratedText(search, slot) + " of line " + std::to_string(slot);
+    const Text rated = ratedText(search, slot);
+    const Text line = "line " + std::to_string(slot);
+    return rated.empty() ? "0 that the missing " + line + " counts as" : rated + " of " + line;
 }
 
 // An entry with no line in the window still counts its latest, and a latest line without a real last quarter
@@ -214,14 +212,16 @@ bool isNoStarter(const LineSearch& search) {
 
 // The latest line stands, whatever the search found.
 void noteLatest(const LineSearch& search) {
-    if (!search.notes) return;
+    SearchNotes* const notes = search.notes;
+    if (!notes) return;
     if (search.found > 1)
-        search.notes->passOver(search.found, ratedText(search, search.found) +
-                                                 ", the lowest, but with no line after those searched "
-                                                 "the latest stands");
-    search.notes->choose(1, ratedText(search, 1) +
-                                (search.found > 0 ? ", the latest: no line comes after those searched"
-                                                  : ", the latest: no line up to 50 days back will do"));
+        notes->passOver(search.found,
+                        ratedText(search, search.found) +
+                            ", the lowest, but with no line after those searched the latest stands");
+    const Text why = search.found > 0           ? Text{"no line comes after those searched"}
+                     : notes->skipped().empty() ? Text{"no line up to 50 days back will do"}
+                                                : notes->skipped();
+    notes->choose(1, ratedText(search, 1) + ", the latest: " + why);
 }
 
 // Adds one line to those that count. False when that settles it: at the 50-day count the latest stands.

@@ -32,6 +32,7 @@ public:
     void widen(TextView how);
     /// Why no line was looked at, where that is so.
     void skip(TextView why) { skipped_ = why; }
+    const Text& skipped() const { return skipped_; }
 
     /// Puts how the count was widened to the chosen line's reason.
     void close(int chosenSlot);
