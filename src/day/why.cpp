@@ -81,14 +81,14 @@ std::vector<WhyLine> whyLines(int race, int entry) {
     if (lines.empty()) return lines;
     std::vector<Integer> numbers;
     for (const WhyLine& line : lines) numbers.push_back(line.road.lineNumber);
-    const int taken = screen.lineTaken(race, entry);
+    const bool isRated = race <= ratedRaces && entry >= 1 && entry <= ratedEntries;
+    const int taken = isRated ? screen.lineTaken(race, entry) : Integer{0};
 
     const PutBack putBack;
     const RoadRecorder recorder{numbers};
     const SearchNotes notes{race, entry};
     rateOnceMore();
     SelectLines();
-    const bool isRated = race <= ratedRaces && entry >= 1 && entry <= ratedEntries;
     for (std::size_t at = 0; at < lines.size(); ++at) {
         for (const LineRoad& road : recorder.roads())
             if (road.lineNumber == lines[at].road.lineNumber) lines[at].road = road;

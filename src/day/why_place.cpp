@@ -4,6 +4,7 @@
 #include "card/race_card.h"
 #include "rating/race_ranking.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -88,41 +89,46 @@ Text compared(int race, int entry, int other, const RankingAgain& again, int sta
     return mine + " against the " + his + " of " + named(race, other);
 }
 
-// The comparison of a stage that settled it for an entry: the last in which it was taken, or the last that it lost.
-const RankingNote* decisive(const RankingAgain& again, int stage, int entry, bool won) {
+// The comparison that an entry lost a stage by: the last.
+const RankingNote* lostBy(const RankingAgain& again, int stage, int entry) {
     const RankingNote* found = nullptr;
     for (const RankingNote& note : again.notes) {
-        if (note.stage != stage) continue;
-        const bool wins = note.entry == entry && note.taken;
         const bool loses =
             (note.entry == entry && !note.taken) || (note.best == entry && note.taken && !note.asSeed);
-        if (won ? wins : loses) found = &note;
+        if (note.stage == stage && loses) found = &note;
     }
     return found;
 }
 
-// Who was level with the winner of a stage and came after it, and gave way.
-Text levelAfter(const RankingAgain& again, int race, int stage, int entry) {
-    Text text;
-    for (const RankingNote& note : again.notes)
-        if (note.stage == stage && note.best == entry && !note.taken &&
-            lenientNumber(card.entry(race, note.entry).rating) ==
-                lenientNumber(card.entry(race, entry).rating))
-            text += "; " + compared(race, entry, note.entry, again, stage);
-    return text;
+// What the winner of a stage was compared with and beat, by entry; 0 is where the stage starts.
+std::vector<int> beaten(const RankingAgain& again, int stage, int entry) {
+    std::vector<int> others;
+    for (const RankingNote& note : again.notes) {
+        if (note.stage != stage || note.asSeed) continue;
+        if (note.entry == entry && note.taken) others.push_back(note.best);
+        if (note.best == entry && !note.taken) others.push_back(note.entry);
+    }
+    return others;
 }
 
 Text wonStage(const RankingAgain& again, int race, int stage, int entry) {
-    const RankingNote* note = decisive(again, stage, entry, true);
-    Text text = "Stage " + std::to_string(stage) + ", won: ";
-    if (!note) return text + "nobody was found for the place, which stays as it was";
-    text += note->asSeed ? ratedText(race, entry) + " is what the stage starts from"
-                         : compared(race, entry, note->best, again, stage);
-    return text + levelAfter(again, race, stage, entry);
+    const Text text = "Stage " + std::to_string(stage) + ", won: ";
+    bool found = false;
+    for (const RankingNote& note : again.notes)
+        found |= note.stage == stage && note.entry == entry && note.taken;
+    if (!found) return text + "nobody was found for the place, which stays as it was";
+    const std::vector<int> others = beaten(again, stage, entry);
+    if (others.empty()) return text + ratedText(race, entry) + ", with nobody left to compare";
+    const auto ratingOf = [&](int other) {
+        return other == 0 ? again.ranking.start : lenientNumber(card.entry(race, other).rating);
+    };
+    const int nearest = *std::min_element(others.begin(), others.end(),
+                                          [&](int one, int two) { return ratingOf(one) < ratingOf(two); });
+    return text + compared(race, entry, nearest, again, stage);
 }
 
 Text lostStage(const RankingAgain& again, int race, int stage, int entry) {
-    const RankingNote* note = decisive(again, stage, entry, false);
+    const RankingNote* note = lostBy(again, stage, entry);
     const int winner = again.places[static_cast<std::size_t>(stage)];
     const int other = !note ? winner : note->entry == entry ? note->best : note->entry;
     return "Stage " + std::to_string(stage) + ": " + compared(race, entry, other, again, stage);

@@ -29,6 +29,7 @@
 #include "desktop/stars_window.h"
 #include "desktop/status_line.h"
 #include "desktop/view_menu.h"
+#include "desktop/why_dock.h"
 #include "desktop/window_look.h"
 #include "desktop/window_notices.h"
 #include "results/on_show.h"
@@ -109,6 +110,9 @@ void MainWindow::buildDocks() {
     raceListDock_->hide();
     changes_ = new ChangesDock{runner_, appearance_, *this};
     changes_->leaveKeyTo(*race_->findChild<CellTableView*>());
+    why_ = new WhyDock{appearance_, *this};
+    why_->follow(*race_->findChild<CellTableView*>(), *pastLines_->findChild<CellTableView*>("RaceLines"),
+                 *pastLines_->findChild<CellTableView*>("EntryLines"));
 }
 
 void MainWindow::connectPanels() {
@@ -137,7 +141,7 @@ void MainWindow::connectFinder() {
 void MainWindow::buildMenus() {
     menus_ = new Menus{*menuBar(), runner_, this};
     buildEditMenu();
-    view_ = new ViewMenu{appearance_, *ports_, *raceListDock_, *changes_, this};
+    view_ = new ViewMenu{appearance_, *ports_, *raceListDock_, *changes_, *why_, this};
     menuBar()->insertMenu(menus_->menu(Menu::tools)->menuAction(), view_);
     connect(view_, &ViewMenu::overviewWanted, this, &MainWindow::showOverview);
     help_ = new HelpItems{*menus_->menu(Menu::help), appearance_, [this] { return guidesPlace(); }, *this};
@@ -235,6 +239,7 @@ void MainWindow::refresh() {
     empty_->refresh();
     raceList_->refresh();
     changes_->refresh();
+    why_->refresh();
     stars_->refresh();
     choices_->refresh();
     view_->refresh(overviewWanted_);

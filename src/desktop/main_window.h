@@ -32,6 +32,7 @@ class RacePanel;
 class StarsWindow;
 class StatusLine;
 class ViewMenu;
+class WhyDock;
 class WindowNotices;
 
 class MainWindow : public QMainWindow {
@@ -90,6 +91,7 @@ private:
     QDockWidget* raceListDock_ = nullptr;
     RaceListPanel* raceList_ = nullptr;
     ChangesDock* changes_ = nullptr;
+    WhyDock* why_ = nullptr;
     StarsWindow* stars_ = nullptr;
     ChoiceDialog* choices_ = nullptr;
     FindBar* find_ = nullptr;

@@ -23,10 +23,11 @@ constexpr std::array themes{ThemeItem{Theme::system, "ThemeSystem", "As the &Des
 } // namespace
 
 ViewMenu::ViewMenu(Appearance& appearance, DesktopPorts& ports, QDockWidget& raceList, ChangesDock& changes,
-                   QWidget* parent)
+                   SideDock& why, QWidget* parent)
     : QMenu{tr("&View"), parent}, appearance_{appearance} {
     setToolTipsVisible(true);
     addPlaces(raceList, changes);
+    addWhy(why);
     addSeparator();
     addZoom();
     addSeparator();
@@ -59,6 +60,15 @@ void ViewMenu::addPlaces(QDockWidget& raceList, ChangesDock& changes) {
     changesAction->setObjectName("Changes");
     changesAction->setCheckable(true);
     connect(&changes, &QDockWidget::visibilityChanged, changesAction, &QAction::setChecked);
+}
+
+void ViewMenu::addWhy(SideDock& why) {
+    QAction* action = add(tr("&Why"), {QKeySequence{"Shift+F2"}},
+                          tr("Why a line is rated and chosen, and an entry has its place"),
+                          [&why](bool wanted) { why.open(wanted); });
+    action->setObjectName("Why");
+    action->setCheckable(true);
+    connect(&why, &QDockWidget::visibilityChanged, action, &QAction::setChecked);
 }
 
 void ViewMenu::addZoom() {

@@ -12,13 +12,14 @@ namespace quillon {
 
 class ChangesDock;
 class DesktopPorts;
+class SideDock;
 
 class ViewMenu : public QMenu {
     Q_OBJECT
 
 public:
     ViewMenu(Appearance& appearance, DesktopPorts& ports, QDockWidget& raceList, ChangesDock& changes,
-             QWidget* parent);
+             SideDock& why, QWidget* parent);
 
     /// Enabled and checked as it is on show.
     void refresh(bool overviewShown);
@@ -28,6 +29,7 @@ signals:
 
 private:
     void addPlaces(QDockWidget& raceList, ChangesDock& changes);
+    void addWhy(SideDock& why);
     void addZoom();
     void addViewer(DesktopPorts& ports);
     void addThemes();

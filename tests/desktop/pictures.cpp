@@ -19,6 +19,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QStandardPaths>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -91,6 +92,11 @@ public:
         run(CommandId::RaceButton, numberArgument(3));
         run(CommandId::EntryButton, numberArgument(2));
         take("past-lines");
+        window_.findChild<QTableView*>("EntryLines")->setCurrentIndex(
+            window_.findChild<QTableView*>("EntryLines")->model()->index(3, 1));
+        show("Why");
+        take("why");
+        window_.findChild<QDockWidget*>("WhyDock")->hide();
         run(CommandId::Command3, numberArgument(1)); // line 2 is the program's own
         take("line-taken");
         run(CommandId::Command3, numberArgument(0));

@@ -1,0 +1,58 @@
+#include "desktop/why_pointer.h"
+
+#include "desktop/cell_table_view.h"
+
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QToolTip>
+
+#include <utility>
+
+namespace quillon {
+
+WhyPointer::WhyPointer(CellTableView& table, int ratingColumn, TargetOf targetOf)
+    : QObject{&table}, table_{table}, ratingColumn_{ratingColumn}, targetOf_{std::move(targetOf)} {
+    table_.installEventFilter(this);
+    table_.viewport()->installEventFilter(this);
+    connect(table_.selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& cell) {
+                if (const auto target = targetOf_(table_.tableRow(cell))) emit pointedAt(*target);
+            });
+}
+
+bool WhyPointer::isRating(const QModelIndex& cell) const {
+    return cell.isValid() && table_.cells().tableColumn(cell) == ratingColumn_;
+}
+
+QString WhyPointer::tipOf(const QModelIndex& cell) const {
+    if (!isRating(cell)) return {};
+    const auto target = targetOf_(table_.tableRow(cell));
+    return target ? whyTip(*target) : QString{};
+}
+
+// A tip goes when the mouse moves on; one that Space brought stays at its cell until then.
+void WhyPointer::tellAt(const QModelIndex& cell, const QPoint& place) {
+    QToolTip::showText(place, tipOf(cell), table_.viewport(), table_.visualRect(cell));
+}
+
+bool WhyPointer::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == table_.viewport() && event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const QModelIndex cell = table_.indexAt(help->pos());
+        if (!isRating(cell)) return false;
+        tellAt(cell, help->globalPos());
+        return true;
+    }
+    if (watched == &table_ && event->type() == QEvent::KeyPress) {
+        const auto* press = static_cast<QKeyEvent*>(event);
+        const QModelIndex cell = table_.currentIndex();
+        if (press->key() != Qt::Key_Space || press->modifiers() != Qt::NoModifier || !isRating(cell))
+            return false;
+        const QRect place = table_.visualRect(cell);
+        tellAt(cell, table_.viewport()->mapToGlobal(place.bottomLeft()));
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace quillon
