@@ -4,6 +4,7 @@
 #include "desktop/shown_text.h"
 #include "results/on_show.h"
 
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -49,8 +50,8 @@ void put(QTableWidget& table, int row, int column, const QString& text, bool isN
 
 WhyPanel::WhyPanel(Appearance& appearance, QWidget* parent)
     : QWidget{parent}, appearance_{appearance}, heading_{new QLabel{this}}, place_{new QListWidget{this}},
-      lines_{new QTableWidget{this}}, roads_{new QTableWidget{this}},
-      all_{new QCheckBox{tr("Steps that changed nothing, too"), this}} {
+      lines_{new QTableWidget{this}}, roads_{new QTableWidget{this}}, all_{new QCheckBox{tr("All steps"),
+                                                                                         this}} {
     setObjectName("WhyPanel");
     heading_->setObjectName("WhyHeading");
     heading_->setTextFormat(Qt::PlainText);
@@ -58,13 +59,16 @@ WhyPanel::WhyPanel(Appearance& appearance, QWidget* parent)
     buildLists();
     buildRoads();
     auto* column = new QVBoxLayout{this};
-    column->setContentsMargins(6, 4, 6, 6);
-    column->setSpacing(4);
-    column->addWidget(heading_);
+    column->setContentsMargins(4, 2, 4, 4);
+    column->setSpacing(3);
+    auto* head = new QHBoxLayout;
+    head->addWidget(heading_, 1);
+    head->addWidget(all_);
+    column->addLayout(head);
     column->addWidget(place_);
     column->addWidget(lines_);
     column->addWidget(roads_, 1);
-    column->addWidget(all_);
+    setTabOrder(roads_, all_);
     setFocusProxy(lines_);
     connect(&appearance_, &Appearance::changed, this, &WhyPanel::lay);
     lay();
@@ -98,6 +102,7 @@ void WhyPanel::buildRoads() {
     connect(roads_->horizontalHeader(), &QHeaderView::sectionResized, roads_,
             &QTableWidget::resizeRowsToContents);
     all_->setObjectName("WhyAllSteps");
+    all_->setToolTip(tr("The steps that changed nothing, too"));
     connect(all_, &QCheckBox::toggled, this, &WhyPanel::fillRoads);
 }
 
@@ -120,7 +125,7 @@ void WhyPanel::lay() {
 
 // Low, since it stands over the window where the screen has no room beside it.
 QSize WhyPanel::sizeHint() const {
-    constexpr int linesOfRoads = 6;
+    constexpr int linesOfRoads = 5;
     const int roads = roads_->horizontalHeader()->sizeHint().height() +
                       linesOfRoads * (roads_->fontMetrics().height() + 4) + 2 * roads_->frameWidth();
     return QWidget::sizeHint() - QSize{0, roads_->sizeHint().height() - roads};

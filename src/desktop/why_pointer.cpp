@@ -16,6 +16,7 @@ WhyPointer::WhyPointer(CellTableView& table, int ratingColumn, TargetOf targetOf
     table_.viewport()->installEventFilter(this);
     connect(table_.selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& cell) {
+                if (std::exchange(toldBySpace_, false)) QToolTip::hideText();
                 if (const auto target = targetOf_(table_.tableRow(cell))) emit pointedAt(*target);
             });
 }
@@ -30,7 +31,7 @@ QString WhyPointer::tipOf(const QModelIndex& cell) const {
     return target ? whyTip(*target) : QString{};
 }
 
-// A tip goes when the mouse moves on; one that Space brought stays at its cell until then.
+// A tip goes when the mouse moves on; one that Space brought goes with the current cell, too.
 void WhyPointer::tellAt(const QModelIndex& cell, const QPoint& place) {
     QToolTip::showText(place, tipOf(cell), table_.viewport(), table_.visualRect(cell));
 }
@@ -50,6 +51,7 @@ bool WhyPointer::eventFilter(QObject* watched, QEvent* event) {
             return false;
         const QRect place = table_.visualRect(cell);
         tellAt(cell, table_.viewport()->mapToGlobal(place.bottomLeft()));
+        toldBySpace_ = true;
         return true;
     }
     return QObject::eventFilter(watched, event);

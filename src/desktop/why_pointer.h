@@ -37,6 +37,7 @@ private:
     CellTableView& table_;
     int ratingColumn_;
     TargetOf targetOf_;
+    bool toldBySpace_ = false;
 };
 
 } // namespace quillon
