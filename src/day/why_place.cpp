@@ -95,7 +95,7 @@ const RankingNote* lostBy(const RankingAgain& again, int stage, int entry) {
     for (const RankingNote& note : again.notes) {
         const bool loses =
             (note.entry == entry && !note.taken) || (note.best == entry && note.taken && !note.asSeed);
-        if (note.stage == stage && loses) found = &note;
+        if (note.stage == stage && note.entry != note.best && loses) found = &note;
     }
     return found;
 }
@@ -104,7 +104,7 @@ const RankingNote* lostBy(const RankingAgain& again, int stage, int entry) {
 std::vector<int> beaten(const RankingAgain& again, int stage, int entry) {
     std::vector<int> others;
     for (const RankingNote& note : again.notes) {
-        if (note.stage != stage || note.asSeed) continue;
+        if (note.stage != stage || note.asSeed || note.entry == note.best) continue; // a seed meets itself
         if (note.entry == entry && note.taken) others.push_back(note.best);
         if (note.best == entry && !note.taken) others.push_back(note.entry);
     }

@@ -66,8 +66,8 @@ WhyPanel::WhyPanel(Appearance& appearance, QWidget* parent)
     head->addWidget(all_);
     column->addLayout(head);
     column->addWidget(place_);
-    column->addWidget(lines_);
-    column->addWidget(roads_, 1);
+    column->addWidget(lines_, 1);
+    column->addWidget(roads_, 3);
     setTabOrder(roads_, all_);
     setFocusProxy(lines_);
     connect(&appearance_, &Appearance::changed, this, &WhyPanel::lay);
@@ -118,8 +118,8 @@ void WhyPanel::lay() {
         table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 4);
     }
     place_->setFixedHeight(placeLines * (place_->fontMetrics().height() + 2) + 2 * place_->frameWidth());
-    lines_->setFixedHeight(lines_->horizontalHeader()->sizeHint().height() +
-                           lineRows * (lines_->fontMetrics().height() + 4) + 2 * lines_->frameWidth());
+    lines_->setMinimumHeight(lines_->horizontalHeader()->sizeHint().height() +
+                             lineRows * (lines_->fontMetrics().height() + 4) + 2 * lines_->frameWidth());
     fillRoads();
 }
 
@@ -128,7 +128,9 @@ QSize WhyPanel::sizeHint() const {
     constexpr int linesOfRoads = 5;
     const int roads = roads_->horizontalHeader()->sizeHint().height() +
                       linesOfRoads * (roads_->fontMetrics().height() + 4) + 2 * roads_->frameWidth();
-    return QWidget::sizeHint() - QSize{0, roads_->sizeHint().height() - roads};
+    const int spare =
+        roads_->sizeHint().height() - roads + lines_->sizeHint().height() - lines_->minimumHeight();
+    return QWidget::sizeHint() - QSize{0, spare};
 }
 
 void WhyPanel::showEvent(QShowEvent* event) {

@@ -51,6 +51,12 @@ Text classText(TextView rating) {
     return number > 0 ? numberText(number) : Text{"no rating"};
 }
 
+// With a decimal at least.
+Text figureText(double figure) {
+    const Text text = numberText(figure);
+    return contains(text, ".") ? text : text + ".0";
+}
+
 Text pointsOf(const RoadStep& step) { return ": " + pointsText(step.points()); }
 
 // "at the quarter: -0.8, at the half: -0.8"
@@ -71,8 +77,7 @@ Text byCalls(const RoadStep& step, TextView what) {
 } // namespace
 
 Text pointsText(double points) {
-    Text text = numberText(points);
-    if (!contains(text, ".")) text += ".0";
+    const Text text = figureText(points);
     return points < 0 ? text : "+" + text;
 }
 
@@ -88,7 +93,7 @@ Text whyLastQuarter(const RoadStep& step) {
     const double miles = lenientNumber(load.line.DIST_MILES);
     if (miles > 1) return numberText(miles) + " miles: longer than a mile can't be rated";
     if (step.terms.size() < 2) return "no last quarter or no finish: no figure";
-    return "3 x " + numberText(step.terms[0].figure) + " s final time - " + numberText(step.terms[1].figure) +
+    return "3 x " + figureText(step.terms[0].figure) + " s final time - " + figureText(step.terms[1].figure) +
            " s leader's three quarters - 70";
 }
 
