@@ -100,7 +100,7 @@ void WhyPanel::buildRoads() {
     for (const int column : {reason, chosenReason})
         roads_->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
     connect(roads_->horizontalHeader(), &QHeaderView::sectionResized, roads_,
-            &QTableWidget::resizeRowsToContents);
+            &QTableWidget::resizeRowsToContents, Qt::QueuedConnection); // once all columns have their widths
     all_->setObjectName("WhyAllSteps");
     all_->setToolTip(tr("The steps that changed nothing, too"));
     connect(all_, &QCheckBox::toggled, this, &WhyPanel::fillRoads);

@@ -73,8 +73,6 @@ constexpr std::array finishCredits{4.0, 3.0, 2.0, 1.0}; // by finish, from the w
 
 } // namespace
 
-bool isQualifier() { return contains(load.line.CLASS, "QU"); }
-
 // The time from the leader's third call to the horse's finish, and what its final time, taken twice, has
 // above 70.
 void LastQuarterCalc() {

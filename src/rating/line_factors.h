@@ -31,9 +31,6 @@ void ParkOutsWind();
 /// Reads the park marks and `lineSize`; credits each call parked out two wide.
 void ParkOutsDouble();
 
-/// Whether the line at work is a qualifier's.
-bool isQualifier();
-
 /// Credits a qualifier.
 void QualifierCredit();
 

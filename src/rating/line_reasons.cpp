@@ -1,7 +1,7 @@
 #include "rating/line_reasons.h"
 
 #include "card/race_card.h"
-#include "rating/line_factors.h"
+#include "rating/line_value.h"
 #include "tables/load_state.h"
 
 #include <algorithm>

@@ -2,6 +2,7 @@
 
 #include "card/race_card.h"
 #include "rating/line_road.h"
+#include "tables/load_state.h"
 
 namespace quillon {
 
@@ -19,5 +20,7 @@ bool addToLineValue(double points, TextView what) {
 void noteTerm(double figure, TextView what) {
     if (roadRecorder) roadRecorder->noteTerm({figure, what});
 }
+
+bool isQualifier() { return contains(load.line.CLASS, "QU"); }
 
 } // namespace quillon

@@ -1,4 +1,4 @@
-// Arithmetic on the figure of the running line at work.
+// The running line at work: arithmetic on its figure, and what several of its steps ask.
 #pragma once
 
 #include "core/text.h"
@@ -13,5 +13,8 @@ bool addToLineValue(double points, TextView what = {});
 
 /// Tells a recorder, where one stands, what a step worked with.
 void noteTerm(double figure, TextView what = {});
+
+/// Whether it is a qualifier's.
+bool isQualifier();
 
 } // namespace quillon

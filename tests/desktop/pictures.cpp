@@ -92,11 +92,7 @@ public:
         run(CommandId::RaceButton, numberArgument(3));
         run(CommandId::EntryButton, numberArgument(2));
         take("past-lines");
-        window_.findChild<QTableView*>("EntryLines")->setCurrentIndex(
-            window_.findChild<QTableView*>("EntryLines")->model()->index(3, 1));
-        show("Why");
-        take("why");
-        window_.findChild<QDockWidget*>("WhyDock")->hide();
+        takeWhy();
         run(CommandId::Command3, numberArgument(1)); // line 2 is the program's own
         take("line-taken");
         run(CommandId::Command3, numberArgument(0));
@@ -150,6 +146,19 @@ private:
     }
 
     void show(const char* action) { window_.findChild<QAction*>(action)->trigger(); }
+
+    // Line 4, beside the one that was chosen.
+    void takeWhy() {
+        auto* lines = window_.findChild<QTableView*>("EntryLines");
+        lines->setCurrentIndex(lines->model()->index(3, 1));
+        show("Why");
+        take("why-window");
+        auto* dock = window_.findChild<QDockWidget*>("WhyDock");
+        dock->setFloating(true);
+        dock->resize(640, 560);
+        takeOf(*dock, "why");
+        dock->hide();
+    }
 
     void take(const char* name) {
         // A dialog over the window belongs to the picture.
