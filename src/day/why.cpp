@@ -35,9 +35,9 @@ private:
 // lines before it, and on what the store held of them.
 void rateOnceMore() {
     card.clear();
-    FrameCard();
+    attempt(FrameCard);
     attempt(ReadEntries);
-    LoadLines();
+    attempt(LoadLines);
 }
 
 bool isLoaded() { return screen.mode == CardMode::loaded; }
@@ -88,7 +88,7 @@ std::vector<WhyLine> whyLines(int race, int entry) {
     const RoadRecorder recorder{numbers};
     const SearchNotes notes{race, entry};
     rateOnceMore();
-    SelectLines();
+    attempt(SelectLines);
     for (std::size_t at = 0; at < lines.size(); ++at) {
         for (const LineRoad& road : recorder.roads())
             if (road.lineNumber == lines[at].road.lineNumber) lines[at].road = road;

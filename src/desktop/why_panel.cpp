@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace quillon {
 namespace {
@@ -147,8 +148,9 @@ void WhyPanel::tell(const WhyTarget& target) {
 void WhyPanel::refresh() {
     if (!isVisible()) return;
     const int race = raceViewOnShow();
-    if (target_.race != race || target_.entry < 1)
-        target_ = {race, std::max(1, int{theScreen.currentEntry}), 0};
+    if (target_.race != race || target_.entry < 1) target_ = {race, 1, 0};
+    const int open = theScreen.pastPerformanceOpen ? theScreen.currentEntry : 0;
+    if (std::exchange(entryOpen_, open) != open && open > 0) target_ = {race, open, 0};
     why_ = whyLines(target_.race, target_.entry);
     if (target_.line < 1 || target_.line > static_cast<int>(why_.size()))
         target_.line = std::max(1, chosenOf(why_));
@@ -177,6 +179,8 @@ void WhyPanel::showNothing() {
 void WhyPanel::fillPlace() {
     place_->clear();
     for (const Text& sentence : whyPlace(target_.race, target_.entry)) place_->addItem(shown(sentence));
+    const QString changed = changedSince(target_.race, target_.entry, why_);
+    if (!changed.isEmpty()) place_->insertItem(0, changed);
 }
 
 void WhyPanel::fillLines() {

@@ -23,7 +23,7 @@ public:
 
     /// Tells of another line, when the panel is in sight.
     void tell(const WhyTarget& target);
-    /// Tells anew what the card holds now; of the first entry on show, where that of before is gone.
+    /// Tells anew what the card holds now; of the entry whose lines were opened, or the first of another race.
     void refresh();
 
     QSize sizeHint() const override;
@@ -49,6 +49,7 @@ private:
     QTableWidget* roads_;
     QCheckBox* all_; ///< steps that changed nothing, too
     WhyTarget target_{};
+    int entryOpen_ = 0;        ///< whose past lines were open at the last look; 0 none
     std::vector<WhyLine> why_; ///< of the entry
 };
 

@@ -76,6 +76,16 @@ int chosenOf(const std::vector<WhyLine>& lines) {
     return found == lines.end() ? 0 : static_cast<int>(found - lines.begin()) + 1;
 }
 
+QString changedSince(int race, int entry, const std::vector<WhyLine>& lines) {
+    const int chosen = chosenOf(lines);
+    if (chosen == 0) return {};
+    const TextView now = trimmed(card.entry(race, entry).rating);
+    const TextView then = trimmed(lines[static_cast<std::size_t>(chosen - 1)].rating);
+    if (lenientNumber(now) == lenientNumber(then)) return {};
+    return words("Rated %1 now, not the %2 of its line: a scratch or a driver change moved it")
+        .arg(shown(now), shown(then));
+}
+
 QString whyTip(const WhyTarget& target) {
     if (theScreen.mode == CardMode::recalled)
         return words("A recalled card does not know how its lines were rated");
@@ -90,6 +100,8 @@ QString whyTip(const WhyTarget& target) {
             tip << QString{"%1   %2   %3"}.arg(shown(step.after).rightJustified(5, QChar{0x2007}),
                                                stepWords(step.name), shown(step.reason));
     tip << words("%1   the rating").arg(shown(trimmed(line.rating)).rightJustified(5, QChar{0x2007}));
+    const QString changed = target.line > 0 ? QString{} : changedSince(target.race, target.entry, lines);
+    if (!changed.isEmpty()) tip << changed;
     return tip.join('\n');
 }
 

@@ -27,6 +27,9 @@ QString verdictWords(Verdict verdict);
 /// The place of the line that speaks for its entry among its lines, from 1; 0 for none.
 int chosenOf(const std::vector<WhyLine>& lines);
 
+/// Tells that the entry's rating is not that of its line any more; empty where it is.
+QString changedSince(int race, int entry, const std::vector<WhyLine>& lines);
+
 /// The road of a line in a few lines: what changed its figure, and the rating.
 QString whyTip(const WhyTarget& target);
 

@@ -141,6 +141,29 @@ TEST_F(WhyPanelTest, SpaceTellsItToo) {
     EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
 }
 
+TEST_F(WhyPanelTest, AnEntryThatIsOpenedIsTold) {
+    startInWindow();
+    openWhy();
+    EXPECT_EQ(0U, heading().find("Race 1, number 1, ")) << heading();
+    window->runner().run(CommandId::EntryButton, numberArgument(5));
+    EXPECT_EQ(0U, heading().find("Race 1, number 5, ")) << heading();
+    window->runner().run(CommandId::RaceButton, numberArgument(2));
+    EXPECT_EQ(0U, heading().find("Race 2, number 1, ")) << heading();
+}
+
+TEST_F(WhyPanelTest, ARatingThatAScratchMovedSaysSo) {
+    startInWindow();
+    openWhy();
+    answers = {"Yes"};
+    click(child<QAbstractButton>(*window, "ScratchButton1"));
+    EXPECT_TRUE(place().item(0)->text().startsWith("Rated 99.9 now, not the "))
+        << place().item(0)->text().toStdString();
+    goToRating(table("RaceView"), 0, RaceColumn::rating);
+    QTest::keyClick(&table("RaceView"), Qt::Key_Space);
+    EXPECT_TRUE(QToolTip::text().contains("\nRated 99.9 now, not the "));
+    QToolTip::hideText();
+}
+
 TEST_F(WhyPanelTest, ARecalledCardSaysThatItDoesNotKnow) {
     startInWindow();
     choose("Save");
