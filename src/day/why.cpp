@@ -80,6 +80,7 @@ std::vector<WhyLine> whyLines(int race, int entry) {
     std::vector<WhyLine> lines = storedLines(race, entry);
     if (lines.empty()) return lines;
     std::vector<Integer> numbers;
+    numbers.reserve(lines.size());
     for (const WhyLine& line : lines) numbers.push_back(line.road.lineNumber);
     const bool isRated = race <= ratedRaces && entry >= 1 && entry <= ratedEntries;
     const int taken = isRated ? screen.lineTaken(race, entry) : Integer{0};
