@@ -146,11 +146,11 @@ void WhyPanel::tell(const WhyTarget& target) {
 }
 
 void WhyPanel::refresh() {
-    if (!isVisible()) return;
     const int race = raceViewOnShow();
     if (target_.race != race || target_.entry < 1) target_ = {race, 1, 0};
     const int open = theScreen.pastPerformanceOpen ? theScreen.currentEntry : 0;
     if (std::exchange(entryOpen_, open) != open && open > 0) target_ = {race, open, 0};
+    if (!isVisible()) return;
     why_ = whyLines(target_.race, target_.entry);
     if (target_.line < 1 || target_.line > static_cast<int>(why_.size()))
         target_.line = std::max(1, chosenOf(why_));

@@ -70,6 +70,13 @@ TEST_F(WhyPanelTest, TheTwoRoadsStandSideBySide) {
     EXPECT_EQ("chosen", textOf(lines(), 1, 2));
 }
 
+TEST_F(WhyPanelTest, ItOpensAtTheLineThatTheKeyboardIsOn) {
+    openEntry();
+    goToRating(table("EntryLines"), 3, DataColumn::rating);
+    openWhy();
+    EXPECT_EQ(3, lines().currentRow());
+}
+
 TEST_F(WhyPanelTest, AllStepsAreThereForWhoWantsThem) {
     openEntry();
     openWhy();
