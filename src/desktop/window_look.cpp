@@ -2,20 +2,12 @@
 
 #include "desktop/cell_table_view.h"
 #include "desktop/shown_text.h"
+#include "desktop/window_size.h"
 
-#include <QScreen>
 #include <QSettings>
-#include <QStyle>
 
 namespace quillon {
 namespace {
-
-// What the desktop puts round a window, as far as it can be told before the window is shown.
-QSize frameSizeOf(const QWidget& window) {
-    constexpr int border = 4; // pixels at each side
-    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
-    return {2 * border, title + 2 * border};
-}
 
 QString widthsOf(const CellTableView& table) { return "widths/" + table.objectName(); }
 
@@ -25,7 +17,7 @@ QSize firstSize(QSize designed, QSize room) { return designed.boundedTo(room); }
 
 void restoreLook(QMainWindow& window, Appearance& appearance) {
     const QSize designed{appearance.pixels(theScreen.width), appearance.pixels(theScreen.height)};
-    window.resize(firstSize(designed, window.screen()->availableGeometry().size() - frameSizeOf(window)));
+    window.resize(firstSize(designed, roomFor(window)));
     const QSettings settings;
     appearance.setZoom(settings.value("zoom", appearance.zoom()).toInt());
     window.restoreGeometry(settings.value("geometry").toByteArray());

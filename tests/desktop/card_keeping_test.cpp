@@ -58,7 +58,8 @@ TEST_F(CardKeepingTest, TheStartSaysWhatWasLeftAndRestoresIt) {
     EXPECT_EQ("", notice("leftBehind"));
     startAfterACrash();
     const std::string text = notice("leftBehind");
-    EXPECT_EQ(0U, text.find("Quillon ended without a close. What it kept: MVR, Saturday 14 March 2026, 1 change, "))
+    EXPECT_EQ(
+        0U, text.find("Quillon ended without a close. What it kept: MVR, Saturday 14 March 2026, 1 change, "))
         << text;
     EXPECT_FALSE(cardIsOpen());
     click(child<QAbstractButton>(*window, "NoticeAction.leftBehind"));

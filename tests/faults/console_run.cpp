@@ -1,5 +1,8 @@
 #include "console_run.h"
 
+#include "core/packing.h"
+
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <cstdlib>
@@ -49,12 +52,22 @@ void limit(const Limits& limits) {
         _exit(126);
 }
 
+bool isKept(const fs::path& file) { return file.parent_path().filename() == "Recovery"; }
+
 } // namespace
+
+bool keptCardsAreWhole(const fs::path& folder) {
+    const auto files = fs::recursive_directory_iterator{folder};
+    return std::all_of(begin(files), end(files), [](const fs::directory_entry& entry) {
+        return !isKept(entry.path()) || entry.path().extension() != ".recovery" ||
+               quillon::opened(bytesOf(entry.path()));
+    });
+}
 
 Files filesBelow(const fs::path& folder) {
     Files files;
     for (const auto& entry : fs::recursive_directory_iterator{folder})
-        if (entry.is_regular_file())
+        if (entry.is_regular_file() && !isKept(entry.path()))
             files[entry.path().lexically_relative(folder).string()] = bytesOf(entry.path());
     return files;
 }

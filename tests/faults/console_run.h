@@ -8,9 +8,12 @@
 
 namespace faults {
 
-/// Every file below a folder by its path there, with its bytes.
+/// Every file below a folder by its path there, with its bytes, but for what is kept against a crash.
 using Files = std::map<std::string, std::string>;
 Files filesBelow(const std::filesystem::path& folder);
+
+/// Whether each card that is kept against a crash is whole, with its checksum.
+bool keptCardsAreWhole(const std::filesystem::path& folder);
 
 /// Makes `copy` the same as `folder`.
 void copyFolder(const std::filesystem::path& folder, const std::filesystem::path& copy);

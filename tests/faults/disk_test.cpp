@@ -35,6 +35,7 @@ protected:
     /// Every file as it was or whole. What was worked out from an archive follows the archive that there is,
     /// and the batch file names the last report that could be shown.
     void checkWhole(const fs::path& written) const {
+        EXPECT_TRUE(keptCardsAreWhole(written));
         for (const auto& [path, content] : filesBelow(written)) {
             EXPECT_EQ(std::string::npos, path.find(".quillon-")) << path << " is left";
             const auto old = oldFiles.find(path);

@@ -142,6 +142,7 @@ protected:
 
     /// Each file is as it was or as a run writes it. A record that could not be taken back may be torn.
     void checkFiles(bool litterAllowed, bool tornAllowed) const {
+        EXPECT_TRUE(keptCardsAreWhole(work));
         const Files files = filesBelow(work);
         for (const auto& [path, content] : files) {
             if (isLeftover(path, litterAllowed) || allowed.has(path, content)) continue;

@@ -29,11 +29,11 @@ const Text otherDriver = "Lang, L                .151";
 constexpr int firstFinisher = 4;     ///< the box
 constexpr int firstFinisherCell = 5; ///< of the race's outcome
 
-// These take another card, put away the one that is open, or go back and forth among its changes.
+// These take another card, put one away, or go back and forth among the open one's changes.
 constexpr std::array cardComesOrGoes{
     CommandId::Start,   CommandId::NewRC,   CommandId::RecallRaceCard, CommandId::ChooseFile,
     CommandId::CloseRC, CommandId::Exit_QL, CommandId::CloseWindow,    CommandId::Undo,
-    CommandId::Redo,    CommandId::UndoTo,
+    CommandId::Redo,    CommandId::UndoTo,  CommandId::Recover,        CommandId::Forget,
 };
 bool cardStays(CommandId id) {
     return std::find(cardComesOrGoes.begin(), cardComesOrGoes.end(), id) == cardComesOrGoes.end();
