@@ -2,6 +2,7 @@
 
 #include "console/show_store.h"
 #include "console/show_why.h"
+#include "console/show_worth.h"
 #include "console/words.h"
 #include "core/journal.h"
 #include "day/changes.h"
@@ -244,7 +245,10 @@ void show(TextView part, std::span<const Command> commands, Transcript& transcri
     if (showWhy(part, transcript)) return;
 
     std::optional<TextView> rest = part;
-    if (takeWord(rest) == "colours")
+    const TextView name = takeWord(rest);
+    if (name == "fair") return showFair(rest, transcript);
+    if (name == "ticket") return showTicket(rest, transcript);
+    if (name == "colours")
         showGrid("show colours", rest.value_or(TextView{}), printColours, transcript);
     else
         showGrid("show", part, printTable, transcript);

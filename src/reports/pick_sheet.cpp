@@ -119,13 +119,50 @@ void addWager(ReportWriter& sheet, int race, const PickWord& row, Text& total) {
     total = listNumber(0);
 }
 
+SheetTicket wagerTicket(int race, const PickWord& row) {
+    const Integer legs = legsIn(card.raceInfo(race).wagering, row);
+    SheetTicket ticket{.heading = wagerHeading(row, legs), .race = race, .overRaces = true};
+    for (int leg = race; leg < race + legs; ++leg) {
+        auto& numbers = ticket.sets.emplace_back();
+        for (const TextView pick : picksOf(leg))
+            if (isPick(pick)) numbers.emplace_back(trimmed(pick));
+    }
+    return ticket;
+}
+
+SheetTicket fivePlaceTicket(int race, TextView word, const std::array<int, 4>& order) {
+    SheetTicket ticket{.heading = upperCase(word), .race = race};
+    for (const int place : order) ticket.sets.push_back({Text{trimmed(rankedRow(race, place).pn)}});
+    ticket.sets.push_back({Text{trimmed(rankedRow(race, fifthPlace).pn)}});
+    return ticket;
+}
+
+const PickWord* wagerWordOf(int race) {
+    const TextView wagering = card.raceInfo(race).wagering;
+    const auto offered = [&](const PickWord& row) { return contains(wagering, row.word); };
+    const auto row = std::find_if(pickWords.begin(), pickWords.end(), offered);
+    return row == pickWords.end() ? nullptr : &*row;
+}
+
+TextView fivePlaceWordOf(int race) {
+    const TextView wagering = card.raceInfo(race).wagering;
+    const auto offered = [&](TextView word) { return contains(wagering, word); };
+    const auto word = std::find_if(fivePlaceWords.begin(), fivePlaceWords.end(), offered);
+    return word == fivePlaceWords.end() ? TextView{} : *word;
+}
+
+// S1's order stands always, another one where its pick is a key pick.
+bool isOnSheet(int race, const std::array<int, 4>& order) {
+    return order[0] == 1 || isPick(card.keyPicks(race, order[0]));
+}
+
 void addFivePlaces(ReportWriter& sheet, int race, TextView word) {
     const auto pn = [&](int place) { return rankedRow(race, place).pn; };
     sheet.line("");
     sheet.line("{}", upperCase(word));
-    for (const auto& [top, second, third, fourth] : fivePlaceOrders)
-        if (top == 1 || isPick(card.keyPicks(race, top)))
-            sheet.line(fiveLine, listNumber(race), pn(top), pn(second), pn(third), pn(fourth),
+    for (const auto& order : fivePlaceOrders)
+        if (isOnSheet(race, order))
+            sheet.line(fiveLine, listNumber(race), pn(order[0]), pn(order[1]), pn(order[2]), pn(order[3]),
                        pn(fifthPlace));
 }
 
@@ -136,19 +173,32 @@ void KeyHorses() {
     ReportWriter sheet;
     addCardHead(sheet, title);
     Text total;
-    for (int race = 1; race <= card.raceCount; ++race) {
-        const TextView wagering = card.raceInfo(race).wagering;
-        const auto offered = [&](const PickWord& row) { return contains(wagering, row.word); };
-        const auto row = std::find_if(pickWords.begin(), pickWords.end(), offered);
-        if (row != pickWords.end()) addWager(sheet, race, *row, total);
-    }
-    for (int race = 1; race <= card.raceCount; ++race) {
-        const TextView wagering = card.raceInfo(race).wagering;
-        const auto offered = [&](TextView word) { return contains(wagering, word); };
-        const auto word = std::find_if(fivePlaceWords.begin(), fivePlaceWords.end(), offered);
-        if (word != fivePlaceWords.end()) addFivePlaces(sheet, race, *word);
-    }
+    for (int race = 1; race <= card.raceCount; ++race)
+        if (const PickWord* const row = wagerWordOf(race)) addWager(sheet, race, *row, total);
+    for (int race = 1; race <= card.raceCount; ++race)
+        if (const TextView word = fivePlaceWordOf(race); !word.empty()) addFivePlaces(sheet, race, word);
     attempt([&] { writeFile(cardFile(Folder::selections2, "pmr2"), sheet.content()); });
+}
+
+std::vector<SheetTicket> pickSheetTickets() {
+    constexpr std::size_t fewestLegs = 2;
+    constexpr std::size_t mostLegs = 6;
+    std::vector<SheetTicket> tickets;
+    const int races = std::min<int>(card.raceCount, raceExtent - 1);
+    for (int race = 1; race <= races; ++race) {
+        const PickWord* const row = wagerWordOf(race);
+        if (!row || legsIn(card.raceInfo(race).wagering, *row) < 1) continue;
+        SheetTicket ticket = wagerTicket(race, *row);
+        if (ticket.sets.size() >= fewestLegs && ticket.sets.size() <= mostLegs)
+            tickets.push_back(std::move(ticket));
+    }
+    for (int race = 1; race <= races; ++race) {
+        const TextView word = fivePlaceWordOf(race);
+        if (word.empty() || race >= labelExtent) continue;
+        for (const auto& order : fivePlaceOrders)
+            if (isOnSheet(race, order)) tickets.push_back(fivePlaceTicket(race, word, order));
+    }
+    return tickets;
 }
 
 } // namespace quillon
