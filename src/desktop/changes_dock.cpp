@@ -8,8 +8,8 @@
 namespace quillon {
 
 ChangesDock::ChangesDock(CommandRunner& runner, Appearance& appearance, QMainWindow& window)
-    : SideDock{tr("Changes"), appearance, window}, panel_{new ChangesPanel{runner, appearance, this}} {
-    setObjectName("ChangesDock");
+    : SideDock{tr("Changes"), "ChangesDock", appearance, window}, panel_{new ChangesPanel{runner, appearance,
+                                                                                          this}} {
     setWidget(panel_);
 }
 

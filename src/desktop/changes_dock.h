@@ -1,4 +1,4 @@
-// The list of changes as a dock of the window: beside the race where there is room for both, else on its own.
+// The list of changes as a dock of the window.
 #pragma once
 
 #include "desktop/command_runner.h"

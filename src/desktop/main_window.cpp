@@ -26,12 +26,15 @@
 #include "desktop/race_page.h"
 #include "desktop/race_panel.h"
 #include "desktop/shown_text.h"
+#include "desktop/side_dock.h"
 #include "desktop/stars_window.h"
 #include "desktop/status_line.h"
+#include "desktop/tickets_panel.h"
 #include "desktop/view_menu.h"
 #include "desktop/why_dock.h"
 #include "desktop/window_look.h"
 #include "desktop/window_notices.h"
+#include "desktop/worth_panel.h"
 #include "results/on_show.h"
 
 #include <QApplication>
@@ -113,6 +116,24 @@ void MainWindow::buildDocks() {
     why_ = new WhyDock{appearance_, *this};
     why_->follow(*race_->findChild<CellTableView*>(), *pastLines_->findChild<CellTableView*>("RaceLines"),
                  *pastLines_->findChild<CellTableView*>("EntryLines"));
+    buildWorth();
+}
+
+void MainWindow::buildWorth() {
+    worthDock_ = new SideDock{tr("Worth"), "WorthDock", appearance_, *this};
+    worth_ = new WorthPanel{appearance_, odds_, worthDock_};
+    worthDock_->setWidget(worth_);
+    ticketsDock_ = new SideDock{tr("Tickets"), "TicketsDock", appearance_, *this};
+    tickets_ = new TicketsPanel{appearance_, ticketsDock_};
+    ticketsDock_->setWidget(tickets_);
+    for (const SideDock* dock : {worthDock_, ticketsDock_})
+        connect(dock, &QDockWidget::visibilityChanged, this, &MainWindow::refreshWorth);
+}
+
+// The saved cards are read for no one who doesn't look.
+void MainWindow::refreshWorth() {
+    if (worthDock_->isVisible()) worth_->refresh();
+    if (ticketsDock_->isVisible()) tickets_->refresh();
 }
 
 void MainWindow::connectPanels() {
@@ -141,7 +162,13 @@ void MainWindow::connectFinder() {
 void MainWindow::buildMenus() {
     menus_ = new Menus{*menuBar(), runner_, this};
     buildEditMenu();
-    view_ = new ViewMenu{appearance_, *ports_, *raceListDock_, *changes_, *why_, this};
+    view_ = new ViewMenu{appearance_, *ports_, *raceListDock_, *changes_, this};
+    view_->addDock(tr("&Why"), "Why", "Shift+F2",
+                   tr("Why a line is rated and chosen, and an entry has its place"), *why_);
+    view_->addDock(tr("Wort&h"), "Worth", "Shift+F6", tr("Chances and fair odds of the race's entries"),
+                   *worthDock_);
+    view_->addDock(tr("T&ickets"), "Tickets", "Shift+F7", tr("What tickets cost; nothing is bet"),
+                   *ticketsDock_);
     menuBar()->insertMenu(menus_->menu(Menu::tools)->menuAction(), view_);
     connect(view_, &ViewMenu::overviewWanted, this, &MainWindow::showOverview);
     help_ = new HelpItems{*menus_->menu(Menu::help), appearance_, [this] { return guidesPlace(); }, *this};
@@ -180,11 +207,14 @@ void MainWindow::buildNotices() {
 
 // By the headings of the guide, which a test looks up.
 QString MainWindow::guidesPlace() const {
+    const QWidget* focused = QApplication::focusWidget();
+    if (worthDock_->isAncestorOf(focused)) return "What an entry is worth";
+    if (ticketsDock_->isAncestorOf(focused)) return "Tickets";
     if (theScreen.summaryVisible) return "What the card earned";
     if (theScreen.profileVisible) return "Betting profiles";
     if (theScreen.tracksVisible || theScreen.picksVisible) return "Tracks and picks";
     if (!cardIsOpen()) return "Start Quillon";
-    if (board_->isAncestorOf(QApplication::focusWidget())) return "Record the results";
+    if (board_->isAncestorOf(focused)) return "Record the results";
     if (theScreen.pastPerformanceOpen && !overviewWanted_) return "Past lines, and taking another one";
     return "Read the races";
 }
@@ -240,6 +270,7 @@ void MainWindow::refresh() {
     raceList_->refresh();
     changes_->refresh();
     why_->refresh();
+    refreshWorth();
     stars_->refresh();
     choices_->refresh();
     view_->refresh(overviewWanted_);

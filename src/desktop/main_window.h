@@ -3,6 +3,7 @@
 
 #include "desktop/appearance.h"
 #include "desktop/command_runner.h"
+#include "desktop/tonights_odds.h"
 
 #include <QDockWidget>
 #include <QMainWindow>
@@ -29,11 +30,14 @@ class RaceBar;
 class RaceListPanel;
 class RacePage;
 class RacePanel;
+class SideDock;
 class StarsWindow;
 class StatusLine;
+class TicketsPanel;
 class ViewMenu;
 class WhyDock;
 class WindowNotices;
+class WorthPanel;
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -58,6 +62,7 @@ protected:
 private:
     void buildPages();
     void buildDocks();
+    void buildWorth();
     void buildEditMenu();
     void buildNotices();
     void watchSession();
@@ -68,6 +73,7 @@ private:
     QString guidesPlace() const;
     void takeUpEnd();
     void leaveOverviewWithTheRace();
+    void refreshWorth();
     QWidget* pageWanted() const;
 
     Appearance& appearance_;
@@ -92,6 +98,11 @@ private:
     RaceListPanel* raceList_ = nullptr;
     ChangesDock* changes_ = nullptr;
     WhyDock* why_ = nullptr;
+    OddsInMemory odds_;
+    SideDock* worthDock_ = nullptr;
+    WorthPanel* worth_ = nullptr;
+    SideDock* ticketsDock_ = nullptr;
+    TicketsPanel* tickets_ = nullptr;
     StarsWindow* stars_ = nullptr;
     ChoiceDialog* choices_ = nullptr;
     FindBar* find_ = nullptr;

@@ -6,8 +6,9 @@
 
 namespace quillon {
 
-SideDock::SideDock(const QString& title, Appearance& appearance, QMainWindow& window)
+SideDock::SideDock(const QString& title, const char* name, Appearance& appearance, QMainWindow& window)
     : QDockWidget{title, &window}, appearance_{appearance}, window_{window} {
+    setObjectName(name);
     window_.addDockWidget(Qt::RightDockWidgetArea, this);
     hide();
 }
@@ -17,7 +18,7 @@ void SideDock::open(bool wanted) {
     if (wanted) setFloating(window_.width() < appearance_.pixels(roomForBoth));
     if (wanted && isFloating()) putBeside();
     setVisible(wanted);
-    if (wanted) widget()->setFocus();
+    if (wanted && widget()) widget()->setFocus();
 }
 
 // Right of the window where the desktop has room, else over its lower right corner, where the past lines are.

@@ -1,4 +1,4 @@
-// A dock beside the race where the window has room for both, else a window of its own beside or over it.
+// A panel as a dock of the window: beside the race where there is room for both, else on its own.
 #pragma once
 
 #include "desktop/appearance.h"
@@ -12,8 +12,9 @@ class SideDock : public QDockWidget {
     Q_OBJECT
 
 public:
-    SideDock(const QString& title, Appearance& appearance, QMainWindow& window);
+    SideDock(const QString& title, const char* name, Appearance& appearance, QMainWindow& window);
 
+    /// Shows the panel and gives it the keys, or puts it away.
     void open(bool wanted);
 
 private:

@@ -23,12 +23,13 @@ constexpr std::array themes{ThemeItem{Theme::system, "ThemeSystem", "As the &Des
 } // namespace
 
 ViewMenu::ViewMenu(Appearance& appearance, DesktopPorts& ports, QDockWidget& raceList, ChangesDock& changes,
-                   SideDock& why, QWidget* parent)
+                   QWidget* parent)
     : QMenu{tr("&View"), parent}, appearance_{appearance} {
     setToolTipsVisible(true);
-    addPlaces(raceList, changes);
-    addWhy(why);
-    addSeparator();
+    addPlaces(raceList);
+    afterDocks_ = addSeparator();
+    addDock(tr("Chan&ges"), "Changes", "F2",
+            tr("What was changed on the card, and the program's selections beside mine"), changes);
     addZoom();
     addSeparator();
     addViewer(ports);
@@ -44,7 +45,7 @@ QAction* ViewMenu::add(const QString& text, const QList<QKeySequence>& keys, con
     return action;
 }
 
-void ViewMenu::addPlaces(QDockWidget& raceList, ChangesDock& changes) {
+void ViewMenu::addPlaces(QDockWidget& raceList) {
     overview_ = add(tr("Card &Overview"), {QKeySequence{"F4"}}, tr("All races of the card at a glance"),
                     [this](bool wanted) { emit overviewWanted(wanted); });
     overview_->setObjectName("Overview");
@@ -54,21 +55,18 @@ void ViewMenu::addPlaces(QDockWidget& raceList, ChangesDock& changes) {
     list->setShortcut(QKeySequence{"F3"});
     list->setStatusTip(tr("The list of the card's races; a double click opens one"));
     addAction(list);
-    QAction* changesAction = add(tr("Chan&ges"), {QKeySequence{"F2"}},
-                                 tr("What was changed on the card, and the program's selections beside mine"),
-                                 [&changes](bool wanted) { changes.open(wanted); });
-    changesAction->setObjectName("Changes");
-    changesAction->setCheckable(true);
-    connect(&changes, &QDockWidget::visibilityChanged, changesAction, &QAction::setChecked);
 }
 
-void ViewMenu::addWhy(SideDock& why) {
-    QAction* action = add(tr("&Why"), {QKeySequence{"Shift+F2"}},
-                          tr("Why a line is rated and chosen, and an entry has its place"),
-                          [&why](bool wanted) { why.open(wanted); });
-    action->setObjectName("Why");
+void ViewMenu::addDock(const QString& text, const char* name, const char* keys, const QString& hint,
+                       SideDock& dock) {
+    auto* action = new QAction{text, this};
+    action->setObjectName(name);
+    action->setShortcut(QKeySequence{keys});
+    action->setStatusTip(hint);
     action->setCheckable(true);
-    connect(&why, &QDockWidget::visibilityChanged, action, &QAction::setChecked);
+    connect(action, &QAction::triggered, this, [&dock](bool wanted) { dock.open(wanted); });
+    connect(&dock, &QDockWidget::visibilityChanged, action, &QAction::setChecked);
+    insertAction(afterDocks_, action);
 }
 
 void ViewMenu::addZoom() {

@@ -19,7 +19,11 @@ class ViewMenu : public QMenu {
 
 public:
     ViewMenu(Appearance& appearance, DesktopPorts& ports, QDockWidget& raceList, ChangesDock& changes,
-             SideDock& why, QWidget* parent);
+             QWidget* parent);
+
+    /// An item that shows a dock and puts it away, below the others of its kind.
+    void addDock(const QString& text, const char* name, const char* keys, const QString& hint,
+                 SideDock& dock);
 
     /// Enabled and checked as it is on show.
     void refresh(bool overviewShown);
@@ -28,8 +32,7 @@ signals:
     void overviewWanted(bool wanted);
 
 private:
-    void addPlaces(QDockWidget& raceList, ChangesDock& changes);
-    void addWhy(SideDock& why);
+    void addPlaces(QDockWidget& raceList);
     void addZoom();
     void addViewer(DesktopPorts& ports);
     void addThemes();
@@ -39,6 +42,7 @@ private:
 
     Appearance& appearance_;
     QAction* overview_ = nullptr;
+    QAction* afterDocks_ = nullptr;
 };
 
 } // namespace quillon

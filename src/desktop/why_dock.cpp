@@ -7,8 +7,7 @@
 namespace quillon {
 
 WhyDock::WhyDock(Appearance& appearance, QMainWindow& window)
-    : SideDock{tr("Why"), appearance, window}, panel_{new WhyPanel{appearance, this}} {
-    setObjectName("WhyDock");
+    : SideDock{tr("Why"), "WhyDock", appearance, window}, panel_{new WhyPanel{appearance, this}} {
     setWidget(panel_);
 }
 

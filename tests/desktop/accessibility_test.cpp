@@ -62,6 +62,21 @@ TEST_F(AccessibilityTest, EveryControlOfTheOtherPagesHasAName) {
         if (other->isVisible() && !controlsOf(*other).empty()) expectNames(*other);
 }
 
+TEST_F(AccessibilityTest, EveryControlOfTheWorthAndTheTicketsHasAName) {
+    startInWindow();
+    for (const char* keys : {"Shift+F6", "Shift+F7"}) {
+        pressKeys(keys);
+        auto* dock = window->findChild<QWidget*>(keys[7] == '6' ? "WorthDock" : "TicketsDock");
+        ASSERT_TRUE(dock && dock->isVisible());
+        for (QWidget* control : dock->findChildren<QWidget*>()) {
+            if (!takesKeys(*control)) continue;
+            QAccessibleInterface* told = QAccessible::queryAccessibleInterface(control);
+            ASSERT_TRUE(told) << describe(*control);
+            EXPECT_FALSE(told->text(QAccessible::Name).trimmed().isEmpty()) << describe(*control);
+        }
+    }
+}
+
 TEST_F(AccessibilityTest, TabReachesEveryControlOfARace) {
     startInWindow();
     window->runner().run(CommandId::EntryButton, numberArgument(1));
