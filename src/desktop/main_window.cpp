@@ -167,7 +167,7 @@ void MainWindow::buildMenus() {
                    tr("Why a line is rated and chosen, and an entry has its place"), *why_);
     view_->addDock(tr("Wort&h"), "Worth", "Shift+F6", tr("Chances and fair odds of the race's entries"),
                    *worthDock_);
-    view_->addDock(tr("T&ickets"), "Tickets", "Shift+F7", tr("What tickets cost; nothing is bet"),
+    view_->addDock(tr("Ti&ckets"), "Tickets", "Shift+F7", tr("What tickets cost; nothing is bet"),
                    *ticketsDock_);
     menuBar()->insertMenu(menus_->menu(Menu::tools)->menuAction(), view_);
     connect(view_, &ViewMenu::overviewWanted, this, &MainWindow::showOverview);

@@ -7,6 +7,7 @@
 #include "desktop/spin_box_name.h"
 #include "results/board.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QScopedValueRollback>
@@ -121,15 +122,15 @@ void TicketBuilder::buildMarks() {
         addMark(QString{"S&%1"}.arg(place), names.at(static_cast<std::size_t>(place) - 1),
                 tr("Check or uncheck S%1 in the row at work").arg(place),
                 [this, place] { checkSelection(place); });
-    addMark(tr("&All"), "TicketAll", tr("Check everyone in the row at work: a wheel"),
+    addMark(tr("A&ll"), "TicketAll", tr("Check everyone in the row at work: a wheel"),
             [this] { checkAll(true); });
-    addMark(tr("&None"), "TicketNone", tr("Uncheck everyone in the row at work"),
+    addMark(tr("N&one"), "TicketNone", tr("Uncheck everyone in the row at work"),
             [this] { checkAll(false); });
 }
 
 void TicketBuilder::arrange() {
     auto* choice = new QHBoxLayout;
-    auto* stakeLabel = new QLabel{tr("Sta&ke:"), this};
+    auto* stakeLabel = new QLabel{tr("&Stake:"), this};
     stakeLabel->setBuddy(stake_);
     choice->addWidget(pool_);
     choice->addWidget(boxed_);
@@ -159,6 +160,9 @@ void TicketBuilder::lay() {
         button->setMinimumWidth(button->fontMetrics().horizontalAdvance("None") + 16);
     for (QPushButton* button : marks_) button->setMaximumWidth(button->minimumWidth());
     table_->setFont(appearance_.viewFont(10, false));
+    QPalette palette = QApplication::palette();
+    palette.setColor(QPalette::Base, palette.color(QPalette::Button)); // empty boxes are lost on a dark base
+    table_->setPalette(palette);
     const int row = table_->fontMetrics().height() + 8;
     table_->verticalHeader()->setDefaultSectionSize(row);
     table_->setFixedHeight(mostSets * row + 2 * table_->frameWidth() +

@@ -104,7 +104,7 @@ void TicketSlip::buildButtons() {
         connect(button, &QPushButton::clicked, this, slot);
         buttons_.push_back(button);
     };
-    add(tr("&Take Off"), "RemoveTicket", tr("Take the chosen tickets off the slip"),
+    add(tr("Ta&ke Off"), "RemoveTicket", tr("Take the chosen tickets off the slip"),
         [this] { removeChosen(); });
     add(tr("&Copy Slip"), "CopySlip", tr("Copy the slip as text"), [this] { copy(); });
     add(tr("P&rint Slip..."), "PrintSlip", tr("Show the slip as a page to print"), [this] { print(); });

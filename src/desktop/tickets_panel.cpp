@@ -16,7 +16,7 @@ constexpr int panelTwips = 8600;
 
 TicketsPanel::TicketsPanel(Appearance& appearance, QWidget* parent)
     : QWidget{parent}, appearance_{appearance}, builder_{new TicketBuilder{appearance, this}},
-      slip_{new TicketSlip{appearance, this}}, sheet_{new QPushButton{tr("Pick Sheet'&s Tickets"), this}} {
+      slip_{new TicketSlip{appearance, this}}, sheet_{new QPushButton{tr("P&ick Sheet's Tickets"), this}} {
     setObjectName("TicketsPanel");
     sheet_->setObjectName("SheetTickets");
     sheet_->setToolTip(tr("Put the tickets of the pick selections sheet on the slip, at the stake above"));

@@ -11,15 +11,19 @@
 #include "desktop/menus.h"
 #include "desktop/stars_window.h"
 #include "screen/ports.h"
+#include "support/season.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QPainter>
+#include <QSpinBox>
 #include <QStandardPaths>
 #include <QTableView>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -98,6 +102,8 @@ public:
         run(CommandId::Command3, numberArgument(0));
         run(CommandId::Command4, numberArgument(4));
         take("scratched");
+        takeWorth();
+        takeTickets();
         run(CommandId::DriverColumn, numberArgument(2));
         take("driver-list");
         run(CommandId::DriverChoice, textArgument("EXIT"));
@@ -139,6 +145,38 @@ public:
     bool failed() const { return failed_; }
 
 private:
+    // After a season of invented cards, which no list of the later pictures should have.
+    void takeWorth() {
+        putSeason(20260314, 0.4, 40, 11);
+        show("Worth");
+        auto* table = window_.findChild<QTableWidget*>("WorthTable");
+        constexpr int tonight = 5;
+        int row = 0;
+        for (const char* odds : {"2/1", "9/2", "30", "5-2"}) table->item(row++, tonight)->setText(odds);
+        takeOf(*window_.findChild<QDockWidget*>("WorthDock"), "worth");
+        take("window-worth");
+        show("Worth");
+        std::filesystem::remove_all("A Quillon PRO/Race Cards");
+    }
+
+    void takeTickets() {
+        show("Tickets");
+        const auto child = [&](const char* name) { return window_.findChild<QWidget*>(name); };
+        qobject_cast<QComboBox*>(child("TicketType"))->setCurrentIndex(4); // a trifecta
+        qobject_cast<QDoubleSpinBox*>(child("TicketStake"))->setValue(0.5);
+        qobject_cast<QDoubleSpinBox*>(child("TicketBudget"))->setValue(50);
+        auto* boxes = window_.findChild<QTableWidget*>("TicketBoxes");
+        const std::vector<std::vector<int>> checked{{0, 1}, {0, 1, 3}, {0, 1, 2, 3}};
+        for (int at = 0; at < boxes->rowCount(); ++at)
+            for (const int column : checked[static_cast<std::size_t>(at)])
+                boxes->item(at, column)->setCheckState(Qt::Checked);
+        for (const char* button : {"AddTicket", "SheetTickets"})
+            window_.findChild<QAbstractButton*>(button)->click();
+        takeOf(*window_.findChild<QDockWidget*>("TicketsDock"), "tickets");
+        take("window-tickets");
+        show("Tickets");
+    }
+
     void run(CommandId id, const Arguments& arguments = {}) {
         if (window_.runner().run(id, arguments)) return;
         std::fprintf(stderr, "%s could not be run\n", command(id).name);

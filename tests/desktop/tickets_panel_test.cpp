@@ -190,5 +190,13 @@ TEST_F(TicketsPanelTest, WithoutACardThereIsNothingToCheck) {
     EXPECT_EQ("0 combinations, 0.00", cost());
 }
 
+TEST_F(TicketsPanelTest, LookingAddsNoFault) {
+    startInWindow();
+    const auto before = journal.count();
+    pressKeys("Shift+F7");
+    press("SheetTickets");
+    EXPECT_EQ(before, journal.count());
+}
+
 } // namespace
 } // namespace quillon

@@ -128,6 +128,13 @@ TEST_F(WorthPanelTest, OddsAreTypedWithTheKeysAlone) {
     EXPECT_EQ(&margin(), QApplication::focusWidget());
 }
 
+TEST_F(WorthPanelTest, LookingAddsNoFault) {
+    startInWindow();
+    const auto before = journal.count();
+    pressKeys("Shift+F6");
+    EXPECT_EQ(before, journal.count());
+}
+
 // --- In a sentence --------------------------------------------------------------------------------------------
 
 Fit fitWith(const LogLoss& loss) {
