@@ -527,6 +527,13 @@ TEST_F(MainWindowTest, F1OpensTheGuideAtWhatIsOnShow) {
     EXPECT_EQ("Past lines, and taking another one", place());
     child<QLineEdit>(*window, "Box4").setFocus();
     EXPECT_EQ("Record the results", place());
+    window->resize(1700, 900); // room for the docks in the window
+    for (const auto& [keys, heading] :
+         {std::pair{"Shift+F6", "What an entry is worth"}, std::pair{"Shift+F7", "Tickets"}}) {
+        pressKeys(keys);
+        EXPECT_EQ(heading, place());
+        pressKeys(keys);
+    }
     pressKeys("F12");
     EXPECT_EQ("What the card earned", place());
     for (const bool Screen::*visible :

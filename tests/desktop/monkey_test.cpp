@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QPointer>
 #include <QSettings>
+#include <QToolButton>
 
 #include <algorithm>
 #include <ctime>
@@ -74,8 +75,15 @@ private:
         return found;
     }
 
+    /// Its menu would wait for ever; the items are picked anyway.
+    static bool opensMenu(const QAbstractButton* button) {
+        const auto* tool = qobject_cast<const QToolButton*>(button);
+        return tool && (tool->menu() || tool->popupMode() == QToolButton::InstantPopup);
+    }
+
     void press() {
-        const auto buttons = usable<QAbstractButton>();
+        auto buttons = usable<QAbstractButton>();
+        std::erase_if(buttons, opensMenu);
         if (buttons.empty()) return;
         QAbstractButton& button = *one(buttons);
         note("press", button);

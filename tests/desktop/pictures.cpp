@@ -154,7 +154,6 @@ private:
         int row = 0;
         for (const char* odds : {"2/1", "9/2", "30", "5-2"}) table->item(row++, tonight)->setText(odds);
         takeOf(*window_.findChild<QDockWidget*>("WorthDock"), "worth");
-        take("window-worth");
         show("Worth");
         std::filesystem::remove_all("A Quillon PRO/Race Cards");
     }
@@ -173,7 +172,6 @@ private:
         for (const char* button : {"AddTicket", "SheetTickets"})
             window_.findChild<QAbstractButton*>(button)->click();
         takeOf(*window_.findChild<QDockWidget*>("TicketsDock"), "tickets");
-        take("window-tickets");
         show("Tickets");
     }
 
