@@ -49,11 +49,15 @@ fs::path pathOf(TextView name) {
 
 Text nameOn(const fs::path& path) { return fromUtf8(disk::utf8Name(path)); }
 
+bool hasControls(TextView name) {
+    return std::any_of(name.begin(), name.end(), [](char c) { return c >= 0 && c < ' '; });
+}
+
 void checkFileName(TextView name) {
-    const bool control = std::any_of(name.begin(), name.end(), [](char c) { return c >= 0 && c < ' '; });
     const bool leadsElsewhere = name.find_first_of("/\\:") != TextView::npos || name == "." || name == "..";
     constexpr std::size_t longestName = 200;
-    if (name.empty() || control || leadsElsewhere || name.size() > longestName || disk::isReservedName(name))
+    if (name.empty() || hasControls(name) || leadsElsewhere || name.size() > longestName ||
+        disk::isReservedName(name))
         fail("\"" + Text{name.substr(0, 60)} + "\" is no file name");
 }
 
@@ -71,6 +75,14 @@ fs::path childIgnoringCase(const fs::path& folder, TextView name) {
     if (disk::isThere(plain)) return disk::asStored(plain);
     const auto found = foundIgnoringCase(folder.empty() ? fs::path{"."} : folder, name);
     return found ? disk::reachable(*found) : plain;
+}
+
+// A path that leads where the user wants it, in the case that he gave it.
+fs::path givenPath(TextView name) {
+    const fs::path path = pathOf(name);
+    if (path.filename().empty() || hasControls(name) || disk::isReservedName(nameOn(path)))
+        fail("\"" + Text{name.substr(0, 60)} + "\" is no path of a file");
+    return disk::reachable(path);
 }
 
 bool endsWithoutLineEnd(const fs::path& path) {
@@ -101,7 +113,7 @@ void takeBack(const fs::path& path, bool isNew, std::uintmax_t size) {
 } // namespace
 
 Text shownPath(const FilePlace& place) {
-    if (place.folder == Folder::working) return place.name;
+    if (place.folder == Folder::working || place.folder == Folder::given) return place.name;
     Text path = "C:\\";
     path += programFolder;
     path += '\\';
@@ -113,12 +125,13 @@ Text shownPath(const FilePlace& place) {
 }
 
 fs::path folderOnDisk(Folder folder) {
-    if (folder == Folder::working) return {};
+    if (folder == Folder::working || folder == Folder::given) return {};
     const fs::path root = childIgnoringCase(disk::root(), programFolder);
     return folder == Folder::program ? root : childIgnoringCase(root, nameOf(folder));
 }
 
 fs::path pathOnDisk(const FilePlace& place) {
+    if (place.folder == Folder::given) return givenPath(place.name);
     checkFileName(place.name);
     return childIgnoringCase(folderOnDisk(place.folder), place.name);
 }
@@ -155,6 +168,15 @@ bool hasRoomFor(std::streamoff size, Text& content) {
 } // namespace
 
 bool fileExists(const FilePlace& place) { return disk::isFile(pathOnDisk(place)); }
+
+std::optional<FileStamp> fileStamp(const FilePlace& place) {
+    const fs::path path = pathOnDisk(place);
+    std::error_code error;
+    if (!disk::isFile(path)) return std::nullopt;
+    FileStamp stamp{fs::absolute(path, error), fs::file_size(path, error), {}};
+    if (!error) stamp.written = fs::last_write_time(path, error);
+    return error ? std::nullopt : std::optional{stamp};
+}
 
 std::optional<Text> fileContent(const FilePlace& place) {
     const fs::path path = pathOnDisk(place);

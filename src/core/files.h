@@ -32,6 +32,7 @@ enum class Folder {
     entries,
     drivers,
     recovery,
+    given, ///< none of ours: the name is a path, as the user gave it
 };
 
 struct FilePlace {
@@ -56,6 +57,17 @@ std::vector<Text> filesIn(Folder folder, TextView extension);
 
 /// True where the file is there, whether or not it can be read.
 bool fileExists(const FilePlace& place);
+
+/// What tells a file from itself at another time: another program may have written it meanwhile.
+struct FileStamp {
+    std::filesystem::path path; ///< whole, since the working folder may change
+    std::uintmax_t size = 0;
+    std::filesystem::file_time_type written{};
+    bool operator==(const FileStamp&) const = default;
+};
+
+/// Nothing where the file isn't there.
+std::optional<FileStamp> fileStamp(const FilePlace& place);
 
 /// The whole file, or nothing when it can't be opened or read, or is too large for memory or for one of ours
 /// (a gigabyte).

@@ -140,6 +140,28 @@ TEST_F(CardTest, AnAppendedRecordNeverMergesWithATornLine) {
     EXPECT_EQ("first\r\nsec\r\nthird\r\n", contentOf("HRA.ini"));
 }
 
+TEST_F(CardTest, AGivenPathLeadsWhereTheUserWants) {
+    std::filesystem::create_directories("out/year 26");
+    writeFile({Folder::given, "out/year 26/Card.csv"}, "a,b\r\n");
+    writeFile({Folder::given, "card.csv"}, "c\r\n");
+    EXPECT_EQ("a,b\r\n", contentOf("out/year 26/Card.csv"));
+    EXPECT_EQ("c\r\n", contentOf("card.csv"));
+    EXPECT_EQ("out/year 26/Card.csv", shownPath({Folder::given, "out/year 26/Card.csv"}));
+    for (const char* path : {"", "out/", "missing/x.csv", "a\nb.csv", "out"})
+        EXPECT_FALSE(attempt([&] { writeFile({Folder::given, path}, "x"); })) << path;
+}
+
+TEST_F(CardTest, AFilesStampTellsThatItWasWritten) {
+    const FilePlace place{Folder::working, "Notes.txt"};
+    EXPECT_FALSE(fileStamp(place));
+    put("Notes.txt", "one");
+    const auto before = fileStamp(place);
+    ASSERT_TRUE(before);
+    EXPECT_EQ(before, fileStamp(place));
+    put("Notes.txt", "three");
+    EXPECT_NE(before, fileStamp(place));
+}
+
 TEST_F(CardTest, NamesThatLeadElsewhereAreNoFileNames) {
     for (const char* name : {"", ".", "..", "../x", "a/b", "a\\b", "C:x", "a\nb"})
         EXPECT_FALSE(attempt([&] { writeFile({Folder::selections, name}, "x"); })) << name;
