@@ -11,7 +11,9 @@
 #include "app/frame.h"
 #include "app/help.h"
 #include "app/links.h"
+#include "app/table_export.h"
 #include "card/race_card.h"
+#include "cardfiles/notes.h"
 #include "day/card_load.h"
 #include "day/changes.h"
 #include "day/driver_change.h"
@@ -26,6 +28,7 @@
 #include "reports/viewers.h"
 #include "results/auto_record.h"
 #include "results/board.h"
+#include "results/card_notes.h"
 #include "results/heats.h"
 #include "results/race_display.h"
 #include "screen/screen.h"
@@ -114,6 +117,21 @@ bool canUndoTo(const Arguments& arguments) {
 bool isLeftBehind(const Arguments&) { return canRecover(); }
 bool cardIsOpen(const Arguments&) { return changes.isOpen(); }
 
+bool isNote(const Text& words) { return noteWords(words).has_value(); }
+bool isExport(const Text& words) { return tableExport(words).has_value(); }
+
+void PrintNotes() {
+    bool& wanted = screen.item(CommandId::PrintNotes).checked;
+    wanted = !wanted;
+}
+
+void PrintProgram() {
+    if (screen.item(CommandId::PrintNotes).checked)
+        printCondensedProgram(PrintCardNotes);
+    else
+        PrintCondensedProgram();
+}
+
 using enum Effect;
 using Id = CommandId;
 
@@ -138,8 +156,13 @@ constexpr std::array commands{
         {Menu::file, 'C', "Ctrl+W", "Close Race Card", "Save the race card and clear the window"}},
     Command{Id::PrintSummary, "PrintSummary", run<PrintSummary>, keepsCard,
         {Menu::file, 'P', "", "Print", "Read the day's results in the text viewer, to print them"}},
-    Command{Id::PrintCondensedProgram, "PrintCondensedProgram", run<PrintCondensedProgram>, keepsCard,
+    Command{Id::PrintCondensedProgram, "PrintCondensedProgram", run<PrintProgram>, keepsCard,
         {Menu::file, 'o', "Ctrl+P", "Print Condensed Program", "Print the condensed program, a page a race"}},
+    Command{Id::PrintNotes, "PrintNotes", run<PrintNotes>, keepsCard,
+        {Menu::fileFoot, 't', "", "Print Notes with Program", "Print the notes on the card after the condensed program", true}},
+    Command{Id::Export, "Export", run<Export>, keepsCard,
+        {.caption = "Export", .hint = "Write the table to a file that a spreadsheet or another program reads"},
+        Takes::text, "PART FILE", nullptr, isExport},
     Command{Id::Exit_QL, "Exit_QL", run<Exit_QL>, keepsCard,
         {Menu::file, 'x', "Ctrl+Q", "Exit", "End Quillon; asks only where something is not saved"}},
     Command{Id::CloseWindow, "CloseWindow", run<CloseWindow>, keepsCard},
@@ -163,6 +186,11 @@ constexpr std::array commands{
     Command{Id::Forget, "Forget", run<Forget>, keepsCard,
         {Menu::edit, 'P', "", "Put Away Card Left Behind", "Put away for good what was kept of the card"},
         Takes::nothing, "", isLeftBehind},
+
+    // What was noted from card to card
+    Command{Id::Note, "Note", run<Note>, keepsCard,
+        {.caption = "Add Note", .hint = "Keep a note that is found again on every later card"},
+        Takes::text, "NAME = TEXT", cardIsOpen, isNote},
 
     // Walking the races
     Command{Id::MainScreen, "MainScreen", run<MainScreen>, keepsCard,

@@ -20,7 +20,11 @@ const Command* findCommand(TextView name, std::span<const Command> commands) {
 
 bool isMenuItem(const Command& command) {
     return command.item.menu != Menu::none && command.item.menu != Menu::walk &&
-           command.item.menu != Menu::edit;
+           command.item.menu != Menu::edit && command.item.menu != Menu::fileFoot;
+}
+
+bool hasForm(const Command& command, const Text& text) {
+    return command.isWellFormed == nullptr || command.isWellFormed(text);
 }
 
 bool mayChangeCard(const Command& command) {

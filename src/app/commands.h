@@ -32,6 +32,7 @@ enum class Menu {
     edit, ///< beyond the menus of old: not told among them
     walk, ///< the head of the navigation menu: commands with a button of their own, here for the keyboard
     file,
+    fileFoot, ///< its lower part: beyond the menus of old, too
     navigation,
     tools,
     editor,
@@ -59,6 +60,7 @@ struct Command {
     Takes takes = Takes::nothing;
     const char* argumentNames = "";                ///< as a usage line shows them: "n TEXT"
     bool (*available)(const Arguments&) = nullptr; ///< beyond the state of its menu item; nullptr is always
+    bool (*isWellFormed)(const Text&) = nullptr;   ///< of a text with a form of its own; nullptr is any
 };
 
 /// All rows, in the order of their ids.
@@ -72,6 +74,9 @@ const Command* findCommand(TextView name, std::span<const Command> commands = co
 
 /// Whether it is an item of a menu, whose state is the screen's.
 bool isMenuItem(const Command& command);
+
+/// Whether a text that it is given has the form that it wants.
+bool hasForm(const Command& command, const Text& text);
 
 /// Whether running it may be a change of the card, and whether it may lose what was typed on the board.
 bool mayChangeCard(const Command& command);

@@ -52,6 +52,7 @@ constexpr std::array folderMeanings{
 constexpr std::array fileMeanings{
     FileMeaning{"HRA.ini",             "this card is not in the archive"},
     FileMeaning{"Stars5.ini",          "the stars' profile lacks this card"},
+    FileMeaning{"Notes.txt",           "the note is not kept"},
     FileMeaning{"DriverList.txt",      "the list of drivers is older than the card"},
     FileMeaning{"Todays Results.txt",  "the day's results on disk are older than the summary"},
     FileMeaning{"Profile Results.txt", "the profile on disk is older than the screen"},

@@ -116,7 +116,8 @@ void Console::takeCommand(TextView name, std::optional<TextView> rest) {
 
     const auto arguments = argumentsFor(command->takes, rest);
     const Text names = command->argumentNames;
-    if (!arguments) return transcript_.line("usage: " + Text{name} + (names.empty() ? "" : " " + names));
+    if (!arguments || !hasForm(*command, arguments->text))
+        return transcript_.line("usage: " + Text{name} + (names.empty() ? "" : " " + names));
 
     bool available = false; // also where a number leads to no button at all and the question itself fails
     attempt([&] { available = isAvailable(*command, *arguments); });

@@ -1,5 +1,6 @@
 #include "console/show.h"
 
+#include "console/show_notes.h"
 #include "console/show_store.h"
 #include "console/show_why.h"
 #include "console/show_worth.h"
@@ -7,6 +8,8 @@
 #include "core/journal.h"
 #include "day/changes.h"
 #include "day/recovery.h"
+#include "results/card_json.h"
+#include "screen/analysis_tables.h"
 #include "screen/screen.h"
 
 #include <array>
@@ -37,17 +40,6 @@ struct NamedGrid {
     TextView usage{};           ///< what a usage line asks for, where the words name nothing
 };
 
-struct OneGrid {
-    TextView name;
-    Grid Screen::*grid;
-};
-
-constexpr std::array oneGrids{
-    OneGrid{"summary", &Screen::summary}, OneGrid{"profile", &Screen::profile},
-    OneGrid{"tracks", &Screen::tracks},   OneGrid{"picks", &Screen::picks},
-    OneGrid{"stars", &Screen::stars},
-};
-
 template <std::size_t count>
 NamedGrid viewOf(const std::array<Grid, count>& views, std::optional<TextView> words, TextView usage) {
     const auto number = wholeNumber(words.value_or(TextView{}));
@@ -61,7 +53,7 @@ NamedGrid gridNamed(TextView words) {
     const TextView name = takeWord(rest);
     if (name == "raceview") return viewOf(screen.raceView, rest, "raceview R");
     if (name == "dataview") return viewOf(screen.dataView, rest, "dataview N");
-    for (const OneGrid& row : oneGrids)
+    for (const AnalysisTable& row : analysisTables)
         if (row.name == words) return {.grid = &(screen.*row.grid)};
     return {.usage = "PART"};
 }
@@ -220,6 +212,11 @@ void showRecovery(Transcript& transcript) {
     transcript.line(heading.cardName + "\t" + std::to_string(heading.changes) + "\t" + timeOf(heading));
 }
 
+void showJson(Transcript& transcript) {
+    const std::string document = cardAsJson();
+    if (!document.empty()) transcript.utf8Line(document);
+}
+
 struct Part {
     TextView name;
     void (*print)(Transcript&);
@@ -233,6 +230,7 @@ constexpr std::array parts{
     Part{"faults", showFaults},       Part{"store", showStore},
     Part{"changes", showChanges},     Part{"unsaved", showUnsaved},
     Part{"pending", showPending},     Part{"recovery", showRecovery},
+    Part{"json", showJson},
 };
 
 } // namespace
@@ -248,6 +246,7 @@ void show(TextView part, std::span<const Command> commands, Transcript& transcri
     const TextView name = takeWord(rest);
     if (name == "fair") return showFair(rest, transcript);
     if (name == "ticket") return showTicket(rest, transcript);
+    if (name == "notes") return showNotes(rest.value_or(TextView{}), transcript);
     if (name == "colours")
         showGrid("show colours", rest.value_or(TextView{}), printColours, transcript);
     else

@@ -5,6 +5,7 @@
 
 #include <ostream>
 #include <string>
+#include <string_view>
 
 namespace quillon {
 
@@ -17,6 +18,7 @@ public:
     explicit Transcript(std::ostream& out) : out_(out) {}
 
     void line(TextView text) { out_ << onOneLine(text) << '\n'; }
+    void utf8Line(std::string_view utf8) { out_ << utf8 << '\n'; } ///< on one line already
     void flush() { out_.flush(); }
 
 private:

@@ -147,7 +147,9 @@ void Condensed_PPP() {
     attempt([&] { writeFile(cardFile(Folder::programs, "ppp"), program.content()); });
 }
 
-void PrintCondensedProgram() {
+void PrintCondensedProgram() { printCondensedProgram({}); }
+
+void printCondensedProgram(const std::function<void()>& lastPages) {
     const Step step{"PrintCondensedProgram"};
     ports.message("Check Printer ON", "");
     if (card.cardFileName.empty()) return;
@@ -156,6 +158,7 @@ void PrintCondensedProgram() {
     LineReader lines{program};
     int number = 0;
     while (const auto line = lines.next()) printProgramLine(++number, *line);
+    if (lastPages) lastPages();
     ports.printEnd();
     ports.message("Turn printer 'ON' then click 'OK' ", "");
 }

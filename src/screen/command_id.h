@@ -15,6 +15,8 @@ enum class CommandId {
     CloseRC,
     PrintSummary,
     PrintCondensedProgram,
+    PrintNotes,
+    Export,
     Exit_QL,
     CloseWindow,
 
@@ -25,6 +27,9 @@ enum class CommandId {
     TakeAllIn,
     Recover,
     Forget,
+
+    // What was noted from card to card
+    Note,
 
     // Walking the races
     MainScreen,

@@ -39,6 +39,22 @@ TEST_F(CardSearchTest, HorsesDriversAndTrainersOfAllRacesAreFoundInTheirOrder) {
     EXPECT_EQ(expected, placesInCard("  CORN "));
 }
 
+TEST_F(CardSearchTest, NotesAreFoundAfterTheNamesOfTheirEntry) {
+    card.cardFileName = "MVR_20260314.pmd";
+    put("Notes.txt", "20260301\tMVR_20260301\tDOE, J\tbad in corners\r\n"
+                     "20260301\tMVR_20260301\tDoe, J\tbad in corners\r\n"
+                     "20260301\tMVR_20260301\tRace 2\tof another card, corners\r\n"
+                     "20260314\tMVR_20260314\tRace 2\tmud in the Corner\r\n"
+                     "20260314\tMVR_20260314\tNobody\tcorner\r\n");
+    const std::vector<CardPlace> expected{
+        {2, 1, Kind::note, "mud in the Corner"},
+        {2, 1, Kind::horse, "Corner Boy"},
+        {2, 1, Kind::note, "bad in corners"},
+        {7, 3, Kind::note, "bad in corners"},
+    };
+    EXPECT_EQ(expected, placesInCard("corner"));
+}
+
 TEST_F(CardSearchTest, NothingIsFoundOfABlankOrAStrangeText) {
     EXPECT_TRUE(placesInCard("  ").empty());
     EXPECT_TRUE(placesInCard("zebra").empty());
