@@ -33,6 +33,7 @@ QString inWords(const CardPlace& place) {
     switch (place.kind) {
     case CardPlace::Kind::driver: return CardFinder::tr("%1: driver %2").arg(entry, shown(place.text));
     case CardPlace::Kind::trainer: return CardFinder::tr("%1: trainer %2").arg(entry, shown(place.text));
+    case CardPlace::Kind::note: return CardFinder::tr("%1: note \"%2\"").arg(entry, shown(place.text));
     case CardPlace::Kind::horse: break;
     }
     return entry;

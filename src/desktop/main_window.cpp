@@ -14,10 +14,12 @@
 #include "desktop/choice_dialog.h"
 #include "desktop/desktop_ports.h"
 #include "desktop/empty_panel.h"
+#include "desktop/export_menu.h"
 #include "desktop/find_bar.h"
 #include "desktop/header_panel.h"
 #include "desktop/help_items.h"
 #include "desktop/menus.h"
+#include "desktop/notes_panel.h"
 #include "desktop/notice_bar.h"
 #include "desktop/overview_panel.h"
 #include "desktop/past_lines_panel.h"
@@ -117,6 +119,7 @@ void MainWindow::buildDocks() {
     why_->follow(*race_->findChild<CellTableView*>(), *pastLines_->findChild<CellTableView*>("RaceLines"),
                  *pastLines_->findChild<CellTableView*>("EntryLines"));
     buildWorth();
+    buildNotes();
 }
 
 void MainWindow::buildWorth() {
@@ -134,6 +137,13 @@ void MainWindow::buildWorth() {
 void MainWindow::refreshWorth() {
     if (worthDock_->isVisible()) worth_->refresh();
     if (ticketsDock_->isVisible()) tickets_->refresh();
+}
+
+void MainWindow::buildNotes() {
+    notesDock_ = new SideDock{tr("Notes"), "NotesDock", appearance_, *this};
+    notes_ = new NotesPanel{runner_, appearance_, notesDock_};
+    notes_->follow(*race_->findChild<CellTableView*>());
+    notesDock_->setWidget(notes_);
 }
 
 void MainWindow::connectPanels() {
@@ -162,6 +172,7 @@ void MainWindow::connectFinder() {
 void MainWindow::buildMenus() {
     menus_ = new Menus{*menuBar(), runner_, this};
     buildEditMenu();
+    buildExportMenu();
     view_ = new ViewMenu{appearance_, *ports_, *raceListDock_, *changes_, this};
     view_->addDock(tr("&Why"), "Why", "Shift+F2",
                    tr("Why a line is rated and chosen, and an entry has its place"), *why_);
@@ -169,6 +180,8 @@ void MainWindow::buildMenus() {
                    *worthDock_);
     view_->addDock(tr("Ti&ckets"), "Tickets", "Shift+F7", tr("What tickets cost; nothing is bet"),
                    *ticketsDock_);
+    view_->addDock(tr("&Notes"), "Notes", "Ctrl+N", tr("Notes on the race, its horses, drivers and trainers"),
+                   *notesDock_);
     menuBar()->insertMenu(menus_->menu(Menu::tools)->menuAction(), view_);
     connect(view_, &ViewMenu::overviewWanted, this, &MainWindow::showOverview);
     help_ = new HelpItems{*menus_->menu(Menu::help), appearance_, [this] { return guidesPlace(); }, *this};
@@ -186,6 +199,15 @@ void MainWindow::buildEditMenu() {
     add(tr("&Find..."), QKeySequence::Find, tr("Find a text in the table"), [this] { find_->open(); });
     add(tr("Find &Next"), QKeySequence{"Ctrl+G"}, tr("Find the text once more"),
         [this] { find_->findNext(); });
+}
+
+void MainWindow::buildExportMenu() {
+    exporting_ = new ExportMenu{runner_, this};
+    QMenu* file = menus_->menu(Menu::file);
+    file->insertMenu(menus_->action(CommandId::Exit_QL), exporting_);
+    connect(exporting_, &ExportMenu::written, this,
+            [this](const QString& path) { status_->tell(tr("Written: %1").arg(path)); });
+    connect(exporting_, &ExportMenu::notWritten, this, [this](const QString& why) { status_->tell(why); });
 }
 
 void MainWindow::buildNotices() {
@@ -214,6 +236,7 @@ QString MainWindow::guidesPlace() const {
     if (theScreen.profileVisible) return "Betting profiles";
     if (theScreen.tracksVisible || theScreen.picksVisible) return "Tracks and picks";
     if (!cardIsOpen()) return "Start Quillon";
+    if (notesDock_->isAncestorOf(focused)) return "Notes";
     if (board_->isAncestorOf(focused)) return "Record the results";
     if (theScreen.pastPerformanceOpen && !overviewWanted_) return "Past lines, and taking another one";
     return "Read the races";
@@ -271,6 +294,8 @@ void MainWindow::refresh() {
     changes_->refresh();
     why_->refresh();
     refreshWorth();
+    notes_->refresh();
+    exporting_->refresh();
     stars_->refresh();
     choices_->refresh();
     view_->refresh(overviewWanted_);

@@ -19,10 +19,12 @@ class ChangesDock;
 class ChoiceDialog;
 class DesktopPorts;
 class EmptyPanel;
+class ExportMenu;
 class FindBar;
 class HeaderPanel;
 class HelpItems;
 class Menus;
+class NotesPanel;
 class NoticeBar;
 class OverviewPanel;
 class PastLinesPanel;
@@ -49,6 +51,7 @@ public:
     CommandRunner& runner() { return runner_; }
     Menus& menus() { return *menus_; }
     BeforeCommands& before() { return *before_; }
+    ExportMenu& exporting() { return *exporting_; }
 
     /// Draws everything that the screen holds now.
     void refresh();
@@ -64,6 +67,8 @@ private:
     void buildDocks();
     void buildWorth();
     void buildEditMenu();
+    void buildExportMenu();
+    void buildNotes();
     void buildNotices();
     void watchSession();
     void titleWindow();
@@ -103,6 +108,9 @@ private:
     WorthPanel* worth_ = nullptr;
     SideDock* ticketsDock_ = nullptr;
     TicketsPanel* tickets_ = nullptr;
+    SideDock* notesDock_ = nullptr;
+    NotesPanel* notes_ = nullptr;
+    ExportMenu* exporting_ = nullptr;
     StarsWindow* stars_ = nullptr;
     ChoiceDialog* choices_ = nullptr;
     FindBar* find_ = nullptr;

@@ -5,6 +5,8 @@
 #include "desktop/shown_text.h"
 
 #include <QCoreApplication>
+#include <QDate>
+#include <QLocale>
 #include <QStringList>
 
 namespace quillon {
@@ -13,6 +15,7 @@ namespace {
 constexpr QChar lineSign{0x25B6}; // as at the line in the entry's frame
 constexpr QChar driverSign{'D'};
 constexpr QChar typedSign{'*'};
+constexpr QChar noteSign{'N'};
 constexpr int fifth = 5;
 
 QString tr(const char* text) { return QCoreApplication::translate("Marks", text); }
@@ -36,7 +39,7 @@ QString columnsInWords(const std::vector<int>& columns) {
 
 } // namespace
 
-QString signOf(const EntryMarks& marks) {
+QString signOf(const EntryMarks& marks, bool hasNotes) {
     QStringList parts;
     if (marks.place > 0) parts += QString{"S%1"}.arg(marks.place);
     if (marks.scratched) parts += tr("Scr");
@@ -45,6 +48,7 @@ QString signOf(const EntryMarks& marks) {
     if (marks.lineTaken) rest += lineSign;
     if (marks.driverChanged) rest += driverSign;
     if (!marks.typedColumns.empty()) rest += typedSign;
+    if (hasNotes) rest += noteSign;
     if (!rest.isEmpty()) parts += rest;
     return parts.join(' ');
 }
@@ -54,10 +58,17 @@ QString longestSign() {
     all.place = 1;
     all.lineTaken = all.driverChanged = true;
     all.typedColumns = {RaceColumn::classText};
-    return signOf(all);
+    return signOf(all, true);
 }
 
-QString wordsOf(const EntryMarks& marks) {
+QString wordsOf(const NoteLine& note) {
+    const QString stored = shown(note.date);
+    const QDate date = QDate::fromString(stored, QStringLiteral("yyyyMMdd"));
+    const QString day = date.isValid() ? QLocale{QLocale::English}.toString(date, "d MMMM yyyy") : stored;
+    return tr("%1, %2 (%3): %4").arg(shown(note.name), day, shown(note.card), shown(note.text));
+}
+
+QString wordsOf(const EntryMarks& marks, const std::vector<NoteLine>& found) {
     QStringList lines;
     if (marks.place > 0) lines += placeInWords(marks.place);
     if (marks.scratched) lines += tr("Scratched, with a refund");
@@ -68,6 +79,7 @@ QString wordsOf(const EntryMarks& marks) {
         lines += before.isEmpty() ? tr("Another driver") : tr("Another driver, in place of %1").arg(before);
     }
     if (!marks.typedColumns.empty()) lines += tr("Typed by you: %1").arg(columnsInWords(marks.typedColumns));
+    for (const NoteLine& note : found) lines += wordsOf(note);
     return lines.join('\n');
 }
 

@@ -42,10 +42,13 @@ Menus::Menus(QMenuBar& bar, CommandRunner& runner, QObject* parent) : QObject{pa
         menu->setToolTipsVisible(true);
         menus_[row.menu] = menu;
     }
+    menus_[Menu::fileFoot] = menus_.at(Menu::file);
     menus_[Menu::walk] = menus_.at(Menu::navigation);
     addCommands(Menu::walk);
     menus_.at(Menu::walk)->addSeparator();
     for (const MenuTitle& row : menuTitles) addCommands(row.menu);
+    addCommands(Menu::fileFoot);
+    menus_.at(Menu::file)->insertAction(action(CommandId::Exit_QL), action(CommandId::PrintNotes));
 }
 
 void Menus::addCommands(Menu menu) {

@@ -7,6 +7,7 @@
 #include "desktop/mark_texts.h"
 #include "desktop/row_buttons.h"
 #include "desktop/shown_text.h"
+#include "results/card_notes.h"
 #include "results/on_show.h"
 
 #include <QApplication>
@@ -139,12 +140,15 @@ void RacePanel::refreshTable() {
 
 void RacePanel::refreshMarks() {
     const int race = raceViewOnShow();
+    notes.takeUp();
     marks_.assign(1, {}); // the head's
     std::vector<RowMark> rows(1);
     for (int row = Grid::firstRow; row <= ratedEntries; ++row) {
         const EntryMarks& marks = marks_.emplace_back(entryMarks(race, row));
         RowMark& mark = rows.emplace_back();
-        mark = {.sign = signOf(marks), .words = wordsOf(marks), .isOut = marks.isOut()};
+        const std::vector<NoteLine> found = notesOnEntry(race, row);
+        mark = {
+            .sign = signOf(marks, !found.empty()), .words = wordsOf(marks, found), .isOut = marks.isOut()};
         if (!isFirstStart(race, row)) continue;
         mark.note = tr("first start");
         mark.noteFrom = RaceColumn::track;
