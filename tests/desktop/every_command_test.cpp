@@ -3,6 +3,7 @@
 #include "analysis/profile_test.h"
 #include "day/keeping.h"
 #include "desktop/cell_table_view.h"
+#include "desktop/export_menu.h"
 #include "desktop/main_window_test.h"
 #include "desktop/shown_text.h"
 #include "desktop/window_shows.h"
@@ -95,6 +96,16 @@ public:
         pressKeys("Ctrl+P");
         EXPECT_TRUE(wasShown("print end"));
     }
+    void printNotes() {
+        pickInMenu("PrintNotes");
+        EXPECT_TRUE(window->menus().action(CommandId::PrintNotes)->isChecked());
+    }
+    void exportTable() {
+        startInWindow();
+        window->exporting().askForFile = [](const QString&) { return QString{"card.json"}; };
+        child<QAction>(*window, "ExportOverview").trigger();
+        EXPECT_TRUE(contentOf("card.json").starts_with(R"({"table":"overview",)"));
+    }
     void exitByKeys() {
         pressKeys("Ctrl+Q");
         QCoreApplication::processEvents();
@@ -162,6 +173,15 @@ public:
     void scratchFirst() {
         answers = {"Yes"};
         click(button("ScratchButton1"));
+    }
+
+    // What was noted from card to card
+    void note() {
+        startInWindow();
+        pressKeys("Ctrl+N");
+        QTest::keyClicks(&child<QLineEdit>(*window, "NoteText"), "wants the rail");
+        click(button("AddNote"));
+        EXPECT_TRUE(exists("Notes.txt"));
     }
 
     // Walking the races
@@ -607,6 +627,8 @@ constexpr std::array drives{
     Drive{"CloseRC",               &EveryCommandTest::closeCard},
     Drive{"PrintSummary",          &EveryCommandTest::printSummary},
     Drive{"PrintCondensedProgram", &EveryCommandTest::printProgram},
+    Drive{"PrintNotes",            &EveryCommandTest::printNotes},
+    Drive{"Export",                &EveryCommandTest::exportTable},
     Drive{"Exit_QL",               &EveryCommandTest::exitByKeys},
     Drive{"CloseWindow",           &EveryCommandTest::closeWindow},
     Drive{"Undo",                  &EveryCommandTest::undo},
@@ -615,6 +637,7 @@ constexpr std::array drives{
     Drive{"TakeAllIn",             &EveryCommandTest::takeAllIn},
     Drive{"Recover",               &EveryCommandTest::recover},
     Drive{"Forget",                &EveryCommandTest::forget},
+    Drive{"Note",                  &EveryCommandTest::note},
     Drive{"MainScreen",            &EveryCommandTest::mainScreen},
     Drive{"RaceButton",            &EveryCommandTest::raceButton},
     Drive{"Next",                  &EveryCommandTest::next},

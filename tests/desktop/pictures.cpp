@@ -18,6 +18,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QDockWidget>
+#include <QFile>
 #include <QLineEdit>
 #include <QPainter>
 #include <QSpinBox>
@@ -91,6 +92,7 @@ public:
         layOutSample();
         run(CommandId::Start);
         take("race");
+        noteSome();
         show("Overview");
         take("overview");
         run(CommandId::RaceButton, numberArgument(3));
@@ -173,6 +175,18 @@ private:
             window_.findChild<QAbstractButton*>(button)->click();
         takeOf(*window_.findChild<QDockWidget*>("TicketsDock"), "tickets");
         show("Tickets");
+    // Put away again, since the other pictures are of a window as it begins.
+    void noteSome() {
+        run(CommandId::Note, textArgument("Skip The Salad = wants the rail; better over a dry track"));
+        run(CommandId::Note, textArgument("Rosario, I = new colours since February"));
+        run(CommandId::Note, textArgument("Race 1 = windy, the front was no place to be"));
+        auto& entries = *window_.findChild<QTableView*>("RaceView");
+        entries.setCurrentIndex(entries.model()->index(1, 0));
+        show("Notes");
+        takeWith("notes", *window_.findChild<QDockWidget*>("NotesDock"));
+        show("Notes");
+        QFile::remove("Notes.txt");
+        window_.refresh();
     }
 
     void run(CommandId id, const Arguments& arguments = {}) {
@@ -203,6 +217,17 @@ private:
         for (QWidget* over : QApplication::topLevelWidgets()) {
             if (over == &window_ || !over->isVisible() || over->windowFlags().testFlag(Qt::ToolTip)) continue;
             drawOver(picture, *over);
+        }
+        keep(picture, name);
+    }
+
+    // A dock that has no room beside the race stands over the lower right corner of the window.
+    void takeWith(const char* name, QDockWidget& dock) {
+        QTest::qWait(50);
+        QPixmap picture = window_.grab();
+        if (dock.isFloating()) {
+            QPainter painter{&picture};
+            dock.render(&painter, QPoint{picture.width() - dock.width(), picture.height() - dock.height()});
         }
         keep(picture, name);
     }
