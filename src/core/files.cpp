@@ -79,7 +79,8 @@ fs::path childIgnoringCase(const fs::path& folder, TextView name) {
 
 // A path that leads where the user wants it, in the case that he gave it.
 fs::path givenPath(TextView name) {
-    const fs::path path = pathOf(name);
+    fs::path path = pathOf(name);
+    path.make_preferred();
     if (path.filename().empty() || hasControls(name) || disk::isReservedName(nameOn(path)))
         fail("\"" + Text{name.substr(0, 60)} + "\" is no path of a file");
     return disk::reachable(path);

@@ -35,7 +35,8 @@ TEST_F(CardJsonTest, AnEmptyRaceIsTheSkeletonOfTheDocument) {
 
 TEST_F(CardJsonTest, ConditionsAreTextsWithoutTheBlanksAtTheirEnds) {
     card.raceInfo[{1}] = {.label = "1A", .purse = "  4500", .wagering = "Exacta Double (Races 1-2)"};
-    EXPECT_TRUE(tells(R"-("label":"1A","conditions":{"purse":"4500","wagering":"Exacta Double (Races 1-2)"})-"));
+    EXPECT_TRUE(
+        tells(R"-("label":"1A","conditions":{"purse":"4500","wagering":"Exacta Double (Races 1-2)"})-"));
 }
 
 // 71.5 less 65.8 is 5.7.
