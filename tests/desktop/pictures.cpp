@@ -175,6 +175,8 @@ private:
             window_.findChild<QAbstractButton*>(button)->click();
         takeOf(*window_.findChild<QDockWidget*>("TicketsDock"), "tickets");
         show("Tickets");
+    }
+
     // Put away again, since the other pictures are of a window as it begins.
     void noteSome() {
         run(CommandId::Note, textArgument("Skip The Salad = wants the rail; better over a dry track"));
@@ -250,6 +252,9 @@ private:
     // As on a screen with room for it.
     void takeOf(QWidget& widget, const char* name, QSize size) {
         widget.resize(size);
+        takeOf(widget, name);
+    }
+    void takeOf(QWidget& widget, const char* name) {
         QTest::qWait(50);
         keep(widget.grab(), name);
     }
