@@ -31,11 +31,8 @@ public:
 /// Kept for the run.
 class OddsInMemory : public TonightsOdds {
 public:
-    Text odds(const OddsPlace& place) const override {
-        const auto found = odds_.find(place);
-        return found == odds_.end() ? Text{} : found->second;
-    }
-    void keep(const OddsPlace& place, const Text& odds) override { odds_[place] = odds; }
+    Text odds(const OddsPlace& place) const override;
+    void keep(const OddsPlace& place, const Text& odds) override;
 
 private:
     std::map<OddsPlace, Text> odds_;

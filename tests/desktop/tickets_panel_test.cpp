@@ -160,6 +160,7 @@ TEST_F(TicketsPanelTest, ThePickSheetsTicketsComeAtOnePress) {
     open();
     press("SheetTickets");
     std::vector<std::string> counts;
+    counts.reserve(static_cast<std::size_t>(slip().rowCount()));
     for (int row = 0; row < slip().rowCount(); ++row)
         counts.push_back(slip().item(row, 4)->text().toStdString());
     EXPECT_EQ((std::vector<std::string>{"2", "4", "16", "24", "4", "1", "1", "1", "1", "1"}), counts);
