@@ -144,6 +144,10 @@ void MainWindow::buildNotes() {
     notes_ = new NotesPanel{runner_, appearance_, notesDock_};
     notes_->follow(*race_->findChild<CellTableView*>());
     notesDock_->setWidget(notes_);
+    // On its own it is a window, which must be the active one to be typed in.
+    connect(notesDock_, &QDockWidget::visibilityChanged, notes_, [this](bool isVisible) {
+        if (isVisible && notesDock_->isFloating()) notesDock_->activateWindow();
+    });
 }
 
 void MainWindow::connectPanels() {

@@ -34,7 +34,7 @@ TEST_F(NotesPanelTest, ANoteIsTypedWithTheKeyboardAlone) {
     go(1, RaceColumn::horseName);
     pressKeys("Ctrl+N");
     EXPECT_TRUE(child<QDockWidget>(*window, "NotesDock").isVisible());
-    EXPECT_EQ(&text(), QApplication::focusWidget());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return QApplication::focusWidget() == &text(); }));
     QTest::keyClicks(&text(), "wants the rail");
     QTest::keyClick(&text(), Qt::Key_Return);
     EXPECT_EQ("20260314\tMVR_20260314\tCranberry Bog\twants the rail\r\n", contentOf("Notes.txt"));
