@@ -1,8 +1,11 @@
 #include "desktop/header_panel.h"
 
+#include "desktop/mark_texts.h"
 #include "desktop/shown_text.h"
+#include "results/on_show.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QStringList>
 
 namespace quillon {
@@ -37,6 +40,7 @@ HeaderPanel::HeaderPanel(Appearance& appearance, QWidget* parent) : QWidget{pare
         return made;
     };
     race_ = label("race");
+    notes_ = label("raceNotes");
     conditions_ = label("conditions");
     track_ = label("track");
     classText_ = label("classText");
@@ -46,7 +50,10 @@ HeaderPanel::HeaderPanel(Appearance& appearance, QWidget* parent) : QWidget{pare
         text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         text->setMinimumWidth(1);
     }
-    grid->addWidget(race_, 0, 0, 2, 1, Qt::AlignVCenter);
+    auto* raceAndSign = new QHBoxLayout;
+    raceAndSign->addWidget(race_);
+    raceAndSign->addWidget(notes_);
+    grid->addLayout(raceAndSign, 0, 0, 2, 1, Qt::AlignVCenter);
     grid->addWidget(conditions_, 0, 1);
     grid->addWidget(track_, 0, 2);
     grid->addWidget(classText_, 1, 1);
@@ -59,6 +66,7 @@ HeaderPanel::HeaderPanel(Appearance& appearance, QWidget* parent) : QWidget{pare
 
 void HeaderPanel::lay() {
     race_->setFont(appearance_.viewFont(16, true));
+    notes_->setFont(appearance_.viewFont(10, false));
     conditions_->setFont(appearance_.viewFont(10, true));
     track_->setFont(appearance_.viewFont(10, false));
     classText_->setFont(appearance_.viewFont(10, false));
@@ -68,6 +76,7 @@ void HeaderPanel::lay() {
 void HeaderPanel::refresh() {
     const RaceHeader& header = theScreen.header;
     race_->setText(tr("RACE %1").arg(shown(header.race)));
+    refreshNotes();
     const QString distance = shown(header.distance).trimmed();
     conditions_->setText(joined({named(tr("Post Time: "), header.postTime), shown(header.gait).trimmed(),
                                  distance.isEmpty() ? QString{} : tr("%1 Mi").arg(distance),
@@ -79,6 +88,16 @@ void HeaderPanel::refresh() {
     classText_->setToolTip(classText_->text());
     wagering_->setText(shown(header.wagering).simplified());
     wagering_->setToolTip(wagering_->text());
+}
+
+// The sign that entries have, too.
+void HeaderPanel::refreshNotes() {
+    notes.takeUp();
+    const std::vector<NoteLine> found = notes.onRace(raceViewOnShow());
+    notes_->setText(signOf({}, !found.empty()));
+    notes_->setToolTip(wordsOf({}, found));
+    notes_->setAccessibleName(notes_->toolTip());
+    notes_->setVisible(!found.empty());
 }
 
 } // namespace quillon

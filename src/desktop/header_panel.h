@@ -17,10 +17,12 @@ public:
     void refresh();
 
 private:
+    void refreshNotes();
     void lay();
 
     Appearance& appearance_;
     QLabel* race_;
+    QLabel* notes_;
     QLabel* conditions_; ///< post time, gait, distance, purse, class rating
     QLabel* track_;      ///< track, date and the track's description
     QLabel* classText_;

@@ -40,6 +40,7 @@ void NotesPanel::build() {
     list_->setObjectName("NoteList");
     list_->setAccessibleName(tr("Notes on the race and on the entry"));
     list_->setWordWrap(true);
+    list_->setAlternatingRowColors(true);
     subject_->setObjectName("NoteSubject");
     subject_->setAccessibleName(tr("Whom the new note is on"));
     label_->setBuddy(subject_);

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int leastWideTwips = 27600; ///< a window 1900 pixels wide, as a maximised one on a wide screen is
 constexpr int spacing = 4;            ///< pixels
-constexpr int besideTable = 2250;     ///< twips of the buttons and signs beside the entries
+constexpr int besideTable = 2350;     ///< twips of the buttons and signs beside the entries
 
 int widthOf(std::span<const ViewColumn> columns) {
     return std::accumulate(columns.begin(), columns.end(), 0,

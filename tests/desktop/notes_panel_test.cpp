@@ -89,6 +89,18 @@ TEST_F(NotesPanelTest, NotesOfAnEarlierCardAreShownAndMarked) {
     EXPECT_EQ("rosario, i, 2 February 2026 (NFLD_20260202): new colours", line(0));
 }
 
+TEST_F(NotesPanelTest, ARaceWithANoteHasTheSignInItsHeading) {
+    startInWindow();
+    const auto& mark = child<QLabel>(*window, "raceNotes");
+    EXPECT_FALSE(mark.isVisible());
+    window->runner().run(CommandId::Note, textArgument("Race 1 = windy"));
+    EXPECT_TRUE(mark.isVisible());
+    EXPECT_EQ("N", mark.text());
+    EXPECT_EQ("Race 1, 14 March 2026 (MVR_20260314): windy", mark.toolTip().toStdString());
+    pressKeys("Alt+Right");
+    EXPECT_FALSE(mark.isVisible());
+}
+
 TEST_F(NotesPanelTest, ANoteThatCanNotBeKeptStaysInItsField) {
     startInWindow();
     std::filesystem::create_directory("Notes.txt");
