@@ -51,6 +51,7 @@ HeaderPanel::HeaderPanel(Appearance& appearance, QWidget* parent) : QWidget{pare
         text->setMinimumWidth(1);
     }
     auto* raceAndSign = new QHBoxLayout;
+    raceAndSign->setSpacing(8);
     raceAndSign->addWidget(race_);
     raceAndSign->addWidget(notes_);
     grid->addLayout(raceAndSign, 0, 0, 2, 1, Qt::AlignVCenter);
