@@ -13,7 +13,7 @@ floors=(
     card
     screen
     tables
-    rating
+    'rating import'
     reports
     cardfiles
     results
@@ -237,6 +237,9 @@ complain 'Two statements in one attempt:' double_attempts
 complain 'A catch outside src/core/failure.h:' in_code '\bcatch *\(' \
     '^src/core/failure\.h:|^src/core/files\.cpp:[0-9]+:.*catch \(const std::bad_alloc&\)'
 complain 'Qt outside src/desktop:' in_code '#include *[<"](Q[A-Z]|Qt)' '^src/desktop/'
+# It needs a library that the logic and the console do without.
+complain 'The import known outside the window:' in_code '#include *"import/' '^src/(import|desktop)/'
+complain 'The archive library outside src/import:' in_code '#include *<archive' '^src/import/'
 complain 'A using namespace in a header:' in_code '\busing namespace\b' '^[^:]*\.cpp:'
 complain 'Something that depends on the locale:' \
     in_code '\b(isalpha|isdigit|isspace|toupper|tolower|setlocale)\b|#include <(locale|clocale|locale\.h)>'

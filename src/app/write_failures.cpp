@@ -38,15 +38,17 @@ constexpr std::array causes{
 };
 
 constexpr std::array folderMeanings{
-    FolderMeaning{Folder::raceCards,   "the card is not saved"},
-    FolderMeaning{Folder::archives,    "the card is not saved"},
-    FolderMeaning{Folder::results,     "the results text on disk lacks what was to be added"},
-    FolderMeaning{Folder::selections,  "the selection sheet on disk is older than the screen"},
-    FolderMeaning{Folder::selections2, "the pick tickets on disk are older than the screen"},
-    FolderMeaning{Folder::programs,    "the condensed program on disk is older than the card"},
-    FolderMeaning{Folder::entries,     "the entries list on disk is older than the card"},
-    FolderMeaning{Folder::drivers,     "the drivers' ratings on disk are older than the card"},
-    FolderMeaning{Folder::recovery,    "a crash would lose the changes that are not saved"},
+    FolderMeaning{Folder::raceCards,     "the card is not saved"},
+    FolderMeaning{Folder::archives,      "the card is not saved"},
+    FolderMeaning{Folder::results,       "the results text on disk lacks what was to be added"},
+    FolderMeaning{Folder::selections,    "the selection sheet on disk is older than the screen"},
+    FolderMeaning{Folder::selections2,   "the pick tickets on disk are older than the screen"},
+    FolderMeaning{Folder::programs,      "the condensed program on disk is older than the card"},
+    FolderMeaning{Folder::entries,       "the entries list on disk is older than the card"},
+    FolderMeaning{Folder::drivers,       "the drivers' ratings on disk are older than the card"},
+    FolderMeaning{Folder::recovery,      "a crash would lose the changes that are not saved"},
+    FolderMeaning{Folder::sourceTables,  "the tables are those from before"},
+    FolderMeaning{Folder::imported,      "the old tables are not kept, and the new ones are not taken"},
 };
 
 constexpr std::array fileMeanings{

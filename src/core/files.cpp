@@ -33,6 +33,7 @@ constexpr std::array folderNames{
     FolderName{Folder::entries, "Entries"},
     FolderName{Folder::drivers, "Drivers"},
     FolderName{Folder::recovery, "Recovery"},
+    FolderName{Folder::imported, "Imported"},
 };
 
 TextView nameOf(Folder folder) {
@@ -307,21 +308,69 @@ void PreparedFile::putInPlace() {
     file_->close(); // or it could not be taken back: some systems replace no open file
 }
 
+namespace {
+
+/// The content of a file that is about to be replaced or removed, under a second name until it is let go of.
+class OldFile {
+public:
+    OldFile(fs::path target, const Text& ending) : target_{std::move(target)}, kept_{target_} {
+        kept_ += ".quillon-old" + ending;
+        disk::removeFile(kept_);
+        wasThere_ = disk::isThere(target_);
+    }
+
+    bool keep() const { return !wasThere_ || disk::keepAs(target_, kept_); }
+    void letGo() const { disk::removeFile(kept_); }
+    void putBack() const {
+        if (wasThere_)
+            disk::replaceFile(kept_, target_);
+        else
+            disk::removeFile(target_);
+    }
+
+private:
+    fs::path target_;
+    fs::path kept_;
+    bool wasThere_ = false;
+};
+
+} // namespace
+
+// The last step needs no old content: where it fails, it has changed nothing.
+void putInPlaceTogether(std::span<PreparedFile* const> files, std::span<const FilePlace> gone) {
+    const std::size_t steps = files.size() + gone.size();
+    std::vector<OldFile> old;
+    for (std::size_t at = 0; at + 1 < steps; ++at) {
+        const bool isReplaced = at < files.size();
+        const FilePlace& place = isReplaced ? files[at]->place_ : gone[at - files.size()];
+        const fs::path target = isReplaced ? files[at]->target_ : pathOnDisk(place);
+        old.emplace_back(target, isReplaced ? files[at]->ending_ : Text{});
+        if (old.back().keep()) continue;
+        const std::error_code cause = disk::lastError();
+        for (const OldFile& file : old) file.letGo();
+        failWriting(place, cause, nameOn(target) + " can't be kept while it is replaced");
+    }
+    std::size_t done = 0;
+    const auto step = [&] {
+        if (done < files.size())
+            files[done]->putInPlace();
+        else
+            removeFile(gone[done - files.size()]);
+    };
+    while (done < steps && attempt(step)) ++done;
+    const bool allDone = done == steps;
+    for (std::size_t at = old.size(); at-- > 0;) {
+        if (!allDone && at < done)
+            old[at].putBack();
+        else
+            old[at].letGo();
+    }
+    if (!allDone) fail(Text{"all files are left as they were"});
+}
+
 void putInPlaceTogether(PreparedFile& first, PreparedFile& second) {
-    const fs::path target = first.target_;
-    fs::path old = target; // a second name for the old first file while the second is replaced
-    old += ".quillon-old" + second.ending_;
-    disk::removeFile(old);
-    const bool replaces = disk::isThere(target);
-    if (replaces && !disk::keepAs(target, old))
-        failWriting(first.place_, disk::lastError(), nameOn(target) + " can't be kept while it is replaced");
-    const bool bothInPlace = attempt([&] { first.putInPlace(); }) && attempt([&] { second.putInPlace(); });
-    const bool firstAlone = !bothInPlace && first.temporary_.empty();
-    if (firstAlone && replaces)
-        disk::replaceFile(old, target);
-    else
-        disk::removeFile(firstAlone ? target : old);
-    if (!bothInPlace) fail(nameOn(target) + " is left as it was");
+    const std::array both{&first, &second};
+    putInPlaceTogether(both, {});
 }
 
 void removeFile(const FilePlace& place) {

@@ -14,6 +14,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <system_error>
 #include <vector>
 
@@ -33,6 +34,7 @@ enum class Folder {
     drivers,
     recovery,
     given, ///< none of ours: the name is a path, as the user gave it
+    imported, ///< tables of the vendor's that others have taken the place of
 };
 
 struct FilePlace {
@@ -122,7 +124,7 @@ public:
     void putInPlace();
 
 private:
-    friend void putInPlaceTogether(PreparedFile& first, PreparedFile& second);
+    friend void putInPlaceTogether(std::span<PreparedFile* const> files, std::span<const FilePlace> gone);
 
     void writeGathered();
     void finish(); ///< everything on the disk
@@ -138,9 +140,10 @@ private:
     Text gathered_;
 };
 
-/// Puts both in place, or neither: when the second file can't be replaced, the first gets its old content
-/// back. Fails with both old files as they were. A crash between the two leaves each file whole, the first
-/// one new and the second old.
+/// Puts all in place in their order and then takes away those that are to be gone, or does nothing of it: when
+/// one can't be replaced or removed, those before it get their old content back. Fails with all old files as
+/// they were. A crash on the way leaves each file whole, the first ones new and the others old.
+void putInPlaceTogether(std::span<PreparedFile* const> files, std::span<const FilePlace> gone);
 void putInPlaceTogether(PreparedFile& first, PreparedFile& second);
 
 /// Adds to the end of the file in one write and flushes it; the file and its folder are created where

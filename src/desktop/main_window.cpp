@@ -32,6 +32,7 @@
 #include "desktop/stars_window.h"
 #include "desktop/status_line.h"
 #include "desktop/tickets_panel.h"
+#include "desktop/table_import.h"
 #include "desktop/view_menu.h"
 #include "desktop/why_dock.h"
 #include "desktop/window_look.h"
@@ -222,6 +223,9 @@ void MainWindow::buildNotices() {
     notices_ = new WindowNotices{runner_, *bar_, *faults};
     new CardKeeping{runner_, *bar_};
     before_ = new BeforeCommands{runner_, *this};
+    auto* import = new TableImport{*menus_->menu(Menu::file), menus_->action(CommandId::RecallRaceCard),
+                                   runner_, *bar_, *this};
+    connect(import, &TableImport::imported, this, &MainWindow::refresh);
     connect(before_, &BeforeCommands::refused, notices_, &WindowNotices::tellRefusal);
     ports_->setLineAsked([this]() -> std::optional<LineNumberAsked> {
         const LineNumbers numbers = linesOnShow();
