@@ -8,6 +8,7 @@
 #include "desktop/board_panel.h"
 #include "desktop/card_finder.h"
 #include "desktop/card_keeping.h"
+#include "desktop/card_printing.h"
 #include "desktop/card_texts.h"
 #include "desktop/cell_table_view.h"
 #include "desktop/changes_dock.h"
@@ -189,6 +190,7 @@ void MainWindow::buildMenus() {
                    *notesDock_);
     menuBar()->insertMenu(menus_->menu(Menu::tools)->menuAction(), view_);
     connect(view_, &ViewMenu::overviewWanted, this, &MainWindow::showOverview);
+    printCard_ = new CardPrintItem{*menus_->menu(Menu::file), menus_->action(CommandId::Exit_QL), *this};
     help_ = new HelpItems{*menus_->menu(Menu::help), appearance_, [this] { return guidesPlace(); }, *this};
 }
 
@@ -290,6 +292,7 @@ void MainWindow::refresh() {
     titleWindow();
     notices_->refresh();
     menus_->refresh();
+    printCard_->refresh();
     raceBar_->refresh();
     header_->refresh();
     race_->refresh();

@@ -15,6 +15,7 @@ class AnalysisPanel;
 class BeforeCommands;
 class BoardPanel;
 class CardFinder;
+class CardPrintItem;
 class ChangesDock;
 class ChoiceDialog;
 class DesktopPorts;
@@ -91,6 +92,7 @@ private:
     StatusLine* status_ = nullptr;
     ViewMenu* view_ = nullptr;
     HelpItems* help_ = nullptr;
+    CardPrintItem* printCard_ = nullptr;
     RaceBar* raceBar_ = nullptr;
     HeaderPanel* header_ = nullptr;
     RacePanel* race_ = nullptr;

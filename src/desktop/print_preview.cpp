@@ -186,16 +186,30 @@ bool print(QPrinter& printer, const PrintDocument& document) {
 }
 
 PrintPreview::PrintPreview(PrintDocument document, QWidget* parent)
-    : QDialog{parent, Qt::Window}, document_{std::move(document)} {
+    : QDialog{parent, Qt::Window}, job_{document.name, [document](QPrinter& printer) {
+                                            return quillon::print(printer, document);
+                                        }} {
+    chooseOrientation(document);
+    build();
+}
+
+PrintPreview::PrintPreview(PrintJob job, QWidget* parent)
+    : QDialog{parent, Qt::Window}, job_{std::move(job)} {
+    constexpr qreal margin = 12; // what any printer can leave
+    printer_.setPageMargins({margin, margin, margin, margin}, QPageLayout::Millimeter);
+    build();
+    for (QAction* action : {portrait_, landscape_}) action->setVisible(false);
+}
+
+void PrintPreview::build() {
     setObjectName("PrintPreview");
-    setWindowTitle(tr("Print - %1").arg(document_.name));
-    printer_.setDocName(document_.name);
+    setWindowTitle(tr("Print - %1").arg(job_.name));
+    printer_.setDocName(job_.name);
     printer_.setCreator("Quillon");
-    chooseOrientation();
     preview_ = new QPrintPreviewWidget{&printer_, this};
     preview_->setAccessibleName(tr("Pages as they will be printed"));
     connect(preview_, &QPrintPreviewWidget::paintRequested, this,
-            [this](QPrinter* printer) { quillon::print(*printer, document_); });
+            [this](QPrinter* printer) { job_.print(*printer); });
     connect(preview_, &QPrintPreviewWidget::previewChanged, this, &PrintPreview::showPlace);
     auto* column = new QVBoxLayout{this};
     column->setContentsMargins(0, 0, 0, 0);
@@ -211,13 +225,13 @@ PrintPreview::PrintPreview(PrintDocument document, QWidget* parent)
 }
 
 // Long lines lie across the page, unless upright pages with smaller letters save half of the paper.
-void PrintPreview::chooseOrientation() {
-    const auto pagesAs = [this](QPageLayout::Orientation orientation) {
+void PrintPreview::chooseOrientation(const PrintDocument& document) {
+    const auto pagesAs = [&](QPageLayout::Orientation orientation) {
         printer_.setPageOrientation(orientation);
-        return quillon::pageCount(printer_, document_);
+        return quillon::pageCount(printer_, document);
     };
     const int upright = pagesAs(QPageLayout::Portrait);
-    if (!wantsLandscape(document_)) return;
+    if (!wantsLandscape(document)) return;
     const int across = pagesAs(QPageLayout::Landscape);
     if (2 * upright <= across) printer_.setPageOrientation(QPageLayout::Portrait);
 }
@@ -276,6 +290,32 @@ void PrintPreview::buildBar() {
     bar->addSeparator();
     add("Close", tr("&Close"), QKeySequence::Close, tr("Close the preview"), [this] { close(); });
     layout()->addWidget(bar);
+    choices_ = new QToolBar{this};
+    choices_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    choices_->hide();
+    layout()->addWidget(choices_);
+}
+
+QAction* PrintPreview::addChoice(const char* name, const QString& text, const QKeySequence& keys,
+                                 const QString& tip) {
+    choices_->show();
+    QAction* action = choices_->addAction(text);
+    action->setObjectName(name);
+    action->setShortcut(keys);
+    action->setToolTip(tr("%1 (%2)").arg(tip, keys.toString()));
+    return action;
+}
+
+QPageSize::PageSizeId PrintPreview::paper() const { return printer_.pageLayout().pageSize().id(); }
+
+void PrintPreview::setPaper(QPageSize::PageSizeId paper) {
+    printer_.setPageSize(QPageSize{paper});
+    drawAgain();
+}
+
+void PrintPreview::drawAgain() {
+    preview_->updatePreview();
+    showPlace();
 }
 
 int PrintPreview::pageCount() const { return preview_->pageCount(); }
@@ -301,7 +341,7 @@ void PrintPreview::askAndPrint() {
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange);
     dialog.setMinMax(1, std::max(1, pageCount()));
     if (dialog.exec() != QDialog::Accepted) return;
-    const bool printed = quillon::print(printer_, document_);
+    const bool printed = job_.print(printer_);
     printer_.setFromTo(0, 0); // the preview shows all pages again
     if (printed) return accept();
     QMessageBox::critical(this, windowTitle(), tr("The printer did not take the pages."));
@@ -310,7 +350,7 @@ void PrintPreview::askAndPrint() {
 void PrintPreview::askAndSavePdf() {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QString path = QFileDialog::getSaveFileName(
-        this, tr("Save as PDF"), folder + "/" + document_.name + ".pdf", tr("PDF files (*.pdf)"));
+        this, tr("Save as PDF"), folder + "/" + job_.name + ".pdf", tr("PDF files (*.pdf)"));
     if (path.isEmpty() || savePdf(path)) return;
     QMessageBox::critical(this, windowTitle(), tr("The file can't be written: %1").arg(path));
 }
@@ -320,9 +360,9 @@ bool PrintPreview::savePdf(const QString& path) {
     file.setOutputFormat(QPrinter::PdfFormat);
     file.setOutputFileName(path);
     file.setPageLayout(printer_.pageLayout());
-    file.setDocName(document_.name);
+    file.setDocName(job_.name);
     file.setCreator("Quillon");
-    return quillon::print(file, document_);
+    return job_.print(file);
 }
 
 } // namespace quillon

@@ -2,15 +2,19 @@
 #pragma once
 
 #include <QDialog>
+#include <QKeySequence>
+#include <QPageSize>
 #include <QPrinter>
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 class QAction;
 class QLabel;
 class QPrintPreviewWidget;
 class QStatusBar;
+class QToolBar;
 
 namespace quillon {
 
@@ -46,11 +50,20 @@ int pageCount(const QPrinter& printer, const PrintDocument& document);
 /// points. False where the printer can't begin, or its file not be written.
 bool print(QPrinter& printer, const PrintDocument& document);
 
+/// Pages of any kind: their name, and how they are drawn on a printer's paper.
+struct PrintJob {
+    QString name{};
+    std::function<bool(QPrinter& printer)> print{};
+};
+
 class PrintPreview : public QDialog {
     Q_OBJECT
 
 public:
     explicit PrintPreview(PrintDocument document, QWidget* parent = nullptr);
+
+    /// Pages that are laid out for upright paper alone.
+    explicit PrintPreview(PrintJob job, QWidget* parent = nullptr);
 
     int pageCount() const;
     bool isLandscape() const;
@@ -59,17 +72,27 @@ public:
     /// False where the file can't be written.
     bool savePdf(const QString& path);
 
+protected:
+    QPageSize::PageSizeId paper() const;
+    void setPaper(QPageSize::PageSizeId paper);
+    void drawAgain();
+
+    /// A choice of the user's in a bar below the first.
+    QAction* addChoice(const char* name, const QString& text, const QKeySequence& keys, const QString& tip);
+
 private:
-    void chooseOrientation();
+    void build();
+    void chooseOrientation(const PrintDocument& document);
     int pageOnShow() const;
     void buildBar();
     void showPlace();
     void askAndPrint();
     void askAndSavePdf();
 
-    PrintDocument document_;
+    PrintJob job_;
     QPrinter printer_{QPrinter::HighResolution};
     QPrintPreviewWidget* preview_ = nullptr;
+    QToolBar* choices_ = nullptr;
     QAction* landscape_ = nullptr;
     QAction* portrait_ = nullptr;
     QLabel* place_ = nullptr;

@@ -1,0 +1,41 @@
+// A page that is being laid out: texts that shrink where they would not fit.
+#pragma once
+
+#include "desktop/card_pages.h"
+
+#include <utility>
+
+namespace quillon {
+
+/// How a text stands in its place.
+struct TextStyle {
+    qreal points = 8;
+    bool bold = false;
+    Qt::Alignment align = Qt::AlignLeft;
+    QColor ink = Qt::black;
+};
+
+/// The height of a line of text, per point of its letters.
+constexpr qreal lineHeight = 1.2;
+
+class Sheet {
+public:
+    /// A text in one line, in letters as large as wanted or as its place allows.
+    void text(const QRectF& place, const QString& text, TextStyle style);
+
+    /// The same in up to so many lines from the top; the lines that it took.
+    int lines(const QRectF& place, const QString& text, TextStyle style, int most);
+
+    void rule(qreal left, qreal right, qreal y, qreal thickness, const QColor& ink = Qt::black);
+    void box(const QRectF& place, const QColor& fill, qreal thickness);
+
+    /// A program number on its cloth: the number is whole in every colour, and in none.
+    void cloth(const QRectF& place, const PaperNumber& number, qreal points);
+
+    Page take() { return std::move(page_); }
+
+private:
+    Page page_;
+};
+
+} // namespace quillon
