@@ -1,7 +1,5 @@
 #include "desktop/card_pages.h"
 
-#include "desktop/page_sheet.h"
-
 #include <QCoreApplication>
 
 #include <algorithm>

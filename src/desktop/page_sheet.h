@@ -1,11 +1,38 @@
 // A page that is being laid out: texts that shrink where they would not fit.
 #pragma once
 
-#include "desktop/card_pages.h"
+#include "desktop/paper_card.h"
+
+#include <QFont>
+#include <QRectF>
 
 #include <utility>
+#include <vector>
 
 namespace quillon {
+
+/// A text in one line, a filled or outlined box, or a rule.
+struct PageItem {
+    enum class Kind { text, box, rule };
+
+    Kind kind = Kind::text;
+    QRectF place{};
+    QString text{};
+    qreal points = 0; ///< height of its letters
+    bool bold = false;
+    Qt::Alignment align = Qt::AlignLeft;
+    QColor ink = Qt::black;
+    QColor fill{};       ///< of a box; none where it is not valid
+    qreal thickness = 0; ///< of a rule or an outline; 0 none
+    bool isCut = false;  ///< even its smallest letters had no room for the whole text
+};
+using Page = std::vector<PageItem>;
+
+/// The face of the pages: proportional, with figures of one width. Sized in device pixels.
+QFont paperFont(qreal pixels, bool bold);
+
+/// How wide a text is in points.
+qreal paperWidth(const QString& text, qreal points, bool bold);
 
 /// How a text stands in its place.
 struct TextStyle {

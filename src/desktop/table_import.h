@@ -10,12 +10,9 @@
 #include <QObject>
 #include <QStringList>
 
-class QMimeData;
-
 namespace quillon {
 
 struct CheckedCard;
-struct Gathered;
 
 class TableImport : public QObject {
     Q_OBJECT
