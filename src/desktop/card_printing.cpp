@@ -72,10 +72,11 @@ bool printCard(QPrinter& printer, const PaperCard& card, const CardPageChoice& c
     return painter.end();
 }
 
-CardPrintPreview::CardPrintPreview(PaperCard card, QWidget* parent)
-    : CardPrintPreview{std::make_shared<CardPageChoice>(keptChoice()), std::move(card), parent} {}
+CardPrintPreview::CardPrintPreview(const PaperCard& card, QWidget* parent)
+    : CardPrintPreview{std::make_shared<CardPageChoice>(keptChoice()), card, parent} {}
 
-CardPrintPreview::CardPrintPreview(std::shared_ptr<CardPageChoice> choice, PaperCard card, QWidget* parent)
+CardPrintPreview::CardPrintPreview(std::shared_ptr<CardPageChoice> choice, const PaperCard& card,
+                                   QWidget* parent)
     : PrintPreview{{card.title,
                     [choice, card](QPrinter& printer) { return printCard(printer, card, *choice); }},
                    parent},

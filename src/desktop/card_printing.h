@@ -24,10 +24,10 @@ class CardPrintPreview : public PrintPreview {
     Q_OBJECT
 
 public:
-    explicit CardPrintPreview(PaperCard card, QWidget* parent = nullptr);
+    explicit CardPrintPreview(const PaperCard& card, QWidget* parent = nullptr);
 
 private:
-    CardPrintPreview(std::shared_ptr<CardPageChoice> choice, PaperCard card, QWidget* parent);
+    CardPrintPreview(std::shared_ptr<CardPageChoice> choice, const PaperCard& card, QWidget* parent);
     void addChoices();
     void choose(const char* setting, int value);
 

@@ -185,7 +185,7 @@ bool print(QPrinter& printer, const PrintDocument& document) {
     return painter.end();
 }
 
-PrintPreview::PrintPreview(PrintDocument document, QWidget* parent)
+PrintPreview::PrintPreview(const PrintDocument& document, QWidget* parent)
     : QDialog{parent, Qt::Window}, job_{document.name, [document](QPrinter& printer) {
                                             return quillon::print(printer, document);
                                         }} {

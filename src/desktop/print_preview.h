@@ -60,7 +60,7 @@ class PrintPreview : public QDialog {
     Q_OBJECT
 
 public:
-    explicit PrintPreview(PrintDocument document, QWidget* parent = nullptr);
+    explicit PrintPreview(const PrintDocument& document, QWidget* parent = nullptr);
 
     /// Pages that are laid out for upright paper alone.
     explicit PrintPreview(PrintJob job, QWidget* parent = nullptr);

@@ -197,6 +197,8 @@ struct CardPrintTest : MainWindowTest {
     ~CardPrintTest() override { QSettings{}.remove("cardPrint"); }
 
     CardPrintPreview& openPreview() {
+        window->activateWindow(); // a preview may have been in front
+        if (!QTest::qWaitForWindowActive(&*window)) throw std::runtime_error("the window is not active");
         pressKeys("Ctrl+Shift+P");
         auto* found = window->findChild<CardPrintPreview*>();
         if (!found) throw std::runtime_error("no preview");
