@@ -10,8 +10,6 @@
 #include "desktop/card_keeping.h"
 #include "desktop/card_printing.h"
 #include "desktop/card_texts.h"
-#include "desktop/cell_table_view.h"
-#include "desktop/changes_dock.h"
 #include "desktop/choice_dialog.h"
 #include "desktop/desktop_ports.h"
 #include "desktop/empty_panel.h"
@@ -20,7 +18,6 @@
 #include "desktop/header_panel.h"
 #include "desktop/help_items.h"
 #include "desktop/menus.h"
-#include "desktop/notes_panel.h"
 #include "desktop/notice_bar.h"
 #include "desktop/overview_panel.h"
 #include "desktop/past_lines_panel.h"
@@ -29,16 +26,13 @@
 #include "desktop/race_page.h"
 #include "desktop/race_panel.h"
 #include "desktop/shown_text.h"
-#include "desktop/side_dock.h"
+#include "desktop/side_docks.h"
 #include "desktop/stars_window.h"
 #include "desktop/status_line.h"
-#include "desktop/tickets_panel.h"
 #include "desktop/table_import.h"
 #include "desktop/view_menu.h"
-#include "desktop/why_dock.h"
 #include "desktop/window_look.h"
 #include "desktop/window_notices.h"
-#include "desktop/worth_panel.h"
 #include "results/on_show.h"
 
 #include <QApplication>
@@ -115,41 +109,8 @@ void MainWindow::buildDocks() {
     raceListDock_->setWidget(raceList_);
     addDockWidget(Qt::LeftDockWidgetArea, raceListDock_);
     raceListDock_->hide();
-    changes_ = new ChangesDock{runner_, appearance_, *this};
-    changes_->leaveKeyTo(*race_->findChild<CellTableView*>());
-    why_ = new WhyDock{appearance_, *this};
-    why_->follow(*race_->findChild<CellTableView*>(), *pastLines_->findChild<CellTableView*>("RaceLines"),
-                 *pastLines_->findChild<CellTableView*>("EntryLines"));
-    buildWorth();
-    buildNotes();
-}
-
-void MainWindow::buildWorth() {
-    worthDock_ = new SideDock{tr("Worth"), "WorthDock", appearance_, *this};
-    worth_ = new WorthPanel{appearance_, odds_, worthDock_};
-    worthDock_->setWidget(worth_);
-    ticketsDock_ = new SideDock{tr("Tickets"), "TicketsDock", appearance_, *this};
-    tickets_ = new TicketsPanel{appearance_, ticketsDock_};
-    ticketsDock_->setWidget(tickets_);
-    for (const SideDock* dock : {worthDock_, ticketsDock_})
-        connect(dock, &QDockWidget::visibilityChanged, this, &MainWindow::refreshWorth);
-}
-
-// The saved cards are read for no one who doesn't look.
-void MainWindow::refreshWorth() {
-    if (worthDock_->isVisible()) worth_->refresh();
-    if (ticketsDock_->isVisible()) tickets_->refresh();
-}
-
-void MainWindow::buildNotes() {
-    notesDock_ = new SideDock{tr("Notes"), "NotesDock", appearance_, *this};
-    notes_ = new NotesPanel{runner_, appearance_, notesDock_};
-    notes_->follow(*race_->findChild<CellTableView*>());
-    notesDock_->setWidget(notes_);
-    // On its own it is a window, which must be the active one to be typed in.
-    connect(notesDock_, &QDockWidget::visibilityChanged, notes_, [this](bool isVisible) {
-        if (isVisible && notesDock_->isFloating()) notesDock_->activateWindow();
-    });
+    docks_ = new SideDocks{runner_, appearance_, *this};
+    docks_->follow(*race_, *pastLines_);
 }
 
 void MainWindow::connectPanels() {
@@ -179,15 +140,8 @@ void MainWindow::buildMenus() {
     menus_ = new Menus{*menuBar(), runner_, this};
     buildEditMenu();
     buildExportMenu();
-    view_ = new ViewMenu{appearance_, *ports_, *raceListDock_, *changes_, this};
-    view_->addDock(tr("&Why"), "Why", "Shift+F2",
-                   tr("Why a line is rated and chosen, and an entry has its place"), *why_);
-    view_->addDock(tr("Wort&h"), "Worth", "Shift+F6", tr("Chances and fair odds of the race's entries"),
-                   *worthDock_);
-    view_->addDock(tr("Ti&ckets"), "Tickets", "Shift+F7", tr("What tickets cost; nothing is bet"),
-                   *ticketsDock_);
-    view_->addDock(tr("&Notes"), "Notes", "Ctrl+N", tr("Notes on the race, its horses, drivers and trainers"),
-                   *notesDock_);
+    view_ = new ViewMenu{appearance_, *ports_, *raceListDock_, this};
+    docks_->addItems(*view_);
     menuBar()->insertMenu(menus_->menu(Menu::tools)->menuAction(), view_);
     connect(view_, &ViewMenu::overviewWanted, this, &MainWindow::showOverview);
     printCard_ = new CardPrintItem{*menus_->menu(Menu::file), menus_->action(CommandId::Exit_QL), *this};
@@ -239,15 +193,12 @@ void MainWindow::buildNotices() {
 
 // By the headings of the guide, which a test looks up.
 QString MainWindow::guidesPlace() const {
-    const QWidget* focused = QApplication::focusWidget();
-    if (worthDock_->isAncestorOf(focused)) return "What an entry is worth";
-    if (ticketsDock_->isAncestorOf(focused)) return "Tickets";
+    if (const QString place = docks_->guidesPlace(); !place.isEmpty()) return place;
     if (theScreen.summaryVisible) return "What the card earned";
     if (theScreen.profileVisible) return "Betting profiles";
     if (theScreen.tracksVisible || theScreen.picksVisible) return "Tracks and picks";
     if (!cardIsOpen()) return "Start Quillon";
-    if (notesDock_->isAncestorOf(focused)) return "Notes";
-    if (board_->isAncestorOf(focused)) return "Record the results";
+    if (board_->isAncestorOf(QApplication::focusWidget())) return "Record the results";
     if (theScreen.pastPerformanceOpen && !overviewWanted_) return "Past lines, and taking another one";
     return "Read the races";
 }
@@ -302,10 +253,7 @@ void MainWindow::refresh() {
     overview_->refresh();
     empty_->refresh();
     raceList_->refresh();
-    changes_->refresh();
-    why_->refresh();
-    refreshWorth();
-    notes_->refresh();
+    docks_->refresh();
     exporting_->refresh();
     stars_->refresh();
     choices_->refresh();

@@ -3,7 +3,6 @@
 
 #include "desktop/appearance.h"
 #include "desktop/command_runner.h"
-#include "desktop/tonights_odds.h"
 
 #include <QDockWidget>
 #include <QMainWindow>
@@ -16,7 +15,6 @@ class BeforeCommands;
 class BoardPanel;
 class CardFinder;
 class CardPrintItem;
-class ChangesDock;
 class ChoiceDialog;
 class DesktopPorts;
 class EmptyPanel;
@@ -25,7 +23,6 @@ class FindBar;
 class HeaderPanel;
 class HelpItems;
 class Menus;
-class NotesPanel;
 class NoticeBar;
 class OverviewPanel;
 class PastLinesPanel;
@@ -33,14 +30,11 @@ class RaceBar;
 class RaceListPanel;
 class RacePage;
 class RacePanel;
-class SideDock;
+class SideDocks;
 class StarsWindow;
 class StatusLine;
-class TicketsPanel;
 class ViewMenu;
-class WhyDock;
 class WindowNotices;
-class WorthPanel;
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -66,10 +60,8 @@ protected:
 private:
     void buildPages();
     void buildDocks();
-    void buildWorth();
     void buildEditMenu();
     void buildExportMenu();
-    void buildNotes();
     void buildNotices();
     void watchSession();
     void titleWindow();
@@ -79,7 +71,6 @@ private:
     QString guidesPlace() const;
     void takeUpEnd();
     void leaveOverviewWithTheRace();
-    void refreshWorth();
     QWidget* pageWanted() const;
 
     Appearance& appearance_;
@@ -103,15 +94,7 @@ private:
     EmptyPanel* empty_ = nullptr;
     QDockWidget* raceListDock_ = nullptr;
     RaceListPanel* raceList_ = nullptr;
-    ChangesDock* changes_ = nullptr;
-    WhyDock* why_ = nullptr;
-    OddsInMemory odds_;
-    SideDock* worthDock_ = nullptr;
-    WorthPanel* worth_ = nullptr;
-    SideDock* ticketsDock_ = nullptr;
-    TicketsPanel* tickets_ = nullptr;
-    SideDock* notesDock_ = nullptr;
-    NotesPanel* notes_ = nullptr;
+    SideDocks* docks_ = nullptr;
     ExportMenu* exporting_ = nullptr;
     StarsWindow* stars_ = nullptr;
     ChoiceDialog* choices_ = nullptr;

@@ -1,6 +1,6 @@
 #include "desktop/view_menu.h"
 
-#include "desktop/changes_dock.h"
+#include "desktop/side_dock.h"
 #include "desktop/desktop_ports.h"
 #include "desktop/shown_text.h"
 
@@ -22,14 +22,11 @@ constexpr std::array themes{ThemeItem{Theme::system, "ThemeSystem", "As the &Des
 
 } // namespace
 
-ViewMenu::ViewMenu(Appearance& appearance, DesktopPorts& ports, QDockWidget& raceList, ChangesDock& changes,
-                   QWidget* parent)
+ViewMenu::ViewMenu(Appearance& appearance, DesktopPorts& ports, QDockWidget& raceList, QWidget* parent)
     : QMenu{tr("&View"), parent}, appearance_{appearance} {
     setToolTipsVisible(true);
     addPlaces(raceList);
     afterDocks_ = addSeparator();
-    addDock(tr("Chan&ges"), "Changes", "F2",
-            tr("What was changed on the card, and the program's selections beside mine"), changes);
     addZoom();
     addSeparator();
     addViewer(ports);

@@ -10,7 +10,6 @@
 
 namespace quillon {
 
-class ChangesDock;
 class DesktopPorts;
 class SideDock;
 
@@ -18,8 +17,7 @@ class ViewMenu : public QMenu {
     Q_OBJECT
 
 public:
-    ViewMenu(Appearance& appearance, DesktopPorts& ports, QDockWidget& raceList, ChangesDock& changes,
-             QWidget* parent);
+    ViewMenu(Appearance& appearance, DesktopPorts& ports, QDockWidget& raceList, QWidget* parent);
 
     /// An item that shows a dock and puts it away, below the others of its kind.
     void addDock(const QString& text, const char* name, const char* keys, const QString& hint,
