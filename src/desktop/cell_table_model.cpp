@@ -158,7 +158,8 @@ QVariant CellTableModel::data(const QModelIndex& index, int role) const {
     case Qt::FontRole: return font(row, cell());
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
-        return index.column() == 0 && !markOf(row).words.isEmpty() ? QVariant{markOf(row).words} : QVariant{};
+        return index.column() == 0 && !markOf(row).words.isEmpty() ? QVariant{asTip(markOf(row).words)}
+                                                                   : QVariant{};
     case Qt::TextAlignmentRole: return alignment(alignOf(column));
     default: return {};
     }

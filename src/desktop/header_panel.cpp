@@ -96,8 +96,9 @@ void HeaderPanel::refreshNotes() {
     notes.takeUp();
     const std::vector<NoteLine> found = notes.onRace(raceViewOnShow());
     notes_->setText(signOf({}, !found.empty()));
-    notes_->setToolTip(wordsOf({}, found));
-    notes_->setAccessibleName(notes_->toolTip());
+    const QString words = wordsOf({}, found);
+    notes_->setToolTip(asTip(words));
+    notes_->setAccessibleName(words);
     notes_->setVisible(!found.empty());
 }
 

@@ -3,11 +3,18 @@
 #include "card/race_card.h"
 #include "core/code_page.h"
 
+#include <QTextDocument>
+
 namespace quillon {
 
 bool cardIsOpen() { return !card.cardFileName.empty(); }
 
 QString shown(TextView text) { return QString::fromStdString(toUtf8(text)); }
+
+QString asTip(const QString& text) {
+    if (!Qt::mightBeRichText(text)) return text;
+    return "<qt>" + text.toHtmlEscaped().replace('\n', "<br>") + "</qt>";
+}
 
 Text typed(const QString& text) {
     constexpr QChar lineSeparator{0x2028};

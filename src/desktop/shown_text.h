@@ -18,6 +18,9 @@ bool cardIsOpen();
 /// A text of the system as the window shows it.
 QString shown(TextView text);
 
+/// A tip that shows a text as it stands, also where it looks like markup.
+QString asTip(const QString& text);
+
 /// What the user typed or pasted, as a text of the system: line breaks and other control characters become
 /// blanks, so that no file of ours gets a line more, and characters outside the code page become "?".
 Text typed(const QString& text);

@@ -24,5 +24,10 @@ TEST(ShownText, TextIsBlackOnLightColoursAndWhiteOnDarkOnes) {
     EXPECT_EQ(QColor{Qt::white}, legibleOn(QColor{0, 0, 128}));
 }
 
+TEST(ShownText, ATipShowsMarkupAsItStands) {
+    EXPECT_EQ("5 < 6\nand more", asTip("5 < 6\nand more"));
+    EXPECT_EQ("<qt>&lt;b&gt;wide&lt;/b&gt;<br>twice</qt>", asTip("<b>wide</b>\ntwice"));
+}
+
 } // namespace
 } // namespace quillon
