@@ -95,25 +95,37 @@ void CardPrintPreview::addChoices() {
     };
     auto* races = new QActionGroup{this};
     add(races, "OneRace", tr("&One Race a Page"), "Ctrl+1", tr("A page for each race, with room to write"),
-        choice_->racesPerPage != 2, [this] { choose(racesSetting, 1); });
+        choice_->racesPerPage != 2, [this] { chooseRaces(1); });
     add(races, "TwoRaces", tr("&Two Races a Page"), "Ctrl+2", tr("Half of the paper"),
-        choice_->racesPerPage == 2, [this] { choose(racesSetting, 2); });
+        choice_->racesPerPage == 2, [this] { chooseRaces(2); });
+    partChoices();
     add(nullptr, "OverviewPage", tr("O&verview"), "Ctrl+3", tr("Begin with a page of all races"),
-        choice_->overview, [this](bool wanted) { choose(overviewSetting, wanted); });
+        choice_->overview, [this](bool wanted) { chooseOverview(wanted); });
     const int kept = QSettings{}.value(paperSetting, static_cast<int>(paper())).toInt();
     setPaper(kept == QPageSize::Letter ? QPageSize::Letter : QPageSize::A4);
+    partChoices();
     auto* papers = new QActionGroup{this};
     add(papers, "PaperA4", tr("&A4"), "Ctrl+4", tr("Paper of 210 by 297 mm"), paper() == QPageSize::A4,
-        [this] { choose(paperSetting, QPageSize::A4); });
+        [this] { choosePaper(QPageSize::A4); });
     add(papers, "PaperLetter", tr("L&etter"), "Ctrl+5", tr("Paper of 8.5 by 11 inches"),
-        paper() == QPageSize::Letter, [this] { choose(paperSetting, QPageSize::Letter); });
+        paper() == QPageSize::Letter, [this] { choosePaper(QPageSize::Letter); });
 }
 
-void CardPrintPreview::choose(const char* setting, int value) {
-    QSettings{}.setValue(setting, value);
-    if (setting == paperSetting) return setPaper(static_cast<QPageSize::PageSizeId>(value));
-    *choice_ = keptChoice();
+void CardPrintPreview::chooseRaces(int racesPerPage) {
+    choice_->racesPerPage = racesPerPage;
+    QSettings{}.setValue(racesSetting, racesPerPage);
     drawAgain();
+}
+
+void CardPrintPreview::chooseOverview(bool wanted) {
+    choice_->overview = wanted;
+    QSettings{}.setValue(overviewSetting, wanted);
+    drawAgain();
+}
+
+void CardPrintPreview::choosePaper(QPageSize::PageSizeId paper) {
+    QSettings{}.setValue(paperSetting, static_cast<int>(paper));
+    setPaper(paper);
 }
 
 CardPrintItem::CardPrintItem(QMenu& file, QAction* before, QWidget& window)

@@ -29,7 +29,9 @@ public:
 private:
     CardPrintPreview(std::shared_ptr<CardPageChoice> choice, const PaperCard& card, QWidget* parent);
     void addChoices();
-    void choose(const char* setting, int value);
+    void chooseRaces(int racesPerPage);
+    void chooseOverview(bool wanted);
+    void choosePaper(QPageSize::PageSizeId paper);
 
     std::shared_ptr<CardPageChoice> choice_; ///< what the drawing reads
 };

@@ -59,15 +59,17 @@ qreal paperWidth(const QString& text, qreal points, bool bold) {
 void Sheet::text(const QRectF& place, const QString& text, TextStyle style) {
     if (text.isEmpty()) return;
     style.points = std::min(style.points, place.height() / lineHeight);
-    const auto isTooWide = [&] { return paperWidth(text, style.points, style.bold) > place.width(); };
-    while (style.points - step >= smallestPoints && isTooWide()) style.points -= step;
+    const qreal widthPerPoint = paperWidth(text, 1, style.bold);
+    if (widthPerPoint * style.points > place.width())
+        style.points = std::max(std::min(style.points, smallestPoints), place.width() / widthPerPoint);
     PageItem item{.place = place,
                   .text = text,
                   .points = style.points,
                   .bold = style.bold,
                   .align = style.align,
                   .ink = style.ink};
-    item.isCut = isTooWide();
+    constexpr qreal rounding = 0.001;
+    item.isCut = widthPerPoint * style.points > place.width() + rounding;
     if (item.isCut) item.text = cutToFit(text, place.width(), style.points, style.bold);
     page_.push_back(std::move(item));
 }

@@ -198,7 +198,7 @@ PrintPreview::PrintPreview(PrintJob job, QWidget* parent)
     constexpr qreal margin = 12; // what any printer can leave
     printer_.setPageMargins({margin, margin, margin, margin}, QPageLayout::Millimeter);
     build();
-    for (QAction* action : {portrait_, landscape_}) action->setVisible(false);
+    for (QAction* action : {portrait_, landscape_, afterOrientation_}) action->setVisible(false);
 }
 
 void PrintPreview::build() {
@@ -274,7 +274,7 @@ void PrintPreview::buildBar() {
         action->setCheckable(true);
         orientation->addAction(action);
     }
-    bar->addSeparator();
+    afterOrientation_ = bar->addSeparator();
     add("PreviousPage", tr("P&revious"), QKeySequence{"Ctrl+PgUp"}, tr("The page before"),
         [this] { preview_->setCurrentPage(pageOnShow() - 1); });
     place_ = new QLabel{bar};
@@ -305,6 +305,8 @@ QAction* PrintPreview::addChoice(const char* name, const QString& text, const QK
     action->setToolTip(tr("%1 (%2)").arg(tip, keys.toString()));
     return action;
 }
+
+void PrintPreview::partChoices() { choices_->addSeparator(); }
 
 QPageSize::PageSizeId PrintPreview::paper() const { return printer_.pageLayout().pageSize().id(); }
 

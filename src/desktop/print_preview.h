@@ -79,6 +79,7 @@ protected:
 
     /// A choice of the user's in a bar below the first.
     QAction* addChoice(const char* name, const QString& text, const QKeySequence& keys, const QString& tip);
+    void partChoices(); ///< those so far from the next
 
 private:
     void build();
@@ -93,6 +94,7 @@ private:
     QPrinter printer_{QPrinter::HighResolution};
     QPrintPreviewWidget* preview_ = nullptr;
     QToolBar* choices_ = nullptr;
+    QAction* afterOrientation_ = nullptr;
     QAction* landscape_ = nullptr;
     QAction* portrait_ = nullptr;
     QLabel* place_ = nullptr;

@@ -44,9 +44,11 @@ void keep(const FilePlace& place, const std::vector<VendorTable>& old) {
 void replaceTables(const std::vector<VendorTable>& tables) {
     makeFolder(Folder::sourceTables);
     std::vector<std::unique_ptr<PreparedFile>> written;
+    written.reserve(tables.size());
     for (const VendorTable& table : tables)
         written.push_back(std::make_unique<PreparedFile>(placeOf(table.name), table.content));
     std::vector<PreparedFile*> files;
+    files.reserve(written.size());
     for (const auto& file : written) files.push_back(file.get());
     std::vector<FilePlace> gone;
     for (const TextView name : vendorTables)

@@ -123,9 +123,12 @@ TEST_P(CardPages, NoTextStandsOnAnother) {
         std::vector<const PageItem*> texts;
         for (const PageItem& item : made[page])
             if (item.kind == PageItem::Kind::text) texts.push_back(&item);
+        std::vector<QRectF> inks(texts.size());
+        std::transform(texts.begin(), texts.end(), inks.begin(),
+                       [](const PageItem* item) { return inkOf(*item); });
         for (std::size_t one = 0; one < texts.size(); ++one)
             for (std::size_t other = one + 1; other < texts.size(); ++other)
-                EXPECT_FALSE(inkOf(*texts[one]).adjusted(0, 0.3, 0, -0.3).intersects(inkOf(*texts[other])))
+                EXPECT_FALSE(inks[one].adjusted(0, 0.3, 0, -0.3).intersects(inks[other]))
                     << describe(*texts[one], page) << " and " << describe(*texts[other], page);
     }
 }
@@ -193,9 +196,6 @@ TEST(CardPage, FiguresAreOfOneWidth) {
 }
 
 struct CardPrintTest : MainWindowTest {
-    CardPrintTest() { QSettings{}.remove("cardPrint"); }
-    ~CardPrintTest() override { QSettings{}.remove("cardPrint"); }
-
     CardPrintPreview& openPreview() {
         window->activateWindow(); // a preview may have been in front
         if (!QTest::qWaitForWindowActive(&*window)) throw std::runtime_error("the window is not active");
@@ -219,6 +219,7 @@ TEST_F(CardPrintTest, TheItemWaitsForACard) {
 
 // Twelve races and the overview.
 TEST_F(CardPrintTest, ThePreviewFollowsWhatIsChosenAndKeepsIt) {
+    QSettings{}.remove("cardPrint"); // tests that run beside this one leave it alone
     startInWindow();
     CardPrintPreview& preview = openPreview();
     EXPECT_EQ(13, preview.pageCount());
@@ -233,6 +234,7 @@ TEST_F(CardPrintTest, ThePreviewFollowsWhatIsChosenAndKeepsIt) {
     EXPECT_NE(std::string::npos, pdf.find("/MediaBox [0 0 612"));
     delete &preview;
     EXPECT_EQ(6, openPreview().pageCount());
+    QSettings{}.remove("cardPrint");
 }
 
 // The first race of the sample card, by its sheet: "RACE: 1", S1 with its rating.

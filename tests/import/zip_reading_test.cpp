@@ -101,8 +101,8 @@ TEST(ZipReading, SoHasTheRatio) {
 }
 
 TEST(ZipReading, TooManyMembersAreNoArchiveOfTheVendors) {
-    std::vector<MadeMember> members;
-    for (int number = 0; number < 2000; ++number) members.push_back({"notes" + std::to_string(number), {}});
+    std::vector<MadeMember> members(2000);
+    for (std::size_t at = 0; at < members.size(); ++at) members[at].path = "notes" + std::to_string(at);
     EXPECT_EQ("", refusalOf(madeZip(members)));
     members.push_back(aCard[0]);
     EXPECT_EQ("card.zip holds more than 2000 files. That is no archive of the vendor's.",
