@@ -7,6 +7,7 @@
 #include "reports/bet_mark.h"
 #include "reports/card_overview.h"
 #include "reports/ranked_row.h"
+#include "results/card_notes.h"
 #include "results/entry_marks.h"
 #include "results/on_show.h"
 #include "screen/race_views.h"
@@ -81,6 +82,16 @@ QString driverOf(const Grid& view, int entry) {
     return udr.isEmpty() ? name : name + "  " + udr;
 }
 
+// "wants the rail; Rosario, I: new colours": whose they are, but for those on the one they stand beside.
+QString wordsOf(const std::vector<NoteLine>& found, TextView beside) {
+    QStringList words;
+    for (const NoteLine& note : found)
+        words << (upperCase(trimmed(note.name)) == upperCase(trimmed(beside))
+                      ? shown(note.text)
+                      : tr("%1: %2").arg(shown(note.name), shown(note.text)));
+    return words.join("; ");
+}
+
 PaperEntry entryOf(const Grid& view, int race, int row) {
     const EntryMarks marks = entryMarks(race, row);
     PaperEntry entry;
@@ -91,6 +102,7 @@ PaperEntry entryOf(const Grid& view, int race, int row) {
     entry.post = plain(view.text(row, RaceColumn::post));
     entry.rating = plain(view.text(row, RaceColumn::rating));
     entry.place = placeInShort(marks.place);
+    entry.note = wordsOf(notesOnEntry(race, row), horseIn(race, row));
     entry.isOut = marks.isOut();
     if (entry.isOut) entry.place = tr("out");
     if (entry.isOut)
@@ -134,6 +146,8 @@ PaperRace raceOf(int race) {
     made.purse = purseOf(info);
     made.conditions = plain(info.classText);
     made.wagering = plain(info.wagering);
+    const std::vector<NoteLine> found = notes.onRace(race);
+    if (!found.empty()) made.note = wordsOf(found, found.front().name);
     const Grid& view = theScreen.raceView.at(static_cast<std::size_t>(race));
     for (int row = Grid::firstRow; row <= ratedEntries; ++row)
         if (!horseIn(race, row).empty()) made.entries.push_back(entryOf(view, race, row));
@@ -151,6 +165,7 @@ PaperRace raceOf(int race) {
 } // namespace
 
 PaperCard paperCard() {
+    notes.takeUp();
     PaperCard made;
     made.title = cardTitle();
     made.track = trackName();

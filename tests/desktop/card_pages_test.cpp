@@ -271,6 +271,19 @@ TEST_F(CardPrintTest, AScratchedEntryIsOutOnPaper) {
     EXPECT_EQ("out", paper.races[1].entries[2].place);
 }
 
+TEST_F(CardPrintTest, NotesStandBesideTheHorseAndTheRace) {
+    startInWindow();
+    const auto note = [&](const char* text) { window->runner().run(CommandId::Note, textArgument(text)); };
+    note("skip the salad = wants the rail");
+    note("Rosario, I = new colours");
+    note("Race 1 = windy");
+    note("Race 1 = late start");
+    const PaperRace race = paperCard().races[0];
+    EXPECT_EQ("wants the rail; Rosario, I: new colours", race.entries[1].note);
+    EXPECT_EQ("", race.entries[0].note);
+    EXPECT_EQ("windy; late start", race.note);
+}
+
 // In grey a number is told from its cloth by lightness alone.
 TEST_F(CardPrintTest, NumbersAreToldFromTheirClothsInGrey) {
     startInWindow();
