@@ -15,6 +15,7 @@ Notes notes;
 namespace {
 
 constexpr char between = '\t';
+constexpr TextView noOdds = "-";                   // typed and taken away again
 constexpr TextView byteOrderMark = "\xEF\xBB\xBF"; // some editors begin a file of UTF-8 with it
 
 FilePlace notesPlace() { return {Folder::working, "Notes.txt"}; }
@@ -72,6 +73,16 @@ void Note(const Text& words) {
 
 Text nameOfRace(int race) { return "Race " + std::to_string(race); }
 
+Text nameOfOdds(int race, TextView number) {
+    Text name = "Odds of race " + std::to_string(race) + ", number ";
+    return name += trimmed(number);
+}
+
+void keepOdds(int race, TextView number, TextView odds) {
+    const TextView kept = trimmed(odds);
+    Note(nameOfOdds(race, number) + " = " + Text{kept.empty() ? noOdds : kept});
+}
+
 void Notes::takeUp() {
     std::optional<FileStamp> now;
     attempt([&] { now = fileStamp(notesPlace()); });
@@ -102,10 +113,17 @@ std::vector<NoteLine> Notes::on(TextView name) const {
     return found;
 }
 
-std::vector<NoteLine> Notes::onRace(int race) const {
-    std::vector<NoteLine> found = on(nameOfRace(race));
+std::vector<NoteLine> Notes::onThisCard(TextView name) const {
+    std::vector<NoteLine> found = on(name);
     std::erase_if(found, [&](const NoteLine& note) { return note.card != openCard(); });
     return found;
+}
+
+std::vector<NoteLine> Notes::onRace(int race) const { return onThisCard(nameOfRace(race)); }
+
+Text Notes::odds(int race, TextView number) const {
+    const std::vector<NoteLine> found = onThisCard(nameOfOdds(race, number));
+    return found.empty() || found.back().text == noOdds ? Text{} : found.back().text;
 }
 
 } // namespace quillon

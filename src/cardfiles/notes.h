@@ -39,6 +39,12 @@ void Note(const Text& words);
 /// What notes on a race are on: "Race 3". They belong to the card that they were written on.
 Text nameOfRace(int race);
 
+/// What tonight's odds on an entry of the open card are kept under, by its program number. The last of them counts.
+Text nameOfOdds(int race, TextView number);
+
+/// Keeps them as typed; empty ones too.
+void keepOdds(int race, TextView number, TextView odds);
+
 /// The notes of the file as it was when it was last taken up.
 class Notes {
 public:
@@ -52,7 +58,11 @@ public:
     /// Those on a race of the open card.
     std::vector<NoteLine> onRace(int race) const;
 
+    /// Tonight's odds as typed; empty where nothing was.
+    Text odds(int race, TextView number) const;
+
 private:
+    std::vector<NoteLine> onThisCard(TextView name) const;
     void read(TextView content);
 
     std::optional<FileStamp> stamp_;

@@ -18,8 +18,7 @@ SideDocks::SideDocks(CommandRunner& runner, Appearance& appearance, QMainWindow&
     : QObject{&window}, changes_{new ChangesDock{runner, appearance, window}}, why_{new WhyDock{appearance,
                                                                                                 window}},
       worthDock_{new SideDock{tr("Worth"), "WorthDock", appearance, window}}, worth_{new WorthPanel{
-                                                                                  appearance, odds_,
-                                                                                  worthDock_}},
+                                                                                  appearance, worthDock_}},
       ticketsDock_{new SideDock{tr("Tickets"), "TicketsDock", appearance, window}},
       tickets_{new TicketsPanel{appearance, ticketsDock_}}, notesDock_{new SideDock{tr("Notes"), "NotesDock",
                                                                                     appearance, window}},

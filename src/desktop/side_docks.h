@@ -3,7 +3,6 @@
 
 #include "desktop/appearance.h"
 #include "desktop/command_runner.h"
-#include "desktop/tonights_odds.h"
 
 #include <QMainWindow>
 #include <QString>
@@ -38,7 +37,6 @@ public:
 private:
     void refreshWorth();
 
-    OddsInMemory odds_;
     ChangesDock* changes_;
     WhyDock* why_;
     SideDock* worthDock_;

@@ -1,8 +1,8 @@
 #include "desktop/worth_panel.h"
 
 #include "analysis/worth_texts.h"
-#include "card/card_files.h"
 #include "card/race_card.h"
+#include "cardfiles/notes.h"
 #include "desktop/shown_text.h"
 #include "desktop/spin_box_name.h"
 #include "results/board.h"
@@ -74,10 +74,11 @@ QString qualityOf(const Fit& fit) {
     return text;
 }
 
-WorthPanel::WorthPanel(Appearance& appearance, TonightsOdds& odds, QWidget* parent)
-    : QWidget{parent}, appearance_{appearance}, odds_{odds}, heading_{new QLabel{this}},
-      table_{new QTableWidget{this}}, marginLabel_{new QLabel{tr("Overlay &margin:"), this}},
-      margin_{new QSpinBox{this}}, quality_{new QLabel{this}} {
+WorthPanel::WorthPanel(Appearance& appearance, QWidget* parent)
+    : QWidget{parent}, appearance_{appearance}, heading_{new QLabel{this}}, table_{new QTableWidget{this}},
+      marginLabel_{new QLabel{tr("Overlay &margin:"), this}}, margin_{new QSpinBox{this}}, quality_{
+                                                                                               new QLabel{
+                                                                                                   this}} {
     setObjectName("WorthPanel");
     heading_->setObjectName("WorthHeading");
     heading_->setTextFormat(Qt::PlainText);
@@ -158,6 +159,7 @@ QSize WorthPanel::sizeHint() const {
 }
 
 void WorthPanel::refresh() {
+    notes.takeUp();
     const Fit& fit = saved_.fit();
     race_ = cardIsOpen() ? raceOnShow() : 0;
     rows_ = race_ > 0 ? worthOf(race_, fit.scale ? fit.scale->perPoint : 0) : std::vector<WorthRow>{};
@@ -175,8 +177,8 @@ void WorthPanel::fillTable() {
     table_->resizeColumnsToContents();
 }
 
-OddsPlace WorthPanel::placeOf(int row) const {
-    return {Text{cardNameOf(card.cardFileName)}, race_, rows_[static_cast<std::size_t>(row)].entry};
+Text WorthPanel::oddsIn(int row) const {
+    return notes.odds(race_, rows_[static_cast<std::size_t>(row)].programNumber);
 }
 
 void WorthPanel::fillRow(int row) {
@@ -195,7 +197,7 @@ void WorthPanel::fillRow(int row) {
     put(chance, entry.chance ? shown(percentText(*entry.chance)) + " %" : QString{});
     put(fair, entry.chance ? shown(oddsText(fairOdds(*entry.chance))) : QString{});
     put(morningLine, shown(entry.morningLine));
-    put(tonight, shown(odds_.odds(placeOf(row))));
+    put(tonight, shown(oddsIn(row)));
     put(mark, {});
     markRow(row);
 }
@@ -203,7 +205,7 @@ void WorthPanel::fillRow(int row) {
 // The sign and the word, and bold: no colour has to be told from another.
 void WorthPanel::markRow(int row) {
     const WorthRow& entry = rows_[static_cast<std::size_t>(row)];
-    const Text typedOdds = odds_.odds(placeOf(row));
+    const Text typedOdds = oddsIn(row);
     const auto offered = oddsToOne(typedOdds);
     const bool isBetter =
         offered && entry.chance && isOverlay(*offered, fairOdds(*entry.chance), margin_->value());
@@ -225,7 +227,10 @@ void WorthPanel::markRow(int row) {
 void WorthPanel::takeOdds(const QTableWidgetItem* cell) {
     if (cell->column() != tonight || cell->row() >= static_cast<int>(rows_.size())) return;
     const QSignalBlocker quiet{table_};
-    odds_.keep(placeOf(cell->row()), Text{trimmed(typed(cell->text()))});
+    const Text odds{trimmed(typed(cell->text()))};
+    if (odds != oddsIn(cell->row()))
+        keepOdds(race_, rows_[static_cast<std::size_t>(cell->row())].programNumber, odds);
+    notes.takeUp();
     markRow(cell->row());
     table_->resizeColumnsToContents();
 }

@@ -4,7 +4,6 @@
 #include "analysis/race_worth.h"
 #include "analysis/saved_races.h"
 #include "desktop/appearance.h"
-#include "desktop/tonights_odds.h"
 
 #include <QLabel>
 #include <QSpinBox>
@@ -19,7 +18,7 @@ class WorthPanel : public QWidget {
     Q_OBJECT
 
 public:
-    WorthPanel(Appearance& appearance, TonightsOdds& odds, QWidget* parent = nullptr);
+    explicit WorthPanel(Appearance& appearance, QWidget* parent = nullptr);
 
     /// Reads the saved cards where one has changed, and draws the race on show.
     void refresh();
@@ -34,10 +33,9 @@ private:
     void fillRow(int row);
     void markRow(int row);
     void takeOdds(const QTableWidgetItem* cell);
-    OddsPlace placeOf(int row) const;
+    Text oddsIn(int row) const;
 
     Appearance& appearance_;
-    TonightsOdds& odds_;
     SavedFit saved_;
     std::vector<WorthRow> rows_;
     int race_ = 0;

@@ -133,6 +133,19 @@ TEST_F(NotesTest, AFileThatCanNotBeWrittenIsTold) {
     EXPECT_EQ((std::vector<std::string>{"error: File can't be written: Notes.txt"}), shown);
 }
 
+TEST_F(NotesTest, TheLastOddsOfTheCardsEntryCount) {
+    keepOdds(3, " 5", "5/2 ");
+    keepOdds(3, "5", "3.5");
+    keepOdds(3, "6", "9/1");
+    keepOdds(3, "6", "");
+    notes.takeUp();
+    EXPECT_EQ("3.5", notes.odds(3, "5 "));
+    EXPECT_EQ("", notes.odds(3, "6"));
+    EXPECT_EQ("", notes.odds(4, "5"));
+    card.cardFileName = "NFLD_20260315.pmd";
+    EXPECT_EQ("", notes.odds(3, "5"));
+}
+
 TEST_F(NotesTest, ALargeFileKeepsEveryLine) {
     const Text line = "20260301\tNFLD_20260301\tRoe, C\t" + Text(64, 'x') + "\r\n"; // 96 bytes
     constexpr std::size_t lines = 110'000;                                          // above 10 MB

@@ -112,6 +112,7 @@ TEST_F(WorthPanelTest, TonightsOddsStayWithTheirRaceAndOutOfTheCardsFile) {
     EXPECT_EQ("77/1", cell(1, tonight));
     choose("Save");
     EXPECT_EQ(std::string::npos, contentOf("A Quillon PRO/Race Cards/MVR_20260314.pmd").find("77/1"));
+    EXPECT_EQ("20260314\tMVR_20260314\tOdds of race 1, number 2\t77/1\r\n", contentOf("Notes.txt"));
 }
 
 TEST_F(WorthPanelTest, OddsAreTypedWithTheKeysAlone) {
