@@ -33,7 +33,7 @@ enum class Folder {
     entries,
     drivers,
     recovery,
-    given, ///< none of ours: the name is a path, as the user gave it
+    given,    ///< none of ours: the name is a path, as the user gave it
     imported, ///< tables of the vendor's that others have taken the place of
 };
 

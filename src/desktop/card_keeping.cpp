@@ -54,10 +54,11 @@ void CardKeeping::offer() {
     const LeftBehind* left = nullptr;
     attempt([&] { left = leftBehind(); });
     if (!left) return bar_.take(leftBehindKey);
+    const auto restore = [this] { runner_.run(CommandId::Recover); };
+    const auto putAway = [this] { runner_.run(CommandId::Forget); };
     bar_.put({.key = leftBehindKey,
               .text = leftBehindWords(left->heading),
-              .actions = {{tr("Restore"), [this] { runner_.run(CommandId::Recover); }},
-                          {tr("Put Away"), [this] { runner_.run(CommandId::Forget); }}}});
+              .actions = {{tr("Restore"), restore}, {tr("Put Away"), putAway}}});
 }
 
 } // namespace quillon

@@ -1,8 +1,8 @@
 #include "desktop/view_menu.h"
 
-#include "desktop/side_dock.h"
 #include "desktop/desktop_ports.h"
 #include "desktop/shown_text.h"
+#include "desktop/side_dock.h"
 
 #include <QActionGroup>
 
