@@ -4,6 +4,7 @@
 #include "card/race_card.h"
 #include "core/failure.h"
 #include "core/files.h"
+#include "day/changes.h"
 #include "day/snapshot.h"
 #include "screen/screen.h"
 
@@ -101,6 +102,7 @@ void MSFlex2() {
 void StartUp() {
     const Step step{"StartUp"};
     resetAll();
+    changes.end();
     Text crossover;
     attempt([&] { crossover = crossoverText(); });
     screen.caption = windowCaption;
