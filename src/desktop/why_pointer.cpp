@@ -36,15 +36,16 @@ void WhyPointer::tellAt(const QModelIndex& cell, const QPoint& place) {
     QToolTip::showText(place, tipOf(cell), table_.viewport(), table_.visualRect(cell));
 }
 
+// The kind of event is asked first: others come while the table is taken apart, which has no viewport then.
 bool WhyPointer::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == table_.viewport() && event->type() == QEvent::ToolTip) {
+    if (event->type() == QEvent::ToolTip && watched == table_.viewport()) {
         const auto* help = static_cast<QHelpEvent*>(event);
         const QModelIndex cell = table_.indexAt(help->pos());
         if (!isRating(cell)) return false;
         tellAt(cell, help->globalPos());
         return true;
     }
-    if (watched == &table_ && event->type() == QEvent::KeyPress) {
+    if (event->type() == QEvent::KeyPress && watched == &table_) {
         const auto* press = static_cast<QKeyEvent*>(event);
         const QModelIndex cell = table_.currentIndex();
         if (press->key() != Qt::Key_Space || press->modifiers() != Qt::NoModifier || !isRating(cell))

@@ -47,12 +47,12 @@ class FullDiskTest : public FailedWritesTest {
 protected:
     FullDiskTest() {
         fs::create_directory("disk");
-        isMounted_ = ::mount("tmpfs", "disk", "tmpfs", 0, "size=4m") == 0;
-        if (isMounted_) fs::current_path("disk");
+        isMounted = ::mount("tmpfs", "disk", "tmpfs", 0, "size=4m") == 0;
+        if (isMounted) fs::current_path("disk");
     }
     ~FullDiskTest() override {
         window.reset();
-        if (!isMounted_) return;
+        if (!isMounted) return;
         fs::current_path("..");
         ::umount2("disk", MNT_DETACH);
     }
@@ -62,11 +62,11 @@ protected:
         ASSERT_EQ(0U, fs::space(".").available);
     }
 
-    bool isMounted_ = false;
+    bool isMounted = false;
 };
 
 TEST_F(FullDiskTest, AScratchTellsThatSheetAndRefundAreNotWritten) {
-    if (!isMounted_) GTEST_SKIP() << "a disk can be mounted by the superuser alone";
+    if (!isMounted) GTEST_SKIP() << "a disk can be mounted by the superuser alone";
     startInWindow();
     fill();
     scratch(2);
@@ -78,7 +78,7 @@ TEST_F(FullDiskTest, AScratchTellsThatSheetAndRefundAreNotWritten) {
 }
 
 TEST_F(FullDiskTest, ASaveTellsThatTheCardIsNotSavedAndSavesOnceThereIsRoom) {
-    if (!isMounted_) GTEST_SKIP() << "a disk can be mounted by the superuser alone";
+    if (!isMounted) GTEST_SKIP() << "a disk can be mounted by the superuser alone";
     startInWindow();
     scratch(2);
     fill();
