@@ -37,7 +37,7 @@ protected:
             ASSERT_EQ(before.has_value(), after.has_value()) << step.name;
             if (!before) continue;
             ASSERT_NEAR(*before + step.points(), *after, 0.0501) << step.name;
-            if (!step.terms.empty()) steps_.insert(Text{step.name});
+            if (!step.terms.empty()) stepsSeen.insert(Text{step.name});
         }
     }
 
@@ -45,15 +45,15 @@ protected:
     void expectStored(const LineRoad& road) {
         const PastLine& stored = card.pastLine.read(road.race, road.entry, road.line);
         if (stored.lineNumber != road.lineNumber) return; // horses without a post share their lines
-        ++lines_;
+        ++linesSeen;
         ASSERT_EQ(lenientNumber(stored.rating), lenientNumber(road.steps.back().after));
         const auto figure = numberIn(road.steps.back().before);
         if (!figure || lenientNumber(stored.rating) == *figure) return;
         ASSERT_EQ("99.9", road.steps.back().after);
     }
 
-    int lines_ = 0;
-    std::set<Text> steps_; ///< that added something on some line
+    int linesSeen = 0;
+    std::set<Text> stepsSeen; ///< that added something on some line
 };
 
 TEST_F(WhyProperties, EveryRoadEndsAtTheRatingInTheStore) {
@@ -70,10 +70,10 @@ TEST_F(WhyProperties, EveryRoadEndsAtTheRatingInTheStore) {
             if (HasFatalFailure()) return;
         }
     }
-    EXPECT_GT(lines_, 5000);
+    EXPECT_GT(linesSeen, 5000);
     const std::set<Text> all{"ClassChange",  "FavouriteCredit", "Last_PP",         "LeadHorse", "ParkOuts",
                              "ParkOutsWind", "PostPosition",    "QualifierCredit", "Tracks",    "WPS"};
-    for (const Text& step : all) EXPECT_TRUE(steps_.count(step) > 0) << step;
+    for (const Text& step : all) EXPECT_TRUE(stepsSeen.count(step) > 0) << step;
 }
 
 TEST_F(WhyProperties, TheChosenLineIsTheOneThatSpeaksForItsEntry) {
