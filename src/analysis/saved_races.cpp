@@ -38,7 +38,9 @@ Starters startersOf(const SavedCard& card, int race) {
 } // namespace
 
 std::optional<double> usableRating(TextView rating) {
-    constexpr double unusable = 90; // above any time that a horse takes, below 99.9 less all credits
+    // A scratch is 99.9, less what it gains by those inside it: 0.5 + 3 + 1 + 2.5 + 0.7 + 0.8 from post 10 on a
+    // half-mile track, down to 91.4.
+    constexpr double unusable = 91;
     const auto number = numberIn(rating);
     return number && *number > 0 && *number < unusable ? number : std::nullopt;
 }

@@ -215,7 +215,7 @@ void WorthPanel::markRow(int row) {
     else if (!offered && !trimmed(typedOdds).empty())
         words = tr("no odds");
     else if (!entry.rating)
-        words = tr("no rating");
+        words = tr("no usable rating");
     table_->item(row, mark)->setText(words);
     for (int column = 0; column < columns; ++column) {
         QFont font = table_->font();

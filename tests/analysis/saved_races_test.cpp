@@ -66,6 +66,15 @@ TEST(JudgedRaceOf, ASavedCardHasItsStartersAndItsWinner) {
     EXPECT_NEAR(1.0 / 6, race->lineChances[2], 1e-12);
 }
 
+// On a half-mile track a scratch at post 10 gains 0.5 there, then 3, 1, 2.5, 0.7 and 0.8 as it moves in: 8.5 of 99.9.
+TEST(UsableRating, ASlowHorseHasOneAndAScratchHasNone) {
+    EXPECT_EQ(90.0, usableRating(" 90.0"));
+    EXPECT_EQ(std::nullopt, usableRating("91.4"));
+    EXPECT_EQ(std::nullopt, usableRating("99.9"));
+    EXPECT_EQ(std::nullopt, usableRating("0"));
+    EXPECT_EQ(std::nullopt, usableRating(""));
+}
+
 TEST(JudgedRaceOf, ScratchedAndUnratedAreLeftOut) {
     auto entries = three;
     entries.push_back({6, "  6", " 3/1", "99.9"}); // scratched, or without a usable line
