@@ -3,6 +3,7 @@
 #include "card/race_card.h"
 #include "rating/diagnostic_log.h"
 #include "rating/line_factors.h"
+#include "rating/plain_line.h"
 #include "support/card_test.h"
 #include "tables/load_state.h"
 #include "tables/table_builder.h"
@@ -435,30 +436,12 @@ TEST_F(LineFactorsTest, ALineClosesWithFiveCharactersOrAsUnusable) {
 class RateLineTest : public LineFactorsTest {
 protected:
     RateLineTest() {
-        put("TrackEditor.ini", track("TQ", "3/4") + track("HALF", "1/2") + track("FIVE", "5/8") +
-                                   track("MILE", "1.M") + track("M1", "1.M"));
+        put("TrackEditor.ini", trackRow("TQ", "3/4") + trackRow("HALF", "1/2") + trackRow("FIVE", "5/8") +
+                                   trackRow("MILE", "1.M") + trackRow("M1", "1.M"));
         readTrackTable();
-        screen.header.track.caption = "TQ";
-        card.trackSize = "3/4";
-        card.maxPosts = 8;
-        card.raceInfo(1).todaysCr = "75";
-        card.totalLines = 12;
+        setPlainLine();
         card.driverTable(7).name = "Mapes, J";
-        cursor.row = 3;
-        setPost("2");
-        load.line.TRACK = "TQ";
-        load.line.TRACKSIZE = "3/4";
-        load.line.DIST_MILES = "1";
-        load.line.HRSE_TM_4Q = "29.1";
-        load.line.CALL_FN_PO = "5";
-        load.line.CR = "75";
         load.line.DN = "7";
-        cursor.horseFinal = "54.3"; // 3 x 54.3 - 25.3 - 70 = 67.6
-        cursor.leaderFinal = "25.3";
-    }
-
-    static Text track(TextView key, TextView size) {
-        return inField(key, 36) + inField(size, 3) + "   990*   57.0  10\r\n";
     }
 
     /// The post of the line's horse.

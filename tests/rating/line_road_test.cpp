@@ -3,6 +3,7 @@
 #include "rating/line_factors.h"
 #include "rating/line_reasons.h"
 #include "rating/line_road.h"
+#include "rating/plain_line.h"
 #include "screen/screen.h"
 #include "support/card_test.h"
 #include "tables/load_state.h"
@@ -18,15 +19,11 @@ class LineRoadTest : public CardTest {
 protected:
     LineRoadTest() {
         load = {};
-        put("TrackEditor.ini", track("TQ", "3/4") + track("HALF", "1/2") + track("MILE", "1.M"));
+        put("TrackEditor.ini", trackRow("TQ", "3/4") + trackRow("HALF", "1/2") + trackRow("MILE", "1.M"));
         readTrackTable();
         reset();
     }
     ~LineRoadTest() override { load = {}; }
-
-    static Text track(TextView key, TextView size) {
-        return inField(key, 36) + inField(size, 3) + "   990*   57.0  10\r\n";
-    }
 
     static void reset() {
         const TrackTable tracks = load.tracks;
@@ -34,25 +31,11 @@ protected:
         load = {};
         load.tracks = tracks;
         cursor = {};
-        screen.header.track.caption = "TQ";
-        card.trackSize = "3/4";
-        card.maxPosts = 8;
-        card.raceInfo(1).todaysCr = "75";
-        card.totalLines = 12;
         cursor.race = 1;
         cursor.entry = 2;
         cursor.line = 1;
-        cursor.row = 3;
-        cursor.horseFinal = "54.3";
-        cursor.leaderFinal = "25.3";
-        load.horse.PP = "2";
+        setPlainLine();
         load.line.POST = "3";
-        load.line.TRACK = "TQ";
-        load.line.TRACKSIZE = "3/4";
-        load.line.DIST_MILES = "1";
-        load.line.HRSE_TM_4Q = "29.1";
-        load.line.CALL_FN_PO = "5";
-        load.line.CR = "75";
     }
 
     static LineRoad road() {
