@@ -102,6 +102,19 @@ TEST_F(KeepingTest, AResultsPassIsKeptBeforeItBegins) {
     EXPECT_EQ(1, left->heading.changes); // the typed winner, without the pass
 }
 
+TEST_F(KeepingTest, AHeatIsKeptBeforeItBegins) {
+    startDay();
+    change();
+    press("HeatWinner");
+    answers = {"14", "1", "2"};
+    ASSERT_TRUE(press("HeatChoice", {{1}, ""}));
+    ASSERT_EQ(1U, keptFiles().size());
+    fs::copy_file(keptFiles().front(), folder / "left-1.recovery");
+    ASSERT_NE(nullptr, leftBehind());
+    EXPECT_EQ(1, leftBehind()->heading.changes); // the typed winner, without the heat
+    EXPECT_EQ(2U, changes.standing().size());
+}
+
 TEST_F(KeepingTest, ASaveACloseAnotherCardAndTheWayBackLeaveNothing) {
     keepWithin = milliseconds{0};
     startDay();
